@@ -1,0 +1,19 @@
+# The figures must come out the same on every machine: strict IEEE arithmetic, no contraction of
+# a product and a sum into one rounding, and no build at all with "fast" mathematics.
+
+if(CMAKE_BUILD_TYPE)
+  string(TOUPPER "${CMAKE_BUILD_TYPE}" buildType)
+endif()
+foreach(flags CMAKE_CXX_FLAGS CMAKE_CXX_FLAGS_${buildType})
+  if("${${flags}}" MATCHES "-Ofast|-ffast-math|-funsafe-math|-fassociative-math|-freciprocal-math|-ffinite-math-only|-ffp-contract=(fast|on)")
+    message(FATAL_ERROR "${flags} asks for ${CMAKE_MATCH_0}: Durvela needs strict arithmetic.")
+  endif()
+endforeach()
+
+add_library(durvela_options INTERFACE)
+target_compile_features(durvela_options INTERFACE cxx_std_20)
+target_compile_options(durvela_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+  # A row of a table of controls names what differs from the usual and leaves the rest.
+  -Wno-missing-field-initializers
+  -fno-fast-math -ffp-contract=off)

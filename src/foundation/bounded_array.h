@@ -1,0 +1,29 @@
+// An array with fixed bounds whose index is checked before an element is touched.
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+#include "foundation/error.h"
+
+namespace foundation {
+
+// Elements Lower to Upper, both included. Indexing outside them raises Subscript.
+template <typename T, int Lower, int Upper>
+class BoundedArray {
+ public:
+  static_assert(Lower <= Upper);
+
+  T& operator[](int index) { return elements_[Offset(index)]; }
+  const T& operator[](int index) const { return elements_[Offset(index)]; }
+
+ private:
+  static std::size_t Offset(int index) {
+    if (index < Lower || index > Upper) throw Error(ErrorKind::Subscript);
+    return static_cast<std::size_t>(index - Lower);
+  }
+
+  std::array<T, static_cast<std::size_t>(Upper - Lower + 1)> elements_{};
+};
+
+}  // namespace foundation

@@ -1,0 +1,60 @@
+// Arithmetic whose floating-point traps are errors: no infinity and no NaN travels on.
+#pragma once
+
+#include <cfloat>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <optional>
+
+#include "foundation/error.h"
+
+#ifdef __FAST_MATH__
+#error "Durvela needs strict arithmetic; build it without -ffast-math."
+#endif
+
+namespace foundation {
+
+static_assert(std::numeric_limits<double>::is_iec559 && FLT_EVAL_METHOD == 0,
+              "a step of 64-bit arithmetic must round once, to 64 bits");
+
+// x itself. Overflow where it is infinite, InvalidCall where it is not a number.
+inline double Finite(double x) {
+  if (std::isnan(x)) throw Error(ErrorKind::InvalidCall);
+  if (std::isinf(x)) throw Error(ErrorKind::Overflow);
+  return x;
+}
+
+inline double Divide(double dividend, double divisor) {
+  if (divisor == 0) throw Error(ErrorKind::DivisionByZero);
+  return Finite(dividend / divisor);
+}
+
+// InvalidCall for a negative x.
+inline double SquareRoot(double x) {
+  if (x < 0) throw Error(ErrorKind::InvalidCall);
+  return std::sqrt(Finite(x));
+}
+
+// Integer division and remainder, truncating toward zero.
+inline std::int64_t IntegerDivide(std::int64_t dividend, std::int64_t divisor) {
+  if (divisor == 0) throw Error(ErrorKind::DivisionByZero);
+  if (divisor == -1) {
+    if (dividend == std::numeric_limits<std::int64_t>::min()) throw Error(ErrorKind::Overflow);
+    return -dividend;
+  }
+  return dividend / divisor;
+}
+
+inline std::int64_t IntegerRemainder(std::int64_t dividend, std::int64_t divisor) {
+  return divisor == -1 ? 0 : dividend - IntegerDivide(dividend, divisor) * divisor;
+}
+
+// The value of a result that an earlier, failed statement may have left unset; Subscript if so.
+template <typename T>
+const T& Filled(const std::optional<T>& result) {
+  if (!result) throw Error(ErrorKind::Subscript);
+  return *result;
+}
+
+}  // namespace foundation

@@ -1,0 +1,148 @@
+#include "foundation/date_text.h"
+
+#include <string>
+
+#include "foundation/checked.h"
+#include "foundation/locale_names.h"
+#include "foundation/text.h"
+
+namespace foundation {
+namespace {
+
+// Reads a text from the left, piece by piece.
+class Reader {
+ public:
+  explicit Reader(std::string_view text) : rest_(text) { SkipBlanks(); }
+
+  bool AtEnd() const { return rest_.empty(); }
+  std::string_view Rest() const { return rest_; }
+
+  void SkipBlanks() {
+    while (!rest_.empty() && rest_.front() == ' ') rest_.remove_prefix(1);
+  }
+
+  bool Take(char c) {
+    if (rest_.empty() || rest_.front() != c) return false;
+    rest_.remove_prefix(1);
+    return true;
+  }
+
+  // What stands between two fields of a date: one "-" or "/" with blanks around it, or blanks.
+  bool TakeDateSeparator() {
+    const std::size_t before = rest_.size();
+    SkipBlanks();
+    if (Take('-') || Take('/')) SkipBlanks();
+    return rest_.size() < before;
+  }
+
+  // A whole number of one to four digits.
+  std::optional<int> TakeNumber() {
+    int number = 0;
+    std::size_t digits = 0;
+    while (digits < rest_.size() && rest_[digits] >= '0' && rest_[digits] <= '9') {
+      if (digits == 4) return std::nullopt;
+      number = number * 10 + (rest_[digits] - '0');
+      ++digits;
+    }
+    if (digits == 0) return std::nullopt;
+    rest_.remove_prefix(digits);
+    return number;
+  }
+
+  // The longest of the month names that the text begins with: "Tháng 11" before "Tháng 1".
+  std::optional<int> TakeMonthName() {
+    const std::string folded = FoldCase(rest_);
+    std::size_t longest = 0;
+    int month = 0;
+    for (const LocaleNames* names : {&UserNames(), &EnglishNames()}) {
+      for (int i = 0; i < 12; ++i) {
+        const std::string name = FoldCase(names->months[static_cast<std::size_t>(i)]);
+        if (name.size() > longest && folded.starts_with(name)) {
+          longest = name.size();
+          month = i + 1;
+        }
+      }
+    }
+    if (month == 0) return std::nullopt;
+    rest_.remove_prefix(longest);  // folding keeps the length of every character
+    return month;
+  }
+
+  // "AM" or "PM", in any case: the hours that it adds to hours counted from 0.
+  std::optional<int> TakeHalfOfDay() {
+    const std::string half = FoldCase(rest_.substr(0, 2));
+    if (half != "am" && half != "pm") return std::nullopt;
+    rest_.remove_prefix(2);
+    return half == "pm" ? 12 : 0;
+  }
+
+ private:
+  std::string_view rest_;
+};
+
+std::optional<DateTime> TakeDate(Reader& reader) {
+  const auto day = reader.TakeNumber();
+  if (!day || !reader.TakeDateSeparator()) return std::nullopt;
+  auto month = reader.TakeNumber();
+  if (!month) month = reader.TakeMonthName();
+  if (!month || !reader.TakeDateSeparator()) return std::nullopt;
+  auto year = reader.TakeNumber();
+  if (!year) return std::nullopt;
+  if (*year < 100) *year += *year < 30 ? 2000 : 1900;
+  if (*month < 1 || *month > 12 || *day < 1 || *day > 31) return std::nullopt;
+
+  const DateTime date = DateFromParts(*year, *month, *day);
+  if (FieldsOf(date).day != *day) return std::nullopt;  // a day 31 that rolled over
+  return date;
+}
+
+std::optional<DateTime> TakeTime(Reader& reader) {
+  auto hour = reader.TakeNumber();
+  if (!hour || !reader.Take(':')) return std::nullopt;
+  const auto minute = reader.TakeNumber();
+  std::optional<int> second = 0;
+  if (reader.Take(':')) second = reader.TakeNumber();
+  if (!minute || !second) return std::nullopt;
+  reader.SkipBlanks();
+  if (const auto half = reader.TakeHalfOfDay()) {
+    if (*hour < 1 || *hour > 12) return std::nullopt;
+    hour = *hour % 12 + *half;
+  }
+  if (*hour > 23 || *minute > 59 || *second > 59) return std::nullopt;
+  return TimeFromParts(*hour, *minute, *second);
+}
+
+// The whole of what is left is a time.
+std::optional<DateTime> TakeLastTime(Reader& reader) {
+  const auto time = TakeTime(reader);
+  reader.SkipBlanks();
+  return reader.AtEnd() ? time : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<DateTime> TryReadTime(std::string_view text) {
+  Reader reader(text);
+  return TakeLastTime(reader);
+}
+
+std::optional<DateTime> TryReadDateTime(std::string_view text) {
+  if (const auto time = TryReadTime(text)) return time;
+  Reader reader(text);
+  const auto date = TakeDate(reader);
+  const bool apart = reader.Rest().starts_with(' ');
+  reader.SkipBlanks();
+  if (!date || reader.AtEnd()) return date;
+  if (!apart) return std::nullopt;
+  const auto time = TakeLastTime(reader);
+  if (!time) return std::nullopt;
+  return *date + *time;
+}
+
+DateTime ReadDateTime(std::string_view text) {
+  const auto moment = TryReadDateTime(text);
+  if (!moment) throw Error(ErrorKind::TypeMismatch);
+  return *moment;
+}
+
+}  // namespace foundation

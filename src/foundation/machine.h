@@ -1,0 +1,48 @@
+// What a screen program needs of the machine, behind interfaces small enough to be faked.
+#pragma once
+
+#include <string_view>
+
+#include "foundation/calendar.h"
+
+namespace foundation {
+
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  virtual DateTime Now() const = 0;  // local time
+};
+
+enum class MessageIcon { None, Information, Question, Exclamation, Critical };
+enum class MessageButtons { Ok, YesNo };
+enum class MessageAnswer { Ok, Yes, No };
+
+class MessageBoxes {
+ public:
+  virtual ~MessageBoxes() = default;
+  // Shows a modal box and waits. Closing a box of Yes and No without an answer is No.
+  virtual MessageAnswer Show(std::string_view text, MessageIcon icon,
+                             MessageButtons buttons = MessageButtons::Ok,
+                             std::string_view title = {}) = 0;
+};
+
+class Yielder {
+ public:
+  virtual ~Yielder() = default;
+  // Lets pending events, timers among them, run before the caller goes on.
+  virtual void Yield() = 0;
+};
+
+class RandomNumbers {
+ public:
+  virtual ~RandomNumbers() = default;
+  virtual double Next() = 0;  // 0 to below 1
+};
+
+class Browser {
+ public:
+  virtual ~Browser() = default;
+  virtual void Open(std::string_view address) = 0;
+};
+
+}  // namespace foundation

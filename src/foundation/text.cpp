@@ -1,0 +1,108 @@
+#include "foundation/text.h"
+
+#include <cstdint>
+
+#include "foundation/error.h"
+
+namespace foundation {
+namespace {
+
+// Bytes of the character at the start of a non-empty text.
+std::size_t CharacterLength(std::string_view text) {
+  const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
+  const unsigned char first = byte(0);
+  const std::size_t length = first < 0xC2   ? 1
+                             : first < 0xE0 ? 2
+                             : first < 0xF0 ? 3
+                             : first < 0xF5 ? 4
+                                            : 1;
+  if (length > text.size()) return 1;
+  for (std::size_t i = 1; i < length; ++i) {
+    if ((byte(i) & 0xC0) != 0x80) return 1;
+  }
+  return length;
+}
+
+// Capitals of two bytes in UTF-8 whose small letters stand a fixed distance behind, or, at
+// distance 1, at every other place from the first. After the Unicode case-folding data.
+struct CapitalRange {
+  char32_t first, last;
+  int distance;
+};
+constexpr CapitalRange kCapitals[] = {
+    {0x00C0, 0x00D6, 32}, {0x00D8, 0x00DE, 32}, {0x0100, 0x012E, 1},  {0x0132, 0x0136, 1},
+    {0x0139, 0x0147, 1},  {0x014A, 0x0176, 1},  {0x0386, 0x0386, 38}, {0x0388, 0x038A, 37},
+    {0x0391, 0x03A1, 32}, {0x03A3, 0x03AB, 32}, {0x0400, 0x040F, 80}, {0x0410, 0x042F, 32},
+    {0x0460, 0x0480, 1},  {0x048A, 0x04BE, 1},  {0x04D0, 0x052E, 1},
+};
+
+char32_t Folded(char32_t letter) {
+  for (const CapitalRange& range : kCapitals) {
+    if (letter < range.first || letter > range.last) continue;
+    if (range.distance == 1 && (letter - range.first) % 2 != 0) return letter;
+    return letter + static_cast<char32_t>(range.distance);
+  }
+  return letter;
+}
+
+}  // namespace
+
+std::vector<std::string_view> Characters(std::string_view text) {
+  std::vector<std::string_view> characters;
+  while (!text.empty()) {
+    const std::size_t length = CharacterLength(text);
+    characters.push_back(text.substr(0, length));
+    text.remove_prefix(length);
+  }
+  return characters;
+}
+
+std::string_view LastCharacter(std::string_view text) {
+  const auto characters = Characters(text);
+  return characters.empty() ? std::string_view() : characters.back();
+}
+
+std::string_view FirstCharacters(std::string_view text, int count) {
+  if (count < 0) throw Error(ErrorKind::InvalidCall);
+  std::size_t end = 0;
+  for (int i = 0; i < count && end < text.size(); ++i) end += CharacterLength(text.substr(end));
+  return text.substr(0, end);
+}
+
+std::string FoldCase(std::string_view text) {
+  std::string folded;
+  for (const std::string_view character : Characters(text)) {
+    if (character.size() == 1 && character[0] >= 'A' && character[0] <= 'Z') {
+      folded += static_cast<char>(character[0] + ('a' - 'A'));
+    } else if (character.size() == 2) {
+      const char32_t letter = Folded(static_cast<char32_t>((character[0] & 0x1F) << 6) |
+                                     static_cast<char32_t>(character[1] & 0x3F));
+      folded += static_cast<char>(0xC0 | (letter >> 6));
+      folded += static_cast<char>(0x80 | (letter & 0x3F));
+    } else {
+      folded += character;
+    }
+  }
+  return folded;
+}
+
+std::string UpperAscii(std::string_view text) {
+  std::string upper(text);
+  for (char& c : upper) {
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - ('a' - 'A'));
+  }
+  return upper;
+}
+
+std::vector<std::string_view> Split(std::string_view text, char separator) {
+  std::vector<std::string_view> fields;
+  std::size_t at = 0;
+  for (std::size_t next; (next = text.find(separator, at)) != std::string_view::npos;) {
+    fields.push_back(text.substr(at, next - at));
+    at = next + 1;
+  }
+  fields.push_back(text.substr(at));
+  return fields;
+}
+
+}  // namespace foundation

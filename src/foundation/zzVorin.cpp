@@ -1,0 +1,104 @@
+#include "foundation/zzVorin.h"
+
+#include <cmath>
+
+#include "foundation/calendar.h"
+#include "foundation/checked.h"
+#include "foundation/locale_names.h"
+#include "foundation/numbers.h"
+#include "foundation/resume.h"
+#include "foundation/text.h"
+
+namespace foundation {
+namespace {
+
+std::string_view TimeField(std::string_view text, std::size_t number) {
+  const auto fields = Split(text, ':');
+  if (number >= fields.size()) throw Error(ErrorKind::Subscript);
+  return fields[number];
+}
+
+// Subtracts the limit from hours above it and adds it to hours below zero, until neither holds.
+// Hours equal to the limit stay.
+double HoursWithin(double hours, double limit) {
+  if (hours >= 0 && hours <= limit) return hours;
+  const double rest = std::fmod(hours, limit);
+  if (rest < 0) return rest + limit;
+  return rest == 0 && hours > 0 ? limit : rest;
+}
+
+}  // namespace
+
+double FracPart(double x) {
+  return x - FloorToInt32(x);
+}
+
+std::string PadDigits(std::string_view value, int width) {
+  if (width < 0) throw Error(ErrorKind::InvalidCall);
+  const auto length = static_cast<int>(Characters(value).size());
+  const std::string fill(static_cast<std::size_t>(length < width ? width - length : 0), '0');
+  return std::string(FirstCharacters(fill + std::string(value), width));
+}
+
+std::string PadDigits(double value, int width) {
+  return PadDigits(NumberText(value), width);
+}
+
+std::string DecimalToTimeText(double x, double limit, bool noSeconds) {
+  if (!(Finite(limit) > 0)) throw Error(ErrorKind::InvalidCall);
+  const double hours = HoursWithin(std::floor(Finite(x)), limit);
+  const double m = (x - std::floor(x)) * 60;
+  const double minutes = std::floor(m);
+  const double seconds = std::floor((m - minutes) * 60 + 0.5);
+
+  const auto joined = [&](double h, double min, double s) {
+    std::string text = PadDigits(h, 2) + ":" + PadDigits(min, 2);
+    if (!noSeconds) text += ":" + PadDigits(s, 2);
+    return text;
+  };
+  if (limit != 24) return joined(hours, minutes, seconds);
+  const DateTimeFields time = FieldsOf(TimeFromParts(hours, minutes, seconds));
+  return joined(time.hour, time.minute, time.second);
+}
+
+std::string TimeTextHour(std::string_view text) {
+  return std::string(TimeField(text, 0));
+}
+
+std::string TimeTextMinute(std::string_view text) {
+  std::string minute;
+  Resume([&] { minute = TimeField(text, 1); });
+  return minute;
+}
+
+double TimeTextSecond(std::string_view text) {
+  double second = 0;
+  Resume([&] { second = LeadingNumber(TimeField(text, 2)); });
+  return second;
+}
+
+double TimeTextToDecimal(std::string_view text) {
+  return Finite(LeadingNumber(TimeTextHour(text)) + LeadingNumber(TimeTextMinute(text)) / 60 +
+                TimeTextSecond(text) / 3600);
+}
+
+std::string DateTimeText(double day, double month, double year, double hour, double minutes,
+                         double seconds) {
+  if (seconds >= 60) {
+    seconds -= 60;
+    minutes += 1;
+  }
+  if (minutes >= 60) {
+    minutes -= 60;
+    hour += 1;
+  }
+  if (hour >= 24) {
+    hour -= 24;
+    day += 1;
+  }
+  const DateTimeFields date = FieldsOf(DateFromParts(year, month, day));
+  return NumberText(date.day) + "-" + MonthName(date.month) + "-" + NumberText(date.year) + " " +
+         NumberText(hour) + ":" + NumberText(minutes) + ":" + NumberText(seconds);
+}
+
+}  // namespace foundation

@@ -1,0 +1,40 @@
+#include "foundation/text.h"
+
+#include <gtest/gtest.h>
+
+#include "support/errors.h"
+
+namespace foundation {
+namespace {
+
+TEST(Text, GoesByCharactersNotBytes) {
+  EXPECT_EQ(Characters("8°4").size(), 3U);
+  EXPECT_EQ(LastCharacter("28°"), "°");
+  EXPECT_EQ(LastCharacter(""), "");
+  EXPECT_EQ(FirstCharacters("शनिवार", 3), "शनि");
+  EXPECT_EQ(FirstCharacters("ab", 3), "ab");
+  EXPECT_ERROR(InvalidCall, FirstCharacters("ab", -1));
+}
+
+TEST(Text, TakesAStrayByteAsACharacter) {
+  EXPECT_EQ(Characters("a\xC3").size(), 2U);
+  EXPECT_EQ(Characters("\x80\xFF").size(), 2U);
+  EXPECT_EQ(Characters("\xE0\xA4z").size(), 3U);
+}
+
+TEST(Text, FoldsCaseOfLettersWithASmallForm) {
+  EXPECT_EQ(FoldCase("MÄRZ Şubat ΜΆΡΤΙΟΣ МАРТ Ёлка"), "märz şubat μάρτιοσ март ёлка");
+  EXPECT_EQ(FoldCase("×ß्"), "×ß्");
+}
+
+TEST(Text, SplitsAtEverySeparator) {
+  EXPECT_EQ(Split("", ':').size(), 1U);
+  const auto fields = Split("6::9:", ':');
+  ASSERT_EQ(fields.size(), 4U);
+  EXPECT_EQ(fields[0], "6");
+  EXPECT_EQ(fields[1], "");
+  EXPECT_EQ(fields[3], "");
+}
+
+}  // namespace
+}  // namespace foundation

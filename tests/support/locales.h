@@ -1,0 +1,33 @@
+// Locale objects for tests.
+#pragma once
+
+#include <utility>
+
+#include "foundation/locale_names.h"
+
+namespace support {
+
+inline foundation::LocaleNames German() {
+  return {{"Januar", "Februar", "März", "April", "Mai", "Juni", "Juli", "August", "September",
+           "Oktober", "November", "Dezember"},
+          {"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"}};
+}
+
+inline foundation::LocaleNames Hindi() {
+  return {{"जनवरी", "फ़रवरी", "मार्च", "अप्रैल", "मई", "जून", "जुलाई", "अगस्त", "सितंबर", "अक्तूबर", "नवंबर",
+           "दिसंबर"},
+          {"रविवार", "सोमवार", "मंगलवार", "बुधवार", "गुरुवार", "शुक्रवार", "शनिवार"}};
+}
+
+// Puts names in place and the English ones back.
+class UserNamesScope {
+ public:
+  explicit UserNamesScope(foundation::LocaleNames names) {
+    foundation::SetUserNames(std::move(names));
+  }
+  ~UserNamesScope() { foundation::SetUserNames(foundation::EnglishNames()); }
+  UserNamesScope(const UserNamesScope&) = delete;
+  UserNamesScope& operator=(const UserNamesScope&) = delete;
+};
+
+}  // namespace support

@@ -1,0 +1,20 @@
+// The tests' main: takes the process locale from the environment, as programs of a toolkit do, and
+// makes sure of it where a run asks for a decimal comma.
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+int main(int argc, char** argv) {
+  std::setlocale(LC_ALL, "");
+  if (std::getenv("EXPECT_DECIMAL_COMMA") != nullptr &&
+      std::strcmp(std::localeconv()->decimal_point, ",") != 0) {
+    std::fputs("the process locale has no decimal comma\n", stderr);
+    return EXIT_FAILURE;
+  }
+  testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}
