@@ -1,0 +1,57 @@
+// clsBirthDetails: when the sun rose and set for the Hindu day that holds a moment.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace dayperiods {
+
+// Sunrise and sunset of one day in decimal hours, always whole minutes.
+struct SunriseRows {
+  double localMeanRise = 0;  // row 1
+  double localMeanSet = 0;   // row 2
+  double clockRise = 0;      // row 3: by the zone's clock
+  double clockSet = 0;       // row 4
+  std::string date;          // row 5: "5 March 2011"
+};
+
+// Latitudes are decimal degrees, north positive; longitudes decimal degrees, east positive; zones
+// hours, east positive, so that clock time = Universal Time + zone.
+class clsBirthDetails {
+ public:
+  // Rows of the Hindu day, sunrise to sunrise, that holds the moment. Before sunrise that is the
+  // day before: nDay is then lowered by 1 in place, to 0 on the first of a month. Both times are
+  // 0 beyond 63 degrees of latitude.
+  // InvalidCall or DivisionByZero where the sun does not cross the horizon (|tan latitude * tan
+  // declination| of 1 or more).
+  SunriseRows Sunrise(double& Latitude, double& Longitude, double& ZoneRelativeGMT,
+                      std::int16_t& nDay, std::int16_t& nMonth, std::int16_t& nYear,
+                      std::int16_t& nHour, std::int16_t& nMin, std::int16_t& nSec);
+
+  // One time: the text of SRS, or with blnDEC decimal hours, 0 where that text is no time.
+  // RiseOrSet is "R" or "S". The coordinates are decimal numbers as texts with blnDecConvdata,
+  // else degrees.minutes with a hemisphere letter at their end.
+  std::variant<std::string, double> GetRISESET(std::int16_t nDay, std::int16_t nMonth,
+                                               std::int16_t nYear, std::string_view RiseOrSet,
+                                               std::string_view Latitude,
+                                               std::string_view Longitude, double ZoneRelativeGMT,
+                                               bool blnDEC, bool blnDecConvdata);
+
+  // "hh:mm" by the zone's clock; "" where the sun does not rise or set that day; "{invalid
+  // latitude}" beyond 63 degrees. Where the sun is more than 90 degrees of hour angle from noon
+  // at its rise, rise and set come 12 hours wrong; Sunrise puts that right.
+  std::string SRS(double Latitude, double Longitude, double ZoneRelativeGMT,
+                  std::string_view RiseOrSet, std::int16_t year, std::int16_t month,
+                  std::int16_t day);
+
+  // DecimalTime + GMTOffset, hours, brought into one day (DecimalTime is written back), as
+  // "hh:mm". Minutes that round to 60 leave plain numbers: "6:0". 24 stays "24:00".
+  std::string GetMilitaryTime(double& DecimalTime, double GMTOffset);
+
+  // An angle in radians brought into 0 to 2 pi.
+  double GetRange(double x);
+};
+
+}  // namespace dayperiods

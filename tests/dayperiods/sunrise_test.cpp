@@ -1,0 +1,100 @@
+#include <gtest/gtest.h>
+
+#include "dayperiods/clsBirthDetails.h"
+#include "dayperiods/clsUtilities.h"
+#include "support/errors.h"
+#include "support/locales.h"
+
+namespace dayperiods {
+namespace {
+
+using Number = std::int16_t;
+
+SunriseRows SunriseOf(double latitude, Number day, Number month, Number year, Number hour,
+                      Number minute, Number second) {
+  double longitude = 25.5, zone = 2;
+  return clsBirthDetails().Sunrise(latitude, longitude, zone, day, month, year, hour, minute,
+                                   second);
+}
+
+foundation::SessionTable Delhi() {
+  foundation::SessionTable session;
+  session.Current().LatitudeText = "28.40N";
+  session.Current().LongitudeText = "77.13E";
+  session.Current().ZoneMeridianText = "82.30E";
+  return session;
+}
+
+TEST(MilitaryTime, JoinsHoursAndMinutes) {
+  const struct {
+    double time, offset;
+    const char* text;
+  } kCases[] = {
+      {1.25, 5.5, "06:45"}, {20, 5.5, "01:30"},  {1, -5, "20:00"},      {18.5, 5.5, "24:00"},
+      {5.995, 0, "6:0"},    {23.995, 0, "24:0"}, {18.55, 5.5, "00:03"}, {0, 0, "00:00"},
+  };
+  for (const auto& [time, offset, text] : kCases) {
+    double t = time;
+    EXPECT_EQ(clsBirthDetails().GetMilitaryTime(t, offset), text) << time;
+  }
+  double written = 20;
+  clsBirthDetails().GetMilitaryTime(written, 5.5);
+  EXPECT_EQ(written, -4);
+}
+
+TEST(Range, BringsAnglesIntoOneTurn) {
+  EXPECT_NEAR(clsBirthDetails().GetRange(-1), 5.283185307179586, 1e-12);
+  EXPECT_NEAR(clsBirthDetails().GetRange(20), 1.1504440784612413, 1e-12);
+}
+
+TEST(RiseSet, TakesDegreesAndMinutesWithTheirHemisphere) {
+  clsBirthDetails details;
+  const auto text = [&](const char* latitude, const char* longitude, bool decimal) {
+    return std::get<std::string>(
+        details.GetRISESET(5, 3, 2011, "R", latitude, longitude, 5.5, false, decimal));
+  };
+  EXPECT_EQ(text("28.40N", "77.13E", false), text("28.666666666666668", "77.21666666666667", true));
+  EXPECT_EQ(text("28.40s", "77.13w", false),
+            text("-28.666666666666668", "-77.21666666666667", true));
+  EXPECT_EQ(text("63.01", "0", true), "{invalid latitude}");
+  EXPECT_EQ(std::get<double>(details.GetRISESET(5, 3, 2011, "R", "63.01", "0", 0, true, true)), 0);
+}
+
+TEST(HinduDay, BeginsAtSunriseToTheSecond) {
+  // Sunrise of 5 March 2011 in Delhi is 06:43 by the NOAA formulas as well.
+  const auto durvela = [](double hour, double minute, double second) {
+    const foundation::SessionTable session = Delhi();
+    const DaylightSegments day = clsUtilities(session).Divide(5, 3, 2011, hour, minute, second);
+    EXPECT_EQ(day.weekday, 7);  // of the calendar date, before sunrise too
+    return day.sunrise;
+  };
+  const double own = durvela(6, 43, 0);
+  EXPECT_DOUBLE_EQ(own, 6 + 43 / 60.0);
+  EXPECT_DOUBLE_EQ(durvela(6, 42, 59), 6 + 44 / 60.0);  // of the day before
+}
+
+TEST(HinduDay, FailsWhereTheSunDoesNotCrossTheHorizon) {
+  EXPECT_ERROR(InvalidCall, SunriseOf(70, 21, 6, 2011, 12, 0, 0));
+  EXPECT_ERROR(InvalidCall, SunriseOf(-70, 21, 12, 2011, 12, 0, 0));
+  EXPECT_EQ(SunriseOf(64, 21, 6, 2011, 12, 0, 0).clockRise, 0);
+}
+
+TEST(HinduDay, CarriesTheUsersMonthName) {
+  const support::UserNamesScope names(support::Hindi());
+  EXPECT_EQ(SunriseOf(20, 5, 3, 2011, 12, 0, 0).date, "5 मार्च 2011");
+  EXPECT_EQ(SunriseOf(20, 1, 3, 2011, 1, 0, 0).date, "0 मार्च 2011");
+}
+
+TEST(Periods, RefuseWhatIsNoDateOrTime) {
+  foundation::SessionTable session = Delhi();
+  clsUtilities periods(session);
+  EXPECT_ERROR(TypeMismatch, periods.CalcDurvela(30, 2, 2011, 12, 0, 0));
+  EXPECT_ERROR(TypeMismatch, periods.CalcDurvela(5, 3, 2011, 24, 0, 0));
+  EXPECT_ERROR(InvalidCall, periods.CalcGulikYum(5, 13, 2011, 12, 0, 0));
+  EXPECT_EQ(periods.DurvelaStart, "");
+  session.CurrentRecord = 1001;
+  EXPECT_ERROR(Subscript, periods.CalcDurvela(5, 3, 2011, 12, 0, 0));
+}
+
+}  // namespace
+}  // namespace dayperiods
