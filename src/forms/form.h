@@ -1,0 +1,74 @@
+// A form without a toolkit: its controls in the order of their creation, and its events.
+#pragma once
+
+#include <deque>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "forms/control.h"
+
+namespace forms {
+
+enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
+
+// Controls of one name, told apart by an index from 0. Subscript outside.
+class ControlArray {
+ public:
+  explicit ControlArray(std::vector<Control*> controls) : controls_(std::move(controls)) {}
+
+  Control& operator[](int index) const;
+  int LBound() const { return 0; }
+  int UBound() const { return static_cast<int>(controls_.size()) - 1; }
+
+ private:
+  std::vector<Control*> controls_;
+};
+
+class Form {
+ public:
+  Form(std::string_view name, std::string_view caption, float scaleWidth, float scaleHeight);
+  virtual ~Form() = default;
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::string name;
+  std::string caption;
+  float scaleWidth;  // inside, in twips
+  float scaleHeight;
+  float minimumWidth = 0;  // inside; no smaller by hand
+  float minimumHeight = 0;
+  WindowState windowState = WindowState::Normal;
+  Colour backColour;
+  PicturePtr picture;  // background
+  bool autoRedraw = false;
+  Place paintedPicture;  // where the background stands
+
+  // Controls in the order of their creation.
+  std::deque<Control>& Controls() { return controls_; }
+
+  // Events, raised by the host.
+  virtual void Form_Load() {}
+  virtual void Form_Resize() {}
+  // Cancel keeps the form.
+  virtual void Form_QueryUnload([[maybe_unused]] bool& cancel) {}
+  virtual void Form_MouseLeave() {}
+
+ protected:
+  Control& AddControl(Kind kind, std::string_view controlName, Properties properties);
+  ControlArray AddControls(Kind kind, std::string_view controlName,
+                           const std::vector<Properties>& rows);
+
+ private:
+  std::deque<Control> controls_;  // references to its elements stay good as it grows
+};
+
+// A row of a form's table of controls: declares the member and enters the control under the
+// member's name.
+#define CONTROL(kind, name, ...) \
+  ::forms::Control& name = AddControl(::forms::Kind::kind, #name, __VA_ARGS__)
+#define CONTROL_ARRAY(kind, name, ...) \
+  ::forms::ControlArray name = AddControls(::forms::Kind::kind, #name, __VA_ARGS__)
+
+}  // namespace forms

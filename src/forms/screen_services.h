@@ -1,0 +1,42 @@
+// What forms need of the screen beyond their own window.
+#pragma once
+
+#include "forms/drawing_target.h"
+#include "forms/form.h"
+
+namespace forms {
+
+// Shows and closes forms.
+class FormHost {
+ public:
+  virtual ~FormHost() = default;
+
+  virtual void Show(Form& form) = 0;
+  // Returns when the form is hidden or unloaded; timers of all forms go on meanwhile.
+  virtual void ShowModal(Form& form, Form& owner) = 0;
+  virtual void Hide(Form& form) = 0;
+  virtual void Unload(Form& form) = 0;
+  // At once, with no clean-up; does not return.
+  virtual void EndProgram() = 0;
+};
+
+enum class Orientation { Portrait = 1, Landscape = 2 };
+
+// Pages of a printer, drawn like any target.
+class Printer : public DrawingTarget {
+ public:
+  // False when the user cancels the dialog.
+  virtual bool AskUser() = 0;
+  virtual void SetOrientation(Orientation orientation) = 0;
+  virtual void NewPage() = 0;
+  virtual void EndDoc() = 0;
+};
+
+class Clipboard {
+ public:
+  virtual ~Clipboard() = default;
+  // Replaces what is there; false when the clipboard cannot be had.
+  virtual bool SetPicture(const PicturePtr& picture) = 0;
+};
+
+}  // namespace forms

@@ -1,0 +1,107 @@
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "forms/clsVSZ.h"
+#include "support/errors.h"
+
+namespace forms {
+namespace {
+
+// A control of every manner of resizing.
+struct SampleForm : Form {
+  SampleForm() : Form("SampleForm", "Sample", 6000, 4000) {}
+
+  CONTROL(Label, lblHead, {.place = {100, 200, 3000, 300}, .font = {.size = 9}});
+  CONTROL(Timer, Timer1, {.place = {1, 2, 3, 4}, .interval = 10});
+  CONTROL(Line, Line1, {.ends = {150, 1000, 5850, 1100}});
+  CONTROL(Shape, Shape1, {.place = {10, 20, 30, 40}});
+  CONTROL(ComboBox, cmbPage, {.place = {500, 600, 700, 315}, .font = {.size = 12}});
+  CONTROL(Label, Fixed, {.place = {1, 2, 3, 4}, .font = {.size = 9}, .tag = "nr"});
+  CONTROL(Label, SameFont, {.place = {1000, 2000, 400, 500}, .font = {.size = 9}, .tag = "nf"});
+  CONTROL_ARRAY(Label, LBL, {{.caption = "first"}, {.caption = "second"}});
+
+  void Resize(float width, float height, bool keepSizes = false) {
+    scaleWidth = width;
+    scaleHeight = height;
+    sizes.ResizeControls(*this, keepSizes ? foundation::kTrue16 : foundation::kFalse16);
+  }
+  std::vector<Properties> Layout() {
+    return std::vector<Properties>(Controls().begin(), Controls().end());
+  }
+
+  clsVSZ sizes;
+};
+
+TEST(Form, KeepsItsControlsInTheOrderOfItsTable) {
+  SampleForm form;
+  std::vector<std::string> names;
+  for (const Control& control : form.Controls()) names.push_back(control.name);
+  EXPECT_EQ(names, (std::vector<std::string>{"lblHead", "Timer1", "Line1", "Shape1", "cmbPage",
+                                             "Fixed", "SameFont", "LBL", "LBL"}));
+  EXPECT_EQ(form.LBL[1].caption, "second");
+  EXPECT_EQ(form.LBL[1].index, 1);
+  EXPECT_EQ(form.lblHead.index, -1);
+  EXPECT_ERROR(Subscript, form.LBL[2]);
+}
+
+TEST(Resizing, ScalesEachAxisOnItsOwnAndFontsByHeight) {
+  SampleForm form;
+  form.sizes.SaveSizes(form);
+  form.Resize(12000, 6000);
+  EXPECT_EQ(form.lblHead.place, (Place{200, 300, 6000, 450}));
+  EXPECT_EQ(form.lblHead.font.size, 13.5F);
+  EXPECT_EQ(form.Line1.ends, (LineEnds{300, 1500, 11700, 1650}));
+  EXPECT_EQ(form.Shape1.place, (Place{20, 30, 60, 60}));
+  EXPECT_EQ(form.cmbPage.place, (Place{1000, 900, 1400, 315}));  // its height is the toolkit's
+  EXPECT_EQ(form.cmbPage.font.size, 18);
+  EXPECT_EQ(form.Fixed.place, (Place{1, 2, 3, 4}));
+  EXPECT_EQ(form.Fixed.font.size, 9);
+  EXPECT_EQ(form.SameFont.place, (Place{2000, 3000, 800, 750}));
+  EXPECT_EQ(form.SameFont.font.size, 9);
+  EXPECT_EQ(form.Timer1.place, (Place{1, 2, 3, 4}));
+  EXPECT_TRUE(form.autoRedraw);
+  EXPECT_EQ(form.paintedPicture, (Place{0, 0, 12000, 6000}));
+}
+
+TEST(Resizing, KeepsFontsReadable) {
+  SampleForm form;
+  form.sizes.SaveSizes(form);
+  form.Resize(4000, 2666.6667F);
+  EXPECT_EQ(form.lblHead.font.size, 7.5F);
+  EXPECT_EQ(form.cmbPage.font.size, 8);
+}
+
+TEST(Resizing, ComesBackExactly) {
+  SampleForm form;
+  form.sizes.SaveSizes(form);
+  const auto before = form.Layout();
+  for (const float width : {7001.0F, 3333.0F, 19.0F}) form.Resize(width, width / 3);
+  form.Resize(6000, 4000);
+  EXPECT_EQ(form.Layout(), before);
+}
+
+TEST(Resizing, CanMoveOnly) {
+  SampleForm form;
+  form.sizes.SaveSizes(form);
+  form.Resize(12000, 8000, true);
+  EXPECT_EQ(form.lblHead.place, (Place{200, 400, 3000, 300}));
+  EXPECT_EQ(form.lblHead.font.size, 9);
+  EXPECT_EQ(form.Line1.ends, (LineEnds{300, 2000, 11700, 2200}));
+}
+
+TEST(Resizing, LeavesMinimisedAndUnsavedFormsAlone) {
+  SampleForm form;
+  const auto before = form.Layout();
+  form.Resize(12000, 8000);
+  EXPECT_EQ(form.Layout(), before);
+
+  form.Resize(6000, 4000);
+  form.sizes.SaveSizes(form);
+  form.windowState = WindowState::Minimised;
+  form.Resize(2400, 400);
+  EXPECT_EQ(form.Layout(), before);
+}
+
+}  // namespace
+}  // namespace forms

@@ -1,0 +1,82 @@
+// The machine as tests want it.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "foundation/machine.h"
+#include "foundation/settings.h"
+
+namespace support {
+
+struct FakeClock : foundation::Clock {
+  foundation::DateTime now = 0;
+  foundation::DateTime Now() const override { return now; }
+};
+
+struct FakeSettings : foundation::Settings {
+  std::map<std::tuple<std::string, std::string, std::string>, std::string> values;
+
+  std::string GetSetting(std::string_view application, std::string_view section,
+                         std::string_view key, std::string_view fallback) override {
+    const auto found = values.find(Key(application, section, key));
+    return found == values.end() ? std::string(fallback) : found->second;
+  }
+  void SaveSetting(std::string_view application, std::string_view section, std::string_view key,
+                   std::string_view value) override {
+    values[Key(application, section, key)] = value;
+  }
+
+ private:
+  static std::tuple<std::string, std::string, std::string> Key(std::string_view application,
+                                                               std::string_view section,
+                                                               std::string_view key) {
+    return {std::string(application), std::string(section), std::string(key)};
+  }
+};
+
+// Keeps what it was shown and gives the answer that was set.
+struct FakeMessageBoxes : foundation::MessageBoxes {
+  struct Box {
+    std::string text;
+    foundation::MessageIcon icon;
+    foundation::MessageButtons buttons;
+    std::string title;
+  };
+  std::vector<Box> shown;
+  foundation::MessageAnswer answer = foundation::MessageAnswer::No;
+
+  foundation::MessageAnswer Show(std::string_view text, foundation::MessageIcon icon,
+                                 foundation::MessageButtons buttons,
+                                 std::string_view title) override {
+    shown.push_back({std::string(text), icon, buttons, std::string(title)});
+    return answer;
+  }
+};
+
+// Counts its turns and runs what the test wants to come in between.
+struct FakeYielder : foundation::Yielder {
+  int turns = 0;
+  std::function<void(int turn)> between;
+  void Yield() override {
+    ++turns;
+    if (between) between(turns);
+  }
+};
+
+// Gives its numbers in turn, again and again.
+struct FakeRandomNumbers : foundation::RandomNumbers {
+  std::vector<double> numbers = {0.5};
+  std::size_t next = 0;
+  double Next() override { return numbers[next++ % numbers.size()]; }
+};
+
+struct FakeBrowser : foundation::Browser {
+  std::vector<std::string> opened;
+  void Open(std::string_view address) override { opened.emplace_back(address); }
+};
+
+}  // namespace support
