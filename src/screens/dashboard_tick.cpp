@@ -1,0 +1,119 @@
+#include "screens/dashboard_tick.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include "dayperiods/clsBirthDetails.h"
+#include "dayperiods/clsUtilities.h"
+#include "engine/clsPP.h"
+#include "foundation/checked.h"
+#include "foundation/date_text.h"
+#include "foundation/locale_names.h"
+#include "foundation/numbers.h"
+#include "foundation/resume.h"
+#include "foundation/version.h"
+#include "foundation/zzVorin.h"
+#include "screens/frmMain.h"
+
+namespace screens {
+namespace {
+
+using foundation::DateTimeFields;
+using foundation::DecimalToTimeText;
+using foundation::Filled;
+using foundation::NumberText;
+using foundation::Resume;
+using foundation::SessionRecord;
+
+void ShowMoment(foundation::DateTime now, frmMain& labels) {
+  Resume([&] {
+    const DateTimeFields at = foundation::FieldsOf(now);
+    labels.lblDate.caption =
+        NumberText(at.day) + " " + foundation::MonthName(at.month) + " " + NumberText(at.year);
+  });
+  Resume([&] {
+    const DateTimeFields at = foundation::FieldsOf(now);
+    labels.lblTime.caption =
+        NumberText(at.hour) + ":" + NumberText(at.minute) + ":" + NumberText(at.second);
+  });
+}
+
+void ShowDefaultPlace(foundation::Settings& settings, frmMain& labels) {
+  const std::array places = {&labels.lblCountry, &labels.lblCity, &labels.lblLat,
+                             &labels.lblLong,    &labels.lblZone, &labels.lblZoneTime};
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    const foundation::PlaceSetting& setting = foundation::kPlaceSettings[i];
+    Resume([&] {
+      places[i]->caption = settings.GetSetting(foundation::kProgramName, foundation::kPlaceSection,
+                                               setting.key, setting.fallback);
+    });
+  }
+}
+
+void CopyPlace(const frmMain& labels, SessionRecord& record) {
+  record.LatitudeText = labels.lblLat.caption;
+  record.LongitudeText = labels.lblLong.caption;
+  record.ZoneMeridianText = labels.lblZone.caption;
+  record.ZoneTimeText = labels.lblZoneTime.caption;
+  record.CityName = labels.lblCity.caption;
+  record.CountryName = labels.lblCountry.caption;
+}
+
+// The moment of the tick, read back out of the captions that show it.
+DateTimeFields ShownMoment(const frmMain& labels) {
+  DateTimeFields moment{};
+  Resume([&] {
+    const DateTimeFields date =
+        foundation::FieldsOf(foundation::ReadDateTime(labels.lblDate.caption));
+    moment.day = date.day;
+    moment.month = date.month;
+    moment.year = date.year;
+  });
+  Resume([&] {
+    const DateTimeFields time =
+        foundation::FieldsOf(foundation::ReadDateTime(labels.lblTime.caption));
+    moment.hour = time.hour;
+    moment.minute = time.minute;
+    moment.second = time.second;
+  });
+  return moment;
+}
+
+dayperiods::SunriseRows SunriseAt(const DateTimeFields& moment, const engine::clsPP& place) {
+  double latitude = place.ppLatitude, longitude = place.ppLongitude, zone = place.ppZoneHours;
+  auto day = foundation::RoundToInt16(moment.day), month = foundation::RoundToInt16(moment.month),
+       year = foundation::RoundToInt16(moment.year), hour = foundation::RoundToInt16(moment.hour),
+       minute = foundation::RoundToInt16(moment.minute),
+       second = foundation::RoundToInt16(moment.second);
+  return dayperiods::clsBirthDetails().Sunrise(latitude, longitude, zone, day, month, year, hour,
+                                               minute, second);
+}
+
+}  // namespace
+
+void Tick(foundation::DateTime now, foundation::Settings& settings,
+          foundation::SessionTable& session, frmMain& labels) {
+  ShowMoment(now, labels);
+  ShowDefaultPlace(settings, labels);
+  Resume([&] { CopyPlace(labels, session.Current()); });
+
+  const DateTimeFields at = ShownMoment(labels);
+  engine::clsPP place;
+  Resume([&] {
+    const SessionRecord& record = session.Current();
+    place.GenHoro(at.day, at.month, at.year, at.hour, at.minute, at.second, record.LongitudeText,
+                  record.LatitudeText, record.ZoneMeridianText, record.AyanamsaChoice,
+                  record.RahuKetuFlag, record.WarTimeCorrection);
+  });
+  std::optional<dayperiods::SunriseRows> sun;
+  Resume([&] { sun = SunriseAt(at, place); });
+  Resume([&] { labels.lblSR.caption = DecimalToTimeText(Filled(sun).clockRise); });
+  Resume([&] { labels.lblSS.caption = DecimalToTimeText(Filled(sun).clockSet); });
+
+  dayperiods::clsUtilities periods(session);
+  Resume([&] { periods.CalcDurvela(at.day, at.month, at.year, at.hour, at.minute, at.second); });
+  labels.lblDurvela.caption = periods.DurvelaStart + "-" + periods.DurvelaEnd;
+}
+
+}  // namespace screens

@@ -1,0 +1,50 @@
+#include "screens/day_scene.h"
+
+#include <cmath>
+
+#include "dayperiods/clsUtilities.h"
+#include "dayperiods/weekday_segments.h"
+#include "foundation/resume.h"
+#include "foundation/zzVorin.h"
+
+namespace screens {
+namespace {
+
+std::string ShortTime(double hours) {
+  return foundation::DecimalToTimeText(hours, 24, true);
+}
+
+DayScene::Period PeriodOf(const dayperiods::DaylightSegments& day, int segment) {
+  return {segment, ShortTime(day.Boundary(segment)) + " - " + ShortTime(day.Boundary(segment + 1))};
+}
+
+// Where the sun stands in the daylight, by the whole minute: more would not be seen.
+std::optional<double> SunAt(const foundation::DateTimeFields& now,
+                            const dayperiods::DaylightSegments& day) {
+  double hours = now.hour + now.minute / 60.0 - day.sunrise;
+  hours -= 24 * std::floor(hours / 24);
+  const double light = day.segment * dayperiods::kSegmentsOfDaylight;
+  if (hours > light) return std::nullopt;
+  return hours / light;
+}
+
+}  // namespace
+
+DayScene SceneOf(foundation::DateTime now, const foundation::SessionTable& session) {
+  DayScene scene;
+  foundation::Resume([&] {
+    const foundation::DateTimeFields at = foundation::FieldsOf(now);
+    const auto day = dayperiods::clsUtilities(session).Divide(at.day, at.month, at.year, 12, 0, 0);
+    if (!(day.segment > 0)) return;
+    scene.durvela = PeriodOf(day, dayperiods::DurvelaSegment(day.weekday));
+    scene.gulik = PeriodOf(day, dayperiods::GulikSegment(day.weekday));
+    scene.yum = PeriodOf(day, dayperiods::YumSegment(day.weekday));
+    scene.sunrise = ShortTime(day.sunrise);
+    scene.sunset = ShortTime(day.Boundary(dayperiods::kSegmentsOfDaylight + 1));
+    scene.sun = SunAt(at, day);
+    scene.divided = true;
+  });
+  return scene;
+}
+
+}  // namespace screens

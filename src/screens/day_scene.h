@@ -1,0 +1,34 @@
+// What the dashboard's background tells: one day's light in eight parts, and the sun in it.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+
+#include "foundation/calendar.h"
+#include "foundation/session.h"
+
+namespace screens {
+
+struct DayScene {
+  // One of the three periods.
+  struct Period {
+    int segment = 0;    // 1 to 8 from sunrise
+    std::string times;  // "09:38 - 11:05"
+    friend bool operator==(const Period&, const Period&) = default;
+  };
+
+  bool divided = false;  // false where the day's sun has no rise and set to go by
+  std::string sunrise;   // "06:43"
+  std::string sunset;
+  Period durvela, gulik, yum;
+  std::optional<double> sun;  // 0 at sunrise to 1 at sunset; nothing by night
+
+  friend bool operator==(const DayScene&, const DayScene&) = default;
+};
+
+// The calendar day of `now` at the place of the current record, reckoned at its noon, so that the
+// hours before sunrise show the day that is coming.
+DayScene SceneOf(foundation::DateTime now, const foundation::SessionTable& session);
+
+}  // namespace screens

@@ -1,0 +1,105 @@
+#include "screens/frmMain.h"
+
+#include <utility>
+
+#include "screens/dashboard_tick.h"
+#include "screens/day_sky.h"
+
+namespace screens {
+namespace {
+
+constexpr float kTwips = layout::kTwipsPerPixel;
+constexpr float kSmallest = 0.75F;  // of the window's first size
+
+}  // namespace
+
+frmMain::frmMain(Services services)
+    : Form("frmMain", "Durvela 2", layout::kWidth * kTwips, layout::kHeight * kTwips),
+      services_(services) {
+  minimumWidth = kSmallest * scaleWidth;
+  minimumHeight = kSmallest * scaleHeight;
+  backColour = palette::kEarth;
+
+  Timer1.onTimer = [this] { Timer1_Timer(); };
+  Image1.onMouseMove = [this] { Image1_MouseMove(); };
+  for (int i = PIC.LBound(); i <= PIC.UBound(); ++i) {
+    PIC[i].onClick = [this, i] { PIC_Click(i); };
+    PIC[i].onMouseMove = [this, i] { LBL_MouseMove(i); };
+    LBL[i].onClick = [this, i] { LBL_Click(i); };
+    LBL[i].onMouseMove = [this, i] { LBL_MouseMove(i); };
+    for (forms::Control* part : {&PIC[i], &LBL[i]}) {
+      part->onMouseDown = [this, i] { PIC[i].pressed = true; };
+      part->onMouseUp = [this, i] { PIC[i].pressed = false; };
+    }
+  }
+  for (forms::Control* line : {&Label1, &Label12, &Label13}) {
+    line->onClick = [this] {
+      if (!kWebsite.empty()) services_.browser.Open(kWebsite);
+    };
+  }
+}
+
+void frmMain::SetMenuItem(int index, std::function<void()> open) {
+  PIC[index].enabled = LBL[index].enabled = static_cast<bool>(open);
+  open_[static_cast<std::size_t>(index)] = std::move(open);
+}
+
+// The first tick is not waited for: a dashboard without figures tells nothing.
+void frmMain::Form_Load() {
+  sizes_.SaveSizes(*this);
+  Timer1_Timer();
+}
+
+void frmMain::Form_Resize() {
+  sizes_.ResizeControls(*this, foundation::kFalse16);
+  ShowSky();
+}
+
+void frmMain::Form_QueryUnload(bool& cancel) {
+  cancel = true;
+  const auto answer =
+      services_.boxes.Show("Are you sure you want to exit?", foundation::MessageIcon::Exclamation,
+                           foundation::MessageButtons::YesNo);
+  if (answer == foundation::MessageAnswer::Yes) services_.host.EndProgram();
+}
+
+void frmMain::Form_MouseLeave() {
+  Image1_MouseMove();
+}
+
+void frmMain::Timer1_Timer() {
+  const foundation::DateTime now = services_.clock.Now();
+  Tick(now, services_.settings, services_.session, *this);
+  DayScene scene = SceneOf(now, services_.session);
+  if (Image1.picture && scene == scene_) return;
+  scene_ = std::move(scene);
+  ShowSky();
+}
+
+void frmMain::PIC_Click(int index) {
+  if (const auto& open = open_[static_cast<std::size_t>(index)]) open();
+}
+
+void frmMain::LBL_Click(int index) {
+  PIC_Click(index);
+}
+
+void frmMain::LBL_MouseMove(int index) {
+  if (LBL[index].font.underline) return;
+  Image1_MouseMove();
+  LBL[index].font.underline = true;
+  PIC[index].hot = true;
+}
+
+void frmMain::Image1_MouseMove() {
+  for (int i = LBL.LBound(); i <= LBL.UBound(); ++i) {
+    LBL[i].font.underline = false;
+    PIC[i].hot = false;
+  }
+}
+
+void frmMain::ShowSky() {
+  Image1.picture = SkyPicture(scene_, Image1.place.width / kTwips, Image1.place.height / kTwips);
+}
+
+}  // namespace screens

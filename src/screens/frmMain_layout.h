@@ -1,0 +1,154 @@
+// Rows of the dashboard's table of controls: where things stand on a window of 840 by 560 logical
+// pixels, and how they look there. It grows and shrinks from these figures.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/control.h"
+#include "foundation/version.h"
+#include "screens/palette.h"
+#include "screens/signs.h"
+
+namespace screens::layout {
+
+using forms::Alignment;
+using forms::Properties;
+
+inline constexpr float kTwipsPerPixel = 15;
+inline constexpr float kWidth = 840;  // logical pixels
+inline constexpr float kHeight = 560;
+
+// Places and sizes below are logical pixels, font sizes points.
+inline forms::Place At(float left, float top, float width, float height) {
+  return {left * kTwipsPerPixel, top * kTwipsPerPixel, width * kTwipsPerPixel,
+          height * kTwipsPerPixel};
+}
+
+inline Properties Background() {
+  return {.place = At(0, 0, kWidth, kHeight)};
+}
+
+inline Properties Card() {
+  return {.place = At(590, 26, 226, 322),
+          .backColour = palette::kPaper,
+          .cornerRadius = 14 * kTwipsPerPixel,
+          .look = forms::Look::Card};
+}
+
+inline Properties DurvelaField() {
+  return {.place = At(600, 258, 206, 80),
+          .backColour = palette::kDurvelaOnPaper,
+          .cornerRadius = 10 * kTwipsPerPixel};
+}
+
+inline Properties CardRule() {
+  return {.ends = {608 * kTwipsPerPixel, 178 * kTwipsPerPixel, 798 * kTwipsPerPixel,
+                   178 * kTwipsPerPixel},
+          .borderColour = palette::kRule};
+}
+
+// A line in the middle of the arc.
+inline Properties OnSky(float top, float height, float size, std::string_view caption,
+                        bool bold = false) {
+  return {.place = At(170, top, 240, height),
+          .caption = std::string(caption),
+          .font = {.size = size, .bold = bold},
+          .foreColour = palette::kCream,
+          .alignment = Alignment::Centre};
+}
+
+inline Properties CardHead(float top) {
+  return {.place = At(608, top, 190, 30),
+          .font = {.size = 15.75F, .bold = true},
+          .foreColour = palette::kInk};
+}
+
+inline Properties CardCaption(float top, std::string_view caption) {
+  return {.place = At(608, top, 84, 22),
+          .caption = std::string(caption),
+          .font = {.size = 9.375F},
+          .foreColour = palette::kQuiet};
+}
+
+inline Properties CardValue(float top) {
+  return {.place = At(692, top, 106, 22),
+          .font = {.size = 10.5F, .bold = true},
+          .foreColour = palette::kInk,
+          .alignment = Alignment::Right};
+}
+
+inline Properties CardFigure(float top) {
+  return {.place = At(688, top, 110, 28),
+          .font = {.size = 13.5F, .bold = true},
+          .foreColour = palette::kInk,
+          .alignment = Alignment::Right};
+}
+
+inline Properties FieldCaption(std::string_view caption) {
+  return {.place = At(614, 268, 178, 22),
+          .caption = std::string(caption),
+          .font = {.size = 9.75F, .bold = true},
+          .foreColour = palette::kWhite};
+}
+
+inline Properties FieldFigure() {
+  return {.place = At(606, 292, 194, 36),
+          .font = {.size = 15.75F, .bold = true},
+          .foreColour = palette::kWhite,
+          .alignment = Alignment::Centre};
+}
+
+inline constexpr float kTileStep = 100.57F;  // from one menu item to the next
+inline constexpr float kTileWidth = 96;
+
+inline std::vector<Properties> MenuTiles() {
+  std::vector<Properties> tiles;
+  for (const MenuSign& sign : MenuSigns()) {
+    tiles.push_back(
+        {.place = At(20 + kTileStep * static_cast<float>(tiles.size()), 404, kTileWidth, 112),
+         .caption = std::string(sign.caption),
+         .enabled = false,
+         .tabStop = true,
+         .handCursor = true,
+         .look = forms::Look::Tile,
+         .picture = sign.picture});
+  }
+  return tiles;
+}
+
+inline std::vector<Properties> MenuCaptions() {
+  std::vector<Properties> captions;
+  for (const MenuSign& sign : MenuSigns()) {
+    captions.push_back(
+        {.place = At(24 + kTileStep * static_cast<float>(captions.size()), 472, kTileWidth - 8, 40),
+         .caption = std::string(sign.caption),
+         .font = {.size = 9},
+         .foreColour = palette::kCream,
+         .alignment = Alignment::Centre,
+         .wordWrap = true,
+         .enabled = false,
+         .handCursor = true});
+  }
+  return captions;
+}
+
+inline Properties ContactLine(int number, std::string_view text) {
+  return {.place = At(20 + 180 * static_cast<float>(number), 530, 170, 20),
+          .caption = std::string(text),
+          .font = {.size = 8.25F},
+          .foreColour = palette::kFaintOnEarth,
+          .handCursor = !text.empty()};
+}
+
+inline Properties VersionLine() {
+  return {.place = At(660, 530, 160, 20),
+          .caption = "version " + std::to_string(foundation::kVersionMajor) + "." +
+                     std::to_string(foundation::kVersionMinor),
+          .font = {.size = 8.25F},
+          .foreColour = palette::kFaintOnEarth,
+          .alignment = Alignment::Right};
+}
+
+}  // namespace screens::layout

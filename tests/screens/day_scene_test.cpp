@@ -1,0 +1,76 @@
+#include "screens/day_scene.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "screens/dashboard.h"
+#include "screens/day_sky.h"
+
+namespace screens {
+namespace {
+
+DayScene SceneAt(int hour, int minute, const char* latitude = "28.40N") {
+  foundation::SessionTable session;
+  session.Current().LatitudeText = latitude;
+  session.Current().LongitudeText = "77.13E";
+  session.Current().ZoneMeridianText = "82.30E";
+  return SceneOf(foundation::DateFromParts(2011, 3, 5) + foundation::TimeFromParts(hour, minute, 0),
+                 session);
+}
+
+TEST(DayScene, ShowsTheCalendarDayAlsoBeforeSunrise) {
+  for (const int hour : {0, 6, 12, 23}) {
+    const DayScene scene = SceneAt(hour, 0);
+    EXPECT_TRUE(scene.divided);
+    EXPECT_EQ(scene.sunrise, "06:43");
+    EXPECT_EQ(scene.sunset, "18:23");
+    EXPECT_EQ(scene.durvela.segment, 3);  // a Saturday
+    EXPECT_EQ(scene.durvela.times, "09:38 - 11:05");
+    EXPECT_EQ(scene.gulik.segment, 8);
+    EXPECT_EQ(scene.yum.segment, 6);
+  }
+}
+
+TEST(DayScene, PutsTheSunWhereItStands) {
+  EXPECT_EQ(SceneAt(6, 42).sun, std::nullopt);
+  EXPECT_NEAR(SceneAt(6, 43).sun.value(), 0, 1e-9);
+  EXPECT_NEAR(SceneAt(12, 33).sun.value(), 0.5, 1e-9);
+  EXPECT_NEAR(SceneAt(18, 23).sun.value(), 1, 1e-9);
+  EXPECT_EQ(SceneAt(18, 24).sun, std::nullopt);
+}
+
+TEST(DayScene, IsUndividedWhereThereIsNoSunriseToGoBy) {
+  EXPECT_FALSE(SceneAt(12, 0, "64.00N").divided);
+  EXPECT_FALSE(SceneAt(12, 0, "89.59N").divided);
+}
+
+// The lettering of a picture of the sky.
+std::vector<std::string> Words(const forms::Picture& picture) {
+  std::vector<std::string> words;
+  for (const auto& item : picture.items) {
+    if (const auto* lettering = std::get_if<forms::Lettering>(&item)) {
+      words.push_back(lettering->text);
+    }
+  }
+  return words;
+}
+
+TEST(SkyPicture, NamesThePeriodsAndKeepsEverythingInside) {
+  const auto picture = SkyPicture(SceneAt(12, 0), 630, 420);
+  const auto words = Words(*picture);
+  for (const char* word : {"Durvela", "Gulik", "Yum", "06:43", "18:23", "09:38 - 11:05"}) {
+    EXPECT_NE(std::find(words.begin(), words.end(), word), words.end()) << word;
+  }
+  for (const auto& item : picture->items) {
+    if (const auto* lettering = std::get_if<forms::Lettering>(&item)) {
+      EXPECT_GE(lettering->size, 10);  // 7.5 points
+      EXPECT_TRUE(lettering->at.x > 0 && lettering->at.x < 630 && lettering->at.y > 0 &&
+                  lettering->at.y < 420);
+    }
+  }
+  EXPECT_TRUE(Words(*SkyPicture(SceneAt(12, 0, "64.00N"), 840, 560)).empty());
+}
+
+}  // namespace
+}  // namespace screens

@@ -1,0 +1,123 @@
+// The dashboard's labels second by second. Sunrise and sunset of these days in Delhi stand in the
+// NOAA solar calculator within a minute; the segments follow by hand from the weekday.
+
+#include <gtest/gtest.h>
+
+#include "screens/dashboard.h"
+#include "support/locales.h"
+
+namespace screens {
+namespace {
+
+TEST(Tick, ShowsTodayAtTheDefaultPlace) {
+  Dashboard d;
+  d.TickAt(2011, 3, 5, 11, 12, 9);
+  const frmMain& f = d.form;
+  EXPECT_EQ(f.lblDate.caption, "5 March 2011");
+  EXPECT_EQ(f.lblTime.caption, "11:12:9");
+  EXPECT_EQ(f.lblCountry.caption, "India");
+  EXPECT_EQ(f.lblCity.caption, "Delhi");
+  EXPECT_EQ(f.lblLat.caption, "28.40N");
+  EXPECT_EQ(f.lblLong.caption, "77.13E");
+  EXPECT_EQ(f.lblZone.caption, "82.30E");
+  EXPECT_EQ(f.lblZoneTime.caption, "-5.30");
+  // A Saturday: the third eighth of 06:43 to 18:23.
+  EXPECT_EQ(d.Figures(), "06:43:00 18:23:00 09:38:00-11:05:30");
+
+  const foundation::SessionRecord& record = d.session.Current();
+  EXPECT_EQ(record.LatitudeText, "28.40N");
+  EXPECT_EQ(record.LongitudeText, "77.13E");
+  EXPECT_EQ(record.ZoneMeridianText, "82.30E");
+  EXPECT_EQ(record.ZoneTimeText, "-5.30");
+  EXPECT_EQ(record.CityName, "Delhi");
+  EXPECT_EQ(record.CountryName, "India");
+  EXPECT_EQ(record.Day, 0);  // the moment is the timetable's to fill
+}
+
+TEST(Tick, MovesOnAtTheMomentOfSunrise) {
+  Dashboard d;
+  // Before it: the sun of Friday the 4th, with the weekday of Saturday the 5th.
+  d.TickAt(2011, 3, 5, 6, 42, 59);
+  EXPECT_EQ(d.Figures(), "06:44:00 18:23:00 09:38:45-11:06:07");
+  d.TickAt(2011, 3, 5, 6, 43, 0);
+  EXPECT_EQ(d.Figures(), "06:43:00 18:23:00 09:38:00-11:05:30");
+}
+
+TEST(Tick, FallsBackIntoTheMonthBefore) {
+  Dashboard d;
+  d.TickAt(2011, 3, 1, 0, 0, 0);
+  EXPECT_EQ(d.form.lblDate.caption, "1 March 2011");
+  EXPECT_EQ(d.form.lblTime.caption, "0:0:0");
+  const std::string beforeSunrise = d.Figures();
+  d.TickAt(2011, 2, 28, 12, 0, 0);
+  // Sun of 28 February; Tuesday's seventh eighth against Monday's second.
+  EXPECT_EQ(beforeSunrise.substr(0, 17), d.Figures().substr(0, 17));
+  EXPECT_NE(beforeSunrise, d.Figures());
+}
+
+TEST(Tick, ShowsNothingButZerosBeyond63Degrees) {
+  Dashboard d;
+  d.SaveDefault("lat", "64.00N");
+  d.TickAt(2011, 6, 21, 12, 0, 0);
+  EXPECT_EQ(d.Figures(), "00:00:00 00:00:00 00:00:00-00:00:00");
+}
+
+TEST(Tick, KeepsSunriseAndEmptiesDurvelaWhereTheSunDoesNotSet) {
+  Dashboard d;
+  d.TickAt(2011, 6, 21, 12, 0, 0);
+  const std::string sunrise = d.form.lblSR.caption, sunset = d.form.lblSS.caption;
+  d.SaveDefault("lat", "70.00N");
+  d.TickAt(2011, 6, 21, 12, 0, 1);
+  EXPECT_EQ(d.form.lblTime.caption, "12:0:1");
+  EXPECT_EQ(d.form.lblLat.caption, "70.00N");
+  EXPECT_EQ(d.form.lblSR.caption, sunrise);
+  EXPECT_EQ(d.form.lblSS.caption, sunset);
+  EXPECT_EQ(d.form.lblDurvela.caption, "-");
+}
+
+TEST(Tick, TakesUpANewDefaultPlace) {
+  Dashboard d;
+  d.TickAt(2011, 3, 5, 12, 0, 0);
+  d.SaveDefault("city", "Mumbai");
+  d.SaveDefault("lat", "19.04N");
+  d.SaveDefault("long", "72.52E");
+  d.settings.SaveSetting(foundation::kProgramName, "Setting", "city", "not the place's section");
+  d.TickAt(2011, 3, 5, 12, 0, 1);
+  EXPECT_EQ(d.form.lblCity.caption, "Mumbai");
+  EXPECT_EQ(d.Figures().substr(0, 17), "06:55:00 18:45:00");
+}
+
+TEST(Tick, GoesOnAfterASettingsStoreThatFails) {
+  struct BrokenStore : support::FakeSettings {
+    std::string GetSetting(std::string_view application, std::string_view section,
+                           std::string_view key, std::string_view fallback) override {
+      if (key == "city") throw foundation::Error(foundation::ErrorKind::FileAccess);
+      return FakeSettings::GetSetting(application, section, key, fallback);
+    }
+  } settings;
+  Dashboard d;
+  d.form.lblCity.caption = "as it was";
+  Tick(foundation::DateFromParts(2011, 3, 5) + 0.5, settings, d.session, d.form);
+  EXPECT_EQ(d.form.lblCity.caption, "as it was");
+  EXPECT_EQ(d.form.lblLat.caption, "28.40N");
+  EXPECT_EQ(d.Figures(), "06:43:00 18:23:00 09:38:00-11:05:30");
+}
+
+TEST(Tick, ReadsItsDateBackInTheUsersLanguage) {
+  const support::UserNamesScope names(support::Hindi());
+  Dashboard d;
+  d.TickAt(2011, 3, 5, 11, 12, 9);
+  EXPECT_EQ(d.form.lblDate.caption, "5 मार्च 2011");
+  EXPECT_EQ(d.Figures(), "06:43:00 18:23:00 09:38:00-11:05:30");
+}
+
+TEST(Tick, LeavesTheRestWhenTheSessionIndexIsOutOfBounds) {
+  Dashboard d;
+  d.session.CurrentRecord = 1001;
+  d.TickAt(2011, 3, 5, 11, 12, 9);
+  EXPECT_EQ(d.form.lblDate.caption, "5 March 2011");
+  EXPECT_EQ(d.form.lblDurvela.caption, "-");
+}
+
+}  // namespace
+}  // namespace screens
