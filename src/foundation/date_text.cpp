@@ -49,23 +49,21 @@ class Reader {
     return number;
   }
 
-  // The longest of the month names that the text begins with: "Tháng 11" before "Tháng 1".
+  // The longest of the month names that the text begins with: "Tháng 11" before "Tháng 1". The
+  // user's names as they are written come first, since nearly every text was made from them.
   std::optional<int> TakeMonthName() {
-    const std::string folded = FoldCase(rest_);
-    std::size_t longest = 0;
-    int month = 0;
-    for (const LocaleNames* names : {&UserNames(), &EnglishNames()}) {
-      for (int i = 0; i < 12; ++i) {
-        const std::string name = FoldCase(names->months[static_cast<std::size_t>(i)]);
-        if (name.size() > longest && folded.starts_with(name)) {
-          longest = name.size();
-          month = i + 1;
-        }
-      }
+    const auto asWritten = [](const std::string& name) -> const std::string& { return name; };
+    const auto folded = [](const std::string& name) { return FoldCase(name); };
+    Match match = LongestMonth(rest_, UserNames(), asWritten);
+    if (match.month == 0) {
+      const std::string rest = FoldCase(rest_);
+      const Match english = LongestMonth(rest, EnglishNames(), folded);
+      match = LongestMonth(rest, UserNames(), folded);
+      if (english.length > match.length) match = english;
     }
-    if (month == 0) return std::nullopt;
-    rest_.remove_prefix(longest);  // folding keeps the length of every character
-    return month;
+    if (match.month == 0) return std::nullopt;
+    rest_.remove_prefix(match.length);  // folding keeps the length of every character
+    return match.month;
   }
 
   // "AM" or "PM", in any case: the hours that it adds to hours counted from 0.
@@ -77,6 +75,21 @@ class Reader {
   }
 
  private:
+  struct Match {
+    int month = 0;  // 0 is none
+    std::size_t length = 0;
+  };
+
+  template <typename Form>
+  static Match LongestMonth(std::string_view text, const LocaleNames& names, Form form) {
+    Match longest;
+    for (int i = 0; i < 12; ++i) {
+      const std::string& name = form(names.months[static_cast<std::size_t>(i)]);
+      if (name.size() > longest.length && text.starts_with(name)) longest = {i + 1, name.size()};
+    }
+    return longest;
+  }
+
   std::string_view rest_;
 };
 

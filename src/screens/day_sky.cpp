@@ -155,8 +155,9 @@ class SkyPainter {
     const bool inside = period.segment <= 2 || period.segment >= 7;
     const double radius = inside ? kInnerRadius - 12 : kOuterRadius + 18;
     const Alignment alignment = left == inside ? Alignment::Left : Alignment::Right;
-    const Point at = forms::OnCircle(centre_, radius * scale_, angle);
     const double line = 15 * TextScale();
+    Point at = forms::OnCircle(centre_, radius * scale_, angle);
+    if (!inside) at.y -= line / 2;  // so that the second line clears the arc
     Text(name, at, alignment, 13, true, palette::kCream);
     Text(period.times, {at.x, at.y + line}, alignment, 11.5, false, palette::kFaintCream);
   }

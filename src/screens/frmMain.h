@@ -25,7 +25,7 @@ class frmMain : public forms::Form {
   CONTROL(Shape, DurvelaField, layout::DurvelaField());
   CONTROL(Line, CardRule, layout::CardRule());
 
-  CONTROL(Label, TodayCaption, layout::OnSky(226, 20, 9, "TODAY:"));
+  CONTROL(Label, TodayCaption, layout::OnSky(213, 20, 9, "TODAY:"));
   CONTROL(Label, lblDate, layout::OnSky(236, 30, 14.25F, "", true));
   CONTROL(Label, lblTime, layout::OnSky(258, 76, 40.5F, ""));
 

@@ -1,0 +1,11 @@
+#include <QApplication>
+
+#include "screens/qt/application.h"
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  screens::qt::DressApplication();
+  screens::qt::Program program;
+  program.Start();
+  return QApplication::exec();
+}

@@ -1,0 +1,225 @@
+#include "screens/qt/control_widget.h"
+
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QtMath>
+#include <algorithm>
+
+#include "screens/palette.h"
+#include "screens/qt/qt_painting.h"
+
+namespace screens::qt {
+namespace {
+
+constexpr int kShadow = 18;  // pixels on every side of a card
+constexpr double kTileRadius = 12;
+constexpr double kTileField = 56;  // of a tile's picture, where the tile is high enough
+constexpr double kDisabledOpacity = 0.5;
+
+bool DrawsCaption(const forms::Control& control) {
+  return control.kind == forms::Kind::Label;
+}
+
+int Margin(const forms::Control& control) {
+  return control.look == forms::Look::Card ? kShadow : 0;
+}
+
+QRect Geometry(const forms::Control& control) {
+  const auto pixel = [](float twips) { return qRound(twips / kTwipsPerPixel); };
+  if (control.kind == forms::Kind::Line) {
+    const forms::LineEnds& e = control.ends;
+    const QPoint corner(pixel(std::min(e.x1, e.x2)), pixel(std::min(e.y1, e.y2)));
+    const QPoint end(pixel(std::max(e.x1, e.x2)), pixel(std::max(e.y1, e.y2)));
+    return QRect(corner, end);
+  }
+  const forms::Place& p = control.place;
+  const int left = pixel(p.left), top = pixel(p.top);
+  const int margin = Margin(control);
+  return QRect(left, top, pixel(p.left + p.width) - left, pixel(p.top + p.height) - top)
+      .adjusted(-margin, -margin, margin, margin);
+}
+
+// "&&" is an ampersand, and a single one marks the letter behind it.
+QString WithoutMarks(const QString& caption) {
+  QString text;
+  for (qsizetype i = 0; i < caption.size(); ++i) {
+    if (caption[i] == u'&' && ++i == caption.size()) break;
+    text += caption[i];
+  }
+  return text;
+}
+
+Qt::Alignment ToQt(forms::Alignment alignment) {
+  switch (alignment) {
+    case forms::Alignment::Right:
+      return Qt::AlignRight;
+    case forms::Alignment::Centre:
+      return Qt::AlignHCenter;
+    case forms::Alignment::Left:
+      break;
+  }
+  return Qt::AlignLeft;
+}
+
+// A font in which the text fits, down to the smallest that can be read.
+QFont Fitted(QFont font, const QString& text, double width) {
+  const double wanted = QFontMetricsF(font).horizontalAdvance(text);
+  if (wanted > width) {
+    const double size = std::max(kSmallestText, font.pixelSize() * width / wanted);
+    font.setPixelSize(std::min(font.pixelSize(), static_cast<int>(size)));
+  }
+  return font;
+}
+
+}  // namespace
+
+ControlWidget::ControlWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
+    : QWidget(parent), control_(control), dispatch_(std::move(dispatch)) {
+  setObjectName(screens::qt::ToQt(control.name));
+  setMouseTracking(true);
+  setAttribute(Qt::WA_NoSystemBackground);
+  // A label without a click of its own lets the mouse through to what lies below it.
+  const bool deaf = !control.onClick && !control.onMouseMove && !control.onMouseDown;
+  setAttribute(Qt::WA_TransparentForMouseEvents, deaf && control.toolTip.empty());
+  setFocusPolicy(control.tabStop ? Qt::StrongFocus : Qt::NoFocus);
+  shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
+  Mirror();
+}
+
+void ControlWidget::Mirror() {
+  const forms::Properties& now = control_;
+  if (now == shown_) return;
+  setGeometry(Geometry(control_));
+  setVisible(now.visible);
+  setEnabled(now.enabled);
+  setToolTip(screens::qt::ToQt(now.toolTip));
+  setAccessibleName(WithoutMarks(screens::qt::ToQt(now.caption)));
+  setCursor(now.handCursor && now.enabled ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  if (now.picture != shown_.picture) rendered_ = QPixmap();
+  shown_ = now;
+  update();
+}
+
+QRectF ControlWidget::Body() const {
+  const int margin = Margin(control_);
+  return QRectF(rect()).adjusted(margin, margin, -margin, -margin);
+}
+
+void ControlWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (control_.kind == forms::Kind::Line) {
+    painter.setPen(QPen(screens::qt::ToQt(control_.borderColour), control_.borderWidth));
+    painter.drawLine(QPointF(0, 0.5), QPointF(width(), height() - 0.5));
+    return;
+  }
+  if (control_.look == forms::Look::Card) PaintShadow(painter);
+  if (!control_.enabled) painter.setOpacity(kDisabledOpacity);
+  if (control_.look == forms::Look::Tile) {
+    PaintTile(painter);
+  } else {
+    PaintBody(painter);
+    if (control_.picture) PaintRendered(painter, rect());
+  }
+  if (DrawsCaption(control_)) PaintCaption(painter);
+}
+
+void ControlWidget::PaintBody(QPainter& painter) {
+  const bool border = control_.borderColour.alpha > 0;
+  if (!border && control_.backColour.alpha == 0) return;
+  painter.setPen(border ? QPen(screens::qt::ToQt(control_.borderColour), control_.borderWidth)
+                        : QPen(Qt::NoPen));
+  painter.setBrush(screens::qt::ToQt(control_.backColour));
+  const double inset = border ? control_.borderWidth / 2 : 0;
+  const double radius = control_.cornerRadius / kTwipsPerPixel;
+  painter.drawRoundedRect(Body().adjusted(inset, inset, -inset, -inset), radius, radius);
+}
+
+void ControlWidget::PaintShadow(QPainter& painter) {
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(0, 0, 0, 7));
+  const double radius = control_.cornerRadius / kTwipsPerPixel;
+  for (int spread = kShadow - 4; spread > 0; spread -= 2) {
+    painter.drawRoundedRect(Body().adjusted(-spread, 4 - spread, spread, 4 + spread),
+                            radius + spread, radius + spread);
+  }
+}
+
+void ControlWidget::PaintTile(QPainter& painter) {
+  const bool lit = control_.enabled && control_.hot;
+  const double light = !control_.enabled ? 0.05 : control_.pressed ? 0.22 : lit ? 0.14 : 0.07;
+  const bool focus = hasFocus();
+  QPen edge(Qt::NoPen);
+  if (focus) {
+    edge = QPen(screens::qt::ToQt(palette::kGold), 2);
+  } else if (lit) {
+    edge = QPen(screens::qt::ToQt(palette::kDawn), 1);
+  }
+  painter.setPen(edge);
+  painter.setBrush(screens::qt::ToQt(palette::kWhite.WithOpacity(light)));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kTileRadius, kTileRadius);
+
+  if (!control_.picture) return;
+  const double field = std::min({kTileField * height() / 112, width() * 0.8, height() * 0.55});
+  const QPointF middle(width() / 2.0, height() * 0.34);
+  PaintRendered(painter, QRectF(middle.x() - field / 2, middle.y() - field / 2, field, field));
+}
+
+// Pictures change seldom and are painted often: each is rendered once a size.
+void ControlWidget::PaintRendered(QPainter& painter, const QRectF& into) {
+  const double ratio = devicePixelRatioF();
+  const QSize size(qCeil(into.width() * ratio), qCeil(into.height() * ratio));
+  if (rendered_.size() != size || rendered_.devicePixelRatio() != ratio) {
+    rendered_ = QPixmap(size);
+    rendered_.setDevicePixelRatio(ratio);
+    rendered_.fill(Qt::transparent);
+    QPainter onto(&rendered_);
+    PaintPicture(onto, *control_.picture, QRectF(QPointF(), into.size()));
+  }
+  painter.drawPixmap(into.topLeft(), rendered_);
+}
+
+void ControlWidget::PaintCaption(QPainter& painter) {
+  const QString text = WithoutMarks(screens::qt::ToQt(control_.caption));
+  const QFont font = screens::qt::ToQt(control_.font);
+  painter.setPen(screens::qt::ToQt(control_.foreColour));
+  if (control_.wordWrap) {
+    painter.setFont(font);
+    painter.drawText(Body(), ToQt(control_.alignment) | Qt::AlignTop | Qt::TextWordWrap, text);
+    return;
+  }
+  painter.setFont(Fitted(font, text, Body().width()));
+  painter.drawText(
+      Body(), ToQt(control_.alignment) | Qt::AlignVCenter | Qt::TextSingleLine,
+      painter.fontMetrics().elidedText(text, Qt::ElideRight, static_cast<int>(Body().width())));
+}
+
+void ControlWidget::mouseMoveEvent(QMouseEvent*) {
+  dispatch_(control_.onMouseMove);
+}
+
+void ControlWidget::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) dispatch_(control_.onMouseDown);
+}
+
+void ControlWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  dispatch_(control_.onMouseUp);
+  if (rect().contains(event->position().toPoint())) dispatch_(control_.onClick);
+}
+
+void ControlWidget::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+      dispatch_(control_.onClick);
+      break;
+    default:
+      QWidget::keyPressEvent(event);
+  }
+}
+
+}  // namespace screens::qt

@@ -1,0 +1,85 @@
+#include "screens/qt/qt_machine.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QLocale>
+#include <QMessageBox>
+#include <QRandomGenerator>
+#include <QUrl>
+
+#include "foundation/version.h"
+#include "screens/qt/qt_painting.h"
+
+namespace screens::qt {
+namespace {
+
+QMessageBox::Icon ToQt(foundation::MessageIcon icon) {
+  switch (icon) {
+    case foundation::MessageIcon::Information:
+      return QMessageBox::Information;
+    case foundation::MessageIcon::Question:
+      return QMessageBox::Question;
+    case foundation::MessageIcon::Exclamation:
+      return QMessageBox::Warning;
+    case foundation::MessageIcon::Critical:
+      return QMessageBox::Critical;
+    case foundation::MessageIcon::None:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+foundation::DateTime QtClock::Now() const {
+  const QDateTime now = QDateTime::currentDateTime();
+  const QDate date = now.date();
+  const QTime time = now.time();
+  return foundation::DateFromParts(date.year(), date.month(), date.day()) +
+         foundation::TimeFromParts(time.hour(), time.minute(), time.second());
+}
+
+foundation::MessageAnswer QtMessageBoxes::Show(std::string_view text, foundation::MessageIcon icon,
+                                               foundation::MessageButtons buttons,
+                                               std::string_view title) {
+  const bool question = buttons == foundation::MessageButtons::YesNo;
+  QMessageBox box(ToQt(icon), screens::qt::ToQt(title.empty() ? foundation::kProgramName : title),
+                  screens::qt::ToQt(text),
+                  question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok,
+                  QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  if (question) box.setEscapeButton(QMessageBox::No);
+  const int answer = box.exec();
+  if (!question) return foundation::MessageAnswer::Ok;
+  return answer == QMessageBox::Yes ? foundation::MessageAnswer::Yes
+                                    : foundation::MessageAnswer::No;
+}
+
+void QtYielder::Yield() {
+  QApplication::processEvents();
+}
+
+double QtRandomNumbers::Next() {
+  return QRandomGenerator::global()->generateDouble();
+}
+
+void QtBrowser::Open(std::string_view address) {
+  QDesktopServices::openUrl(QUrl(screens::qt::ToQt(address)));
+}
+
+foundation::LocaleNames SystemNames() {
+  const QLocale locale = QLocale::system();
+  foundation::LocaleNames names;
+  for (int month = 1; month <= 12; ++month) {
+    names.months[static_cast<std::size_t>(month - 1)] =
+        locale.standaloneMonthName(month).toStdString();
+  }
+  for (int weekday = 0; weekday < 7; ++weekday) {  // the toolkit's 7 is Sunday
+    names.weekdays[static_cast<std::size_t>(weekday)] =
+        locale.standaloneDayName(weekday == 0 ? 7 : weekday).toStdString();
+  }
+  return names;
+}
+
+}  // namespace screens::qt

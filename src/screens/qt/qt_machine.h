@@ -1,0 +1,39 @@
+// The machine's clock, boxes, event loop and browser through the toolkit.
+#pragma once
+
+#include "foundation/locale_names.h"
+#include "foundation/machine.h"
+
+namespace screens::qt {
+
+class QtClock : public foundation::Clock {
+ public:
+  foundation::DateTime Now() const override;
+};
+
+class QtMessageBoxes : public foundation::MessageBoxes {
+ public:
+  foundation::MessageAnswer Show(std::string_view text, foundation::MessageIcon icon,
+                                 foundation::MessageButtons buttons,
+                                 std::string_view title) override;
+};
+
+class QtYielder : public foundation::Yielder {
+ public:
+  void Yield() override;
+};
+
+class QtRandomNumbers : public foundation::RandomNumbers {
+ public:
+  double Next() override;
+};
+
+class QtBrowser : public foundation::Browser {
+ public:
+  void Open(std::string_view address) override;
+};
+
+// Months and weekdays of the user's locale.
+foundation::LocaleNames SystemNames();
+
+}  // namespace screens::qt

@@ -1,0 +1,47 @@
+#include "screens/qt/qt_settings.h"
+
+#include "foundation/error.h"
+#include "screens/qt/qt_painting.h"
+
+namespace screens::qt {
+namespace {
+
+QString Entry(std::string_view section, std::string_view key) {
+  return ToQt(section) + u'/' + ToQt(key);
+}
+
+}  // namespace
+
+QSettings& QtSettings::StoreOf(std::string_view application) {
+  auto found = stores_.find(application);
+  if (found == stores_.end()) {
+    const QString name = ToQt(application);
+    auto store =
+        std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, name, name);
+    store->setFallbacksEnabled(false);
+    found = stores_.emplace(application, std::move(store)).first;
+  }
+  return *found->second;
+}
+
+std::string QtSettings::GetSetting(std::string_view application, std::string_view section,
+                                   std::string_view key, std::string_view fallback) {
+  QSettings& store = StoreOf(application);
+  store.sync();  // takes in what another process has written; a look at the file's date if nothing
+  const QVariant value = store.value(Entry(section, key));
+  if (!value.isValid()) return std::string(fallback);
+  // A comma typed into the file by hand makes a list of the value.
+  return value.toStringList().join(u',').toStdString();
+}
+
+void QtSettings::SaveSetting(std::string_view application, std::string_view section,
+                             std::string_view key, std::string_view value) {
+  QSettings& store = StoreOf(application);
+  store.setValue(Entry(section, key), ToQt(value));
+  store.sync();
+  if (store.status() != QSettings::NoError) {
+    throw foundation::Error(foundation::ErrorKind::FileAccess);
+  }
+}
+
+}  // namespace screens::qt

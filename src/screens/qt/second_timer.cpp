@@ -1,0 +1,47 @@
+#include "screens/qt/second_timer.h"
+
+#include <QDateTime>
+#include <utility>
+
+namespace screens::qt {
+namespace {
+
+constexpr int kSecond = 1000;    // milliseconds
+constexpr int kPastTheTurn = 5;  // so that the clock has surely turned when the handler reads it
+
+}  // namespace
+
+SecondTimer::SecondTimer(forms::Control& control, std::function<void()> tick, QObject* parent)
+    : QObject(parent), control_(control), tick_(std::move(tick)) {
+  timer_.setSingleShot(true);
+  timer_.setTimerType(Qt::PreciseTimer);
+  connect(&timer_, &QTimer::timeout, this, &SecondTimer::Fire);
+  Mirror();
+}
+
+void SecondTimer::Mirror() {
+  const int interval = control_.enabled ? control_.interval : 0;
+  if (interval == interval_) return;
+  interval_ = interval;
+  timer_.stop();
+  if (!running_) Schedule();
+}
+
+void SecondTimer::Schedule() {
+  if (interval_ <= 0) return;
+  int wait = interval_;
+  if (interval_ % kSecond == 0) {
+    const auto past = static_cast<int>(QDateTime::currentMSecsSinceEpoch() % kSecond);
+    wait += kPastTheTurn - past;
+  }
+  timer_.start(wait);
+}
+
+void SecondTimer::Fire() {
+  running_ = true;
+  tick_();
+  running_ = false;
+  Schedule();
+}
+
+}  // namespace screens::qt
