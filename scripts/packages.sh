@@ -1,0 +1,40 @@
+# What Durvela needs of a Debian 12 machine. Sourced by ./run and ./test.
+
+run_packages=(ca-certificates cmake g++ ninja-build qt6-base-dev fonts-noto-core)
+display_packages=(xvfb xauth)
+test_packages=(libgtest-dev locales)
+bench_packages=(libbenchmark-dev)
+
+# install_missing PACKAGE...: one apt-get call for those that are not installed, none if all are.
+install_missing() {
+  local missing=() package
+  for package in "$@"; do
+    dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed ||
+      missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return
+  local root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || {
+      echo "These packages are missing, and only root can install them: ${missing[*]}" >&2
+      return 1
+    }
+    root=(sudo)
+  fi
+  echo "Installing ${missing[*]}"
+  "${root[@]}" apt-get update -qq
+  "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}"
+}
+
+# build PRESET: configures and builds, silent unless something fails.
+build() {
+  echo "Building ($1)"
+  mkdir -p build
+  local log=build/$1.log
+  { cmake --preset "$1" && cmake --build --preset "$1"; } >"$log" 2>&1 || {
+    tail -n 60 "$log"
+    echo "The build failed; its whole log is $log." >&2
+    return 1
+  }
+}

@@ -1,0 +1,79 @@
+// Drives the program's own windows and writes a picture of each screen into a folder.
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <cstdio>
+#include <cstdlib>
+
+#include "screens/qt/application.h"
+
+namespace {
+
+using screens::qt::FormWindow;
+
+// A moment that stands still, for the picture of a known day.
+struct StandingClock : foundation::Clock {
+  foundation::DateTime Now() const override {
+    return foundation::DateFromParts(2011, 3, 5) + foundation::TimeFromParts(11, 12, 9);
+  }
+};
+
+class Tour {
+ public:
+  explicit Tour(const QDir& folder) : folder_(folder) {}
+
+  void Take(FormWindow& window, const QString& name) {
+    Wait(150);
+    const QString path = folder_.filePath(name + QStringLiteral(".png"));
+    if (!window.grab().save(path)) {
+      std::fprintf(stderr, "%s cannot be written\n", qPrintable(path));
+      failed_ = true;
+      return;
+    }
+    std::printf("%s\n", qPrintable(path));
+  }
+
+  void TakeDashboard(const foundation::Clock& clock, const QString& name, bool sizes) {
+    screens::qt::Program program(clock);
+    program.Start();
+    FormWindow& window = program.host.WindowOf(program.dashboard);
+    Take(window, name);
+    if (!sizes) return;
+    window.resize(window.minimumSize());
+    Take(window, name + QStringLiteral("-smallest"));
+    window.resize(1920, 1080);
+    Take(window, name + QStringLiteral("-largest"));
+  }
+
+  bool Failed() const { return failed_; }
+
+ private:
+  static void Wait(int milliseconds) {
+    QElapsedTimer time;
+    for (time.start(); time.elapsed() < milliseconds;) QApplication::processEvents();
+  }
+
+  QDir folder_;
+  bool failed_ = false;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  if (argc != 2) {
+    std::fprintf(stderr, "usage: durvela_tour FOLDER\n");
+    return EXIT_FAILURE;
+  }
+  screens::qt::DressApplication();
+  const QDir folder(QString::fromLocal8Bit(argv[1]));
+  if (!folder.mkpath(QStringLiteral("."))) {
+    std::fprintf(stderr, "%s cannot be made\n", argv[1]);
+    return EXIT_FAILURE;
+  }
+  Tour tour(folder);
+  tour.TakeDashboard(screens::qt::QtClock(), QStringLiteral("dashboard"), true);
+  tour.TakeDashboard(StandingClock(), QStringLiteral("dashboard-5-march-2011"), false);
+  return tour.Failed() ? EXIT_FAILURE : EXIT_SUCCESS;
+}
