@@ -1,0 +1,82 @@
+// From the start of the process to the first painted dashboard, and what the dashboard costs
+// while nobody touches it.
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QTimer>
+#include <cstdio>
+#include <ctime>
+#include <fstream>
+#include <string>
+
+#include "screens/qt/application.h"
+
+namespace {
+
+constexpr int kIdleSeconds = 20;
+
+// Seconds since the machine started at which the kernel made this process, to 1/100.
+double ProcessStart() {
+  std::ifstream stat("/proc/self/stat");
+  std::string line;
+  std::getline(stat, line);
+  std::size_t at = line.rfind(')') + 2;
+  for (int field = 3; field < 22; ++field) at = line.find(' ', at) + 1;
+  return std::stod(line.substr(at)) / static_cast<double>(sysconf(_SC_CLK_TCK));
+}
+
+double SecondsSinceBoot() {
+  timespec now{};
+  clock_gettime(CLOCK_BOOTTIME, &now);
+  return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
+}
+
+double ProcessorSeconds() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  const auto seconds = [](const timeval& t) {
+    return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_usec) / 1e6;
+  };
+  return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+// Notes the moment at which a window has been painted for the first time.
+class FirstPaint : public QObject {
+ public:
+  double at = 0;
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const bool handled = QObject::eventFilter(watched, event);
+    if (at == 0 && event->type() == QEvent::UpdateRequest) {
+      QMetaObject::invokeMethod(
+          this, [this] { at = SecondsSinceBoot(); }, Qt::QueuedConnection);
+    }
+    return handled;
+  }
+};
+
+void RunFor(double seconds) {
+  // Not quit(), which would ask the windows, and the dashboard its user.
+  QTimer::singleShot(static_cast<int>(seconds * 1000), [] { QCoreApplication::exit(); });
+  QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  screens::qt::DressApplication();
+  screens::qt::Program program;
+  FirstPaint paint;
+  program.host.WindowOf(program.dashboard).installEventFilter(&paint);
+  program.Start();
+  RunFor(2);
+  std::printf("start to first painted window: %.0f ms\n", 1000 * (paint.at - ProcessStart()));
+
+  const double before = ProcessorSeconds();
+  RunFor(kIdleSeconds);
+  std::printf("processor while idle: %.2f %%\n",
+              100 * (ProcessorSeconds() - before) / kIdleSeconds);
+  return 0;
+}
