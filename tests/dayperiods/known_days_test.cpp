@@ -98,7 +98,7 @@ TEST(KnownDays, HaveTheirPeriods) {
 }
 
 // Ordinary days by the formulas of the NOAA solar calculator (noaa_times.py beside this file).
-TEST(OrdinaryDays, AgreeWithThePublishedFormulasToTwoMinutes) {
+TEST(OrdinaryDays, AgreeWithThePublishedFormulasToTheMinute) {
   const struct {
     std::int16_t day, month, year;
     const char *latitude, *longitude, *zone;
@@ -130,8 +130,8 @@ TEST(OrdinaryDays, AgreeWithThePublishedFormulasToTwoMinutes) {
     const SunriseRows rows =
         clsBirthDetails().Sunrise(place.ppLatitude, place.ppLongitude, place.ppZoneHours, nDay,
                                   nMonth, nYear, nHour, nMin, nSec);
-    EXPECT_NEAR(rows.clockRise, day.rise, 2 / 60.0) << rows.date << " " << day.latitude;
-    EXPECT_NEAR(rows.clockSet, day.set, 2 / 60.0) << rows.date << " " << day.latitude;
+    EXPECT_NEAR(rows.clockRise, day.rise, 1 / 60.0) << rows.date << " " << day.latitude;
+    EXPECT_NEAR(rows.clockSet, day.set, 1 / 60.0) << rows.date << " " << day.latitude;
   }
 }
 
