@@ -8,7 +8,6 @@
 #include "foundation/locale_names.h"
 #include "foundation/modConvertFx.h"
 #include "foundation/numbers.h"
-#include "foundation/text.h"
 #include "foundation/zzVorin.h"
 
 namespace dayperiods {

@@ -1,7 +1,6 @@
 // The solar series of clsBirthDetails: low-precision mean longitude, equation of centre and
 // obliquity, and the hour angle at which the Sun's upper limb meets the refracted horizon.
 
-#include <array>
 #include <cmath>
 
 #include "dayperiods/clsBirthDetails.h"

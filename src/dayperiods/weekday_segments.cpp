@@ -1,6 +1,6 @@
 #include "dayperiods/weekday_segments.h"
 
-#include "foundation/error.h"
+#include "foundation/bounded_array.h"
 
 namespace dayperiods {
 namespace {
@@ -8,12 +8,13 @@ namespace {
 constexpr int kWeekdays = 7;
 
 // By weekday, Sunday first.
-constexpr std::array<int, kWeekdays> kDurvelaSegments = {8, 2, 7, 5, 6, 4, 3};
+constexpr foundation::BoundedArray<int, 1, kWeekdays> kDurvelaSegments({8, 2, 7, 5, 6, 4, 3});
 
 // The lords of the weekdays, Sunday first. The rotation through the segments takes the first seven
 // alone; the eighth, the lordless one, closes the list.
-constexpr std::array<std::string_view, 8> kPlanets = {"SUN",     "MOON",  "MARS",   "MERCURY",
-                                                      "JUPITER", "VENUS", "SATURN", "NIRISH"};
+constexpr foundation::BoundedArray<std::string_view, 1, 8> kPlanets({"SUN", "MOON", "MARS",
+                                                                     "MERCURY", "JUPITER", "VENUS",
+                                                                     "SATURN", "NIRISH"});
 
 // The last segment that the planet rules: where it is the day's own lord, the eighth, not the
 // first.
@@ -24,17 +25,10 @@ int LastSegmentOf(std::string_view planet, int weekday) {
   return segment;
 }
 
-std::size_t Checked(int weekday) {
-  if (weekday < 1 || weekday > kWeekdays) {
-    throw foundation::Error(foundation::ErrorKind::Subscript);
-  }
-  return static_cast<std::size_t>(weekday - 1);
-}
-
 }  // namespace
 
 int DurvelaSegment(int weekday) {
-  return kDurvelaSegments[Checked(weekday)];
+  return kDurvelaSegments[weekday];
 }
 int GulikSegment(int weekday) {
   return LastSegmentOf("SATURN", weekday);
@@ -44,9 +38,13 @@ int YumSegment(int weekday) {
 }
 
 std::array<std::string_view, kSegmentsOfDaylight> SegmentLords(int weekday) {
-  const std::size_t first = Checked(weekday);
+  if (weekday > kWeekdays) throw foundation::Error(foundation::ErrorKind::Subscript);
   std::array<std::string_view, kSegmentsOfDaylight> lords;
-  for (std::size_t i = 0; i < lords.size(); ++i) lords[i] = kPlanets[(first + i) % kWeekdays];
+  int planet = weekday;
+  for (std::string_view& lord : lords) {
+    lord = kPlanets[planet];
+    planet = planet % kWeekdays + 1;
+  }
   return lords;
 }
 

@@ -14,11 +14,16 @@ class BoundedArray {
  public:
   static_assert(Lower <= Upper);
 
+  BoundedArray() = default;
+  constexpr explicit BoundedArray(
+      const std::array<T, static_cast<std::size_t>(Upper - Lower + 1)>& elements)
+      : elements_(elements) {}
+
   T& operator[](int index) { return elements_[Offset(index)]; }
-  const T& operator[](int index) const { return elements_[Offset(index)]; }
+  constexpr const T& operator[](int index) const { return elements_[Offset(index)]; }
 
  private:
-  static std::size_t Offset(int index) {
+  static constexpr std::size_t Offset(int index) {
     if (index < Lower || index > Upper) throw Error(ErrorKind::Subscript);
     return static_cast<std::size_t>(index - Lower);
   }

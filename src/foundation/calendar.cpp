@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "foundation/checked.h"
+#include "foundation/error.h"
 #include "foundation/numbers.h"
 
 namespace foundation {

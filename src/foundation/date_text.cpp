@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "foundation/checked.h"
+#include "foundation/error.h"
 #include "foundation/locale_names.h"
 #include "foundation/text.h"
 
@@ -49,21 +49,12 @@ class Reader {
     return number;
   }
 
-  // The longest of the month names that the text begins with: "Tháng 11" before "Tháng 1". The
-  // user's names as they are written come first, since nearly every text was made from them.
-  std::optional<int> TakeMonthName() {
-    const auto asWritten = [](const std::string& name) -> const std::string& { return name; };
-    const auto folded = [](const std::string& name) { return FoldCase(name); };
-    Match match = LongestMonth(rest_, UserNames(), asWritten);
-    if (match.month == 0) {
-      const std::string rest = FoldCase(rest_);
-      const Match english = LongestMonth(rest, EnglishNames(), folded);
-      match = LongestMonth(rest, UserNames(), folded);
-      if (english.length > match.length) match = english;
-    }
-    if (match.month == 0) return std::nullopt;
-    rest_.remove_prefix(match.length);  // folding keeps the length of every character
-    return match.month;
+  // A name before a number, since a name may begin with one.
+  std::optional<int> TakeMonth() {
+    const MonthMatch name = MonthAtStart(rest_);
+    if (name.month == 0) return TakeNumber();
+    rest_.remove_prefix(name.length);
+    return name.month;
   }
 
   // "AM" or "PM", in any case: the hours that it adds to hours counted from 0.
@@ -75,29 +66,13 @@ class Reader {
   }
 
  private:
-  struct Match {
-    int month = 0;  // 0 is none
-    std::size_t length = 0;
-  };
-
-  template <typename Form>
-  static Match LongestMonth(std::string_view text, const LocaleNames& names, Form form) {
-    Match longest;
-    for (int i = 0; i < 12; ++i) {
-      const std::string& name = form(names.months[static_cast<std::size_t>(i)]);
-      if (name.size() > longest.length && text.starts_with(name)) longest = {i + 1, name.size()};
-    }
-    return longest;
-  }
-
   std::string_view rest_;
 };
 
 std::optional<DateTime> TakeDate(Reader& reader) {
   const auto day = reader.TakeNumber();
   if (!day || !reader.TakeDateSeparator()) return std::nullopt;
-  auto month = reader.TakeNumber();
-  if (!month) month = reader.TakeMonthName();
+  const auto month = reader.TakeMonth();
   if (!month || !reader.TakeDateSeparator()) return std::nullopt;
   auto year = reader.TakeNumber();
   if (!year) return std::nullopt;

@@ -1,14 +1,30 @@
 #include "foundation/locale_names.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "foundation/error.h"
+#include "foundation/text.h"
 
 namespace foundation {
 namespace {
 
-LocaleNames& Names() {
-  static LocaleNames names = EnglishNames();
+using Months = std::array<std::string, 12>;
+
+Months Folded(const Months& months) {
+  Months folded;
+  std::transform(months.begin(), months.end(), folded.begin(), FoldCase);
+  return folded;
+}
+
+struct Names {
+  LocaleNames user = EnglishNames();
+  Months foldedUser = Folded(user.months);
+  const Months foldedEnglish = foldedUser;
+};
+
+Names& TheNames() {
+  static Names names;
   return names;
 }
 
@@ -29,10 +45,27 @@ const LocaleNames& EnglishNames() {
 }
 
 const LocaleNames& UserNames() {
-  return Names();
+  return TheNames().user;
 }
+
 void SetUserNames(LocaleNames names) {
-  Names() = std::move(names);
+  TheNames().foldedUser = Folded(names.months);
+  TheNames().user = std::move(names);
+}
+
+MonthMatch MonthAtStart(std::string_view text) {
+  const std::string folded = FoldCase(text);  // which keeps the length of every character
+  const Names& names = TheNames();
+  MonthMatch longest;
+  for (const Months* months : {&names.foldedUser, &names.foldedEnglish}) {
+    for (std::size_t i = 0; i < months->size(); ++i) {
+      const std::string& name = (*months)[i];
+      if (name.size() > longest.length && folded.starts_with(name)) {
+        longest = {static_cast<int>(i) + 1, name.size()};
+      }
+    }
+  }
+  return longest;
 }
 
 const std::string& MonthName(int month) {

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace foundation {
 
@@ -20,6 +22,15 @@ void SetUserNames(LocaleNames names);
 
 // The full name of month 1 to 12. InvalidCall for any other.
 const std::string& MonthName(int month);
+
+struct MonthMatch {
+  int month = 0;           // 1 to 12; 0 is none
+  std::size_t length = 0;  // bytes of the text that are the name
+};
+
+// The longest full month name, the user's or the English one in any case, that the text begins
+// with: "Tháng 11" before "Tháng 1", "11月" before a number 11.
+MonthMatch MonthAtStart(std::string_view text);
 
 // The full name of weekday 1 (Sunday) to 7 (Saturday). InvalidCall for any other.
 const std::string& WeekdayName(int weekday);

@@ -1,5 +1,6 @@
 #include "foundation/numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -67,19 +68,32 @@ std::string_view WithoutLeadingBlanks(std::string_view text) {
   return text;
 }
 
+// Of the first digit that counts; for numbers far outside the range, so that the sign is enough.
+long PowerOfTen(std::string_view number) {
+  const std::size_t e = std::min(number.find_first_of("Ee"), number.size());
+  const std::size_t point = std::min(number.find('.'), e);
+  const std::size_t digit = number.find_first_of("123456789");
+  long exponent = 0;
+  if (e < number.size()) {
+    std::string_view text = number.substr(e + 1);
+    if (text.front() == '+') text.remove_prefix(1);
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), exponent);
+    if (read.ec == std::errc::result_out_of_range) {
+      exponent =
+          text.front() == '-' ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
+    }
+  }
+  return exponent + static_cast<long>(point) - static_cast<long>(digit);
+}
+
 // `number` is what NumberLength has measured.
 double ReadNumber(std::string_view number) {
   if (number.front() == '+') number.remove_prefix(1);
   double x = 0;
   const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), x);
   if (error == std::errc::result_out_of_range) {
-    // Too small counts as 0; which of the two it was shows in the exponent's sign.
-    const std::size_t e = number.find_first_of("Ee");
-    const bool tiny = e != std::string_view::npos
-                          ? number.find('-', e) != std::string_view::npos
-                          : number.find_first_of("123456789") > number.find('.');
-    if (!tiny) throw Error(ErrorKind::Overflow);
-    return 0;
+    if (PowerOfTen(number) > 0) throw Error(ErrorKind::Overflow);
+    return 0;  // too small to be told from it
   }
   return x;
 }

@@ -22,6 +22,7 @@ std::string_view TimeField(std::string_view text, std::size_t number) {
 // Hours equal to the limit stay.
 double HoursWithin(double hours, double limit) {
   if (hours >= 0 && hours <= limit) return hours;
+  if (!(limit > 0)) throw Error(ErrorKind::InvalidCall);
   const double rest = std::fmod(hours, limit);
   if (rest < 0) return rest + limit;
   return rest == 0 && hours > 0 ? limit : rest;
@@ -45,8 +46,7 @@ std::string PadDigits(double value, int width) {
 }
 
 std::string DecimalToTimeText(double x, double limit, bool noSeconds) {
-  if (!(Finite(limit) > 0)) throw Error(ErrorKind::InvalidCall);
-  const double hours = HoursWithin(std::floor(Finite(x)), limit);
+  const double hours = HoursWithin(std::floor(Finite(x)), Finite(limit));
   const double m = (x - std::floor(x)) * 60;
   const double minutes = std::floor(m);
   const double seconds = std::floor((m - minutes) * 60 + 0.5);

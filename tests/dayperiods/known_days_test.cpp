@@ -119,7 +119,6 @@ TEST(OrdinaryDays, AgreeWithThePublishedFormulasToTheMinute) {
       {5, 3, 2011, "34.05S", "151.10E", "150.0E", 5.762, 18.461},
       {21, 6, 2019, "34.05S", "151.10E", "150.0E", 7.010, 16.890},
       {22, 11, 2026, "34.05S", "151.10E", "150.0E", 4.661, 18.723},
-
   };
   for (const auto& day : kOrdinaryDays) {
     engine::clsPP place;

@@ -62,15 +62,15 @@ TEST(RiseSet, TakesDegreesAndMinutesWithTheirHemisphere) {
 
 TEST(HinduDay, BeginsAtSunriseToTheSecond) {
   // Sunrise of 5 March 2011 in Delhi is 06:43 by the NOAA formulas as well.
-  const auto durvela = [](double hour, double minute, double second) {
+  const auto sunriseAt = [](double hour, double minute, double second) {
     const foundation::SessionTable session = Delhi();
     const DaylightSegments day = clsUtilities(session).Divide(5, 3, 2011, hour, minute, second);
     EXPECT_EQ(day.weekday, 7);  // of the calendar date, before sunrise too
     return day.sunrise;
   };
-  const double own = durvela(6, 43, 0);
+  const double own = sunriseAt(6, 43, 0);
   EXPECT_DOUBLE_EQ(own, 6 + 43 / 60.0);
-  EXPECT_DOUBLE_EQ(durvela(6, 42, 59), 6 + 44 / 60.0);  // of the day before
+  EXPECT_DOUBLE_EQ(sunriseAt(6, 42, 59), 6 + 44 / 60.0);  // of the day before
 }
 
 TEST(HinduDay, FailsWhereTheSunDoesNotCrossTheHorizon) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "foundation/date_text.h"
 #include "support/errors.h"
 #include "support/locales.h"
@@ -106,11 +108,22 @@ TEST(DateText, KnowsTheUsersMonthsAndTheEnglishOnes) {
     const support::UserNamesScope names(support::German());
     EXPECT_EQ(ReadDateTime("5-März-2011"), date);
     EXPECT_EQ(ReadDateTime("5 MÄRZ 2011"), date);
-    EXPECT_EQ(ReadDateTime("5 march 2011"), date);
+    EXPECT_EQ(ReadDateTime("5 january 2011"), DateFromParts(2011, 1, 5));  // "Januar" and a "y"
   }
   {
     const support::UserNamesScope names(support::Hindi());
     EXPECT_EQ(ReadDateTime("5 मार्च 2011"), date);
+  }
+  {
+    // Names that begin with a number.
+    LocaleNames japanese = EnglishNames();
+    for (int i = 0; i < 12; ++i) {
+      japanese.months[static_cast<std::size_t>(i)] = std::to_string(i + 1) + "月";
+    }
+    const support::UserNamesScope names(japanese);
+    EXPECT_EQ(ReadDateTime("5 3月 2011"), date);
+    EXPECT_EQ(ReadDateTime("5 11月 2011"), DateFromParts(2011, 11, 5));
+    EXPECT_EQ(ReadDateTime("5 3 2011"), date);
   }
   // A name that begins another, and holds a blank.
   LocaleNames numbered = EnglishNames();

@@ -48,7 +48,9 @@ TEST(LeadingNumber, IsTheNumericPartThatTheTextBeginsWith) {
   for (const auto& [text, number] : kCases) EXPECT_EQ(LeadingNumber(text), number) << text;
   EXPECT_ERROR(Overflow, LeadingNumber("1e400"));
   EXPECT_ERROR(Overflow, LeadingNumber(std::string(400, '9')));
-  EXPECT_EQ(LeadingNumber("0." + std::string(400, '0') + "1"), 0);
+  EXPECT_ERROR(Overflow, LeadingNumber("-" + std::string(400, '9') + "e-5"));
+  EXPECT_ERROR(Overflow, LeadingNumber("1e99999999999999999999"));
+  EXPECT_EQ(LeadingNumber("0." + std::string(400, '0') + "1e10"), 0);
 }
 
 TEST(WholeNumber, TakesNothingButANumber) {

@@ -23,7 +23,7 @@ TEST(Text, TakesAStrayByteAsACharacter) {
 }
 
 TEST(Text, FoldsCaseOfLettersWithASmallForm) {
-  EXPECT_EQ(FoldCase("MÄRZ Şubat ΜΆΡΤΙΟΣ МАРТ Ёлка"), "märz şubat μάρτιοσ март ёлка");
+  EXPECT_EQ(FoldCase("MÄRZ PAŹDZIERNIK ΜΆΡΤΙΟΣ МАРТ ՄԱՐՏ"), "märz październik μάρτιοσ март մարտ");
   EXPECT_EQ(FoldCase("×ß्"), "×ß्");
 }
 
