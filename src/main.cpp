@@ -6,6 +6,6 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   screens::qt::DressApplication();
   screens::qt::Program program;
-  program.Start();
+  screens::qt::RunHandler([&] { program.Start(); });
   return QApplication::exec();
 }

@@ -1,13 +1,12 @@
 #include "forms/clsVSZ.h"
 
+#include "forms/units.h"
 #include "foundation/resume.h"
 
 namespace forms {
 namespace {
 
 using foundation::Resume;
-
-constexpr float kSmallestFont = 7.5F;  // points
 
 }  // namespace
 
@@ -71,7 +70,7 @@ void clsVSZ::ResizeControl(Control& control, const ControlSize& size, Ratios rat
   Resume([&] {
     Font& font = FontOf(control);
     font.size = ratios.y * size.FontSize;
-    if (font.size < kSmallestFont) font.size = kSmallestFont;
+    if (font.size < kSmallestFont) font.size = static_cast<float>(kSmallestFont);
   });
 }
 

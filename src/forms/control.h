@@ -10,18 +10,7 @@
 
 namespace forms {
 
-enum class Kind {
-  Label,
-  Image,
-  PictureBox,
-  Shape,
-  Line,
-  Timer,
-  TextBox,
-  Button,
-  ComboBox,
-  ListBox
-};
+enum class Kind { Label, Image, PictureBox, Shape, Line, Timer, ComboBox };
 
 // In twips, from the corner of the container.
 struct Place {
@@ -41,11 +30,14 @@ enum class Look {
   Tile,  // an item of a picture menu: picture above, room for a caption, lit when hot or pressed
 };
 
+struct Control;
+
 // What a form writes down for a control; the rest starts as it stands here.
 struct Properties {
+  Control* container = nullptr;  // a picture box of the same form; null for the form itself
   Place place;
   LineEnds ends;        // a Line's, in place of `place`
-  std::string caption;  // or the text of a text box; UTF-8, "&" before a letter marks it
+  std::string caption;  // UTF-8
   Font font;
   std::string tag;
   std::string toolTip;
@@ -72,8 +64,7 @@ struct Properties {
 struct Control : Properties {
   Kind kind;
   std::string name;
-  int index = -1;                // in its control array; -1 outside one
-  Control* container = nullptr;  // a picture box; null for the form itself
+  int index = -1;  // in its control array; -1 outside one
 
   // Handlers; what a form leaves empty does nothing.
   std::function<void()> onClick;

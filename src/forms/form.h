@@ -53,6 +53,7 @@ class Form {
   virtual void Form_Resize() {}
   // Cancel keeps the form.
   virtual void Form_QueryUnload([[maybe_unused]] bool& cancel) {}
+  virtual void Form_MouseMove() {}  // where no control is that answers
   virtual void Form_MouseLeave() {}
 
  protected:

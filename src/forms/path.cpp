@@ -63,6 +63,12 @@ Path& Path::ArcTo(Point centre, double radius, double from, double to) {
   return *this;
 }
 
+Path Path::Raised(double level, double factor) const {
+  Path raised = *this;
+  for (Point& point : raised.points_) point.y = level + factor * (point.y - level);
+  return raised;
+}
+
 Path Path::Circle(Point centre, double radius) {
   return Path().Arc(centre, radius, 0, 360).Close();
 }

@@ -30,6 +30,9 @@ class Path {
   // A piece of a ring between two angles.
   static Path RingPiece(Point centre, double inner, double outer, double from, double to);
 
+  // The same outline with its heights, measured from a level, multiplied.
+  Path Raised(double level, double factor) const;
+
   const std::vector<Verb>& Verbs() const { return verbs_; }
   const std::vector<Point>& Points() const { return points_; }
   friend bool operator==(const Path&, const Path&) = default;

@@ -1,7 +1,6 @@
 #include "screens/dashboard_tick.h"
 
 #include <array>
-#include <cstdint>
 #include <optional>
 
 #include "dayperiods/clsBirthDetails.h"

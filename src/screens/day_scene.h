@@ -1,7 +1,6 @@
 // What the dashboard's background tells: one day's light in eight parts, and the sun in it.
 #pragma once
 
-#include <array>
 #include <optional>
 #include <string>
 

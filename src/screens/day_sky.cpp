@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "dayperiods/weekday_segments.h"
+#include "screens/frmMain_layout.h"
 #include "screens/palette.h"
 
 namespace screens {
@@ -15,12 +16,11 @@ using forms::Outline;
 using forms::Path;
 using forms::Point;
 
-constexpr double kDesignWidth = 840;
-constexpr double kDesignHeight = 560;
 constexpr double kHorizon = 356;  // from the top
 constexpr double kArcCentre = 290;
 constexpr double kOuterRadius = 246;
 constexpr double kInnerRadius = 206;
+constexpr double kSmallLettering = 11.5;
 constexpr double kGap = 0.35;  // degrees left free at either end of a part
 
 // Stars: x, y and radius on the design's sky.
@@ -35,9 +35,10 @@ class SkyPainter {
  public:
   SkyPainter(const DayScene& scene, double width, double height)
       : scene_(scene),
-        x_(width / kDesignWidth),
-        y_(height / kDesignHeight),
+        x_(width / layout::kWidth),
+        y_(height / layout::kHeight),
         scale_(std::min(x_, y_)),
+        rise_(y_ / scale_),
         centre_{kArcCentre * x_, kHorizon * y_} {
     picture_.width = width;
     picture_.height = height;
@@ -67,8 +68,15 @@ class SkyPainter {
         forms::Lettering{text, at, alignment, size * TextScale(), bold, colour});
   }
 
-  // Lettering follows the height, as the fonts of the controls do, with the same smallest size.
-  double TextScale() const { return std::max(y_, 10 / 11.5); }
+  // The smallest lettering is never below the smallest font.
+  double TextScale() const { return std::max(scale_, forms::kSmallestText / kSmallLettering); }
+
+  // A point of the arc's own measures. In a window higher than wide the arc rises with it, so that
+  // it stays round the clock.
+  Point OnArc(double radius, double angle) const {
+    const Point at = forms::OnCircle(centre_, radius * scale_, angle);
+    return {at.x, centre_.y + rise_ * (at.y - centre_.y)};
+  }
 
   void Sky() {
     Add(Path::Box({0, 0}, picture_.width, centre_.y),
@@ -102,7 +110,7 @@ class SkyPainter {
 
   // The inside of the arc is shaded, so that the clock reads well against the bright horizon.
   void Arc() {
-    Add(Path().Arc(centre_, kInnerRadius * scale_, 180, 0).Close(),
+    Add(Path().Arc(centre_, kInnerRadius * scale_, 180, 0).Close().Raised(centre_.y, rise_),
         forms::RadialGradient{centre_,
                               kInnerRadius * scale_,
                               {{0, palette::kNight.WithOpacity(0.45)},
@@ -112,7 +120,8 @@ class SkyPainter {
       const double from = AngleAt((segment - 1.0) / dayperiods::kSegmentsOfDaylight);
       const double to = AngleAt(segment / double{dayperiods::kSegmentsOfDaylight});
       Add(Path::RingPiece(centre_, kInnerRadius * scale_, kOuterRadius * scale_, from - kGap,
-                          to + kGap),
+                          to + kGap)
+              .Raised(centre_.y, rise_),
           Tint(segment));
     }
   }
@@ -123,8 +132,7 @@ class SkyPainter {
 
   void Sun() {
     if (!scene_.sun) return;
-    const Point at =
-        forms::OnCircle(centre_, (kInnerRadius + kOuterRadius) / 2 * scale_, AngleAt(*scene_.sun));
+    const Point at = OnArc((kInnerRadius + kOuterRadius) / 2, AngleAt(*scene_.sun));
     Add(Path::Circle(at, 44 * scale_),
         forms::RadialGradient{at,
                               44 * scale_,
@@ -156,10 +164,11 @@ class SkyPainter {
     const double radius = inside ? kInnerRadius - 12 : kOuterRadius + 18;
     const Alignment alignment = left == inside ? Alignment::Left : Alignment::Right;
     const double line = 15 * TextScale();
-    Point at = forms::OnCircle(centre_, radius * scale_, angle);
+    Point at = OnArc(radius, angle);
     if (!inside) at.y -= line / 2;  // so that the second line clears the arc
     Text(name, at, alignment, 13, true, palette::kCream);
-    Text(period.times, {at.x, at.y + line}, alignment, 11.5, false, palette::kFaintCream);
+    Text(period.times, {at.x, at.y + line}, alignment, kSmallLettering, false,
+         palette::kFaintCream);
   }
 
   // From sunrise on the left to sunset on the right.
@@ -173,7 +182,8 @@ class SkyPainter {
   }
 
   const DayScene& scene_;
-  double x_, y_, scale_;
+  double x_, y_, scale_;  // of the design's width, height and lengths
+  double rise_;           // of the arc: 1 is round
   Point centre_;
   forms::Picture picture_;
 };

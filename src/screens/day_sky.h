@@ -6,8 +6,8 @@
 
 namespace screens {
 
-// The sky from night to dawn over the earth, with the day as an arc of eight; the arc stays round
-// whatever the proportions. Width and height are logical pixels.
+// The sky from night to dawn over the earth, with the day as an arc of eight; the arc is round
+// but in windows higher than wide. Width and height are logical pixels.
 forms::PicturePtr SkyPicture(const DayScene& scene, double width, double height);
 
 }  // namespace screens

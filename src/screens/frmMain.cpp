@@ -41,7 +41,7 @@ frmMain::frmMain(Services services)
 
 void frmMain::SetMenuItem(int index, std::function<void()> open) {
   PIC[index].enabled = LBL[index].enabled = static_cast<bool>(open);
-  open_[static_cast<std::size_t>(index)] = std::move(open);
+  open_[index] = std::move(open);
 }
 
 // The first tick is not waited for: a dashboard without figures tells nothing.
@@ -63,6 +63,9 @@ void frmMain::Form_QueryUnload(bool& cancel) {
   if (answer == foundation::MessageAnswer::Yes) services_.host.EndProgram();
 }
 
+void frmMain::Form_MouseMove() {
+  Image1_MouseMove();
+}
 void frmMain::Form_MouseLeave() {
   Image1_MouseMove();
 }
@@ -77,7 +80,7 @@ void frmMain::Timer1_Timer() {
 }
 
 void frmMain::PIC_Click(int index) {
-  if (const auto& open = open_[static_cast<std::size_t>(index)]) open();
+  if (const auto& open = open_[index]) open();
 }
 
 void frmMain::LBL_Click(int index) {

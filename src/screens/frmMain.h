@@ -1,11 +1,11 @@
 // frmMain, the dashboard: today at the default place, and the way to every other screen.
 #pragma once
 
-#include <array>
 #include <functional>
 
 #include "forms/clsVSZ.h"
 #include "forms/form.h"
+#include "foundation/bounded_array.h"
 #include "screens/contact.h"
 #include "screens/day_scene.h"
 #include "screens/frmMain_layout.h"
@@ -62,6 +62,7 @@ class frmMain : public forms::Form {
   void Form_Load() override;
   void Form_Resize() override;
   void Form_QueryUnload(bool& cancel) override;
+  void Form_MouseMove() override;
   void Form_MouseLeave() override;
 
   void Timer1_Timer();
@@ -75,7 +76,7 @@ class frmMain : public forms::Form {
 
   Services services_;
   forms::clsVSZ sizes_;
-  std::array<std::function<void()>, kMenuItems> open_;
+  foundation::BoundedArray<std::function<void()>, 0, kMenuItems - 1> open_;
   DayScene scene_;
 };
 

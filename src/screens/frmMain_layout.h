@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "forms/control.h"
+#include "forms/units.h"
 #include "foundation/version.h"
 #include "screens/palette.h"
 #include "screens/signs.h"
@@ -16,7 +17,7 @@ namespace screens::layout {
 using forms::Alignment;
 using forms::Properties;
 
-inline constexpr float kTwipsPerPixel = 15;
+inline constexpr auto kTwipsPerPixel = static_cast<float>(forms::kTwipsPerPixel);
 inline constexpr float kWidth = 840;  // logical pixels
 inline constexpr float kHeight = 560;
 

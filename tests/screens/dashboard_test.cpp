@@ -63,17 +63,6 @@ TEST(DashboardMenu, OpensOnlyWhatThereIs) {
   EXPECT_ERROR(Subscript, d.form.SetMenuItem(8, [] {}));
 }
 
-TEST(DashboardMenu, ReadsAsItIsCalled) {
-  Dashboard d;
-  const char* const kCaptions[] = {"What is Durvela",        "Timetable",  "About us",
-                                   "Calculation of Durvela", "Products",   "Sitara Desk",
-                                   "Yama Ghantak",           "Gulika Kaal"};
-  for (int i = 0; i < frmMain::kMenuItems; ++i) {
-    EXPECT_EQ(d.form.LBL[i].caption, kCaptions[i]);
-    EXPECT_TRUE(d.form.PIC[i].picture);
-  }
-}
-
 TEST(DashboardForm, KeepsEveryControlInsideWhateverItsSize) {
   Dashboard d;
   d.form.Form_Load();

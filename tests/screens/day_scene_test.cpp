@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "screens/dashboard.h"
 #include "screens/day_sky.h"
@@ -56,17 +57,23 @@ std::vector<std::string> Words(const forms::Picture& picture) {
   return words;
 }
 
-TEST(SkyPicture, NamesThePeriodsAndKeepsEverythingInside) {
-  const auto picture = SkyPicture(SceneAt(12, 0), 630, 420);
-  const auto words = Words(*picture);
-  for (const char* word : {"Durvela", "Gulik", "Yum", "06:43", "18:23", "09:38 - 11:05"}) {
-    EXPECT_NE(std::find(words.begin(), words.end(), word), words.end()) << word;
-  }
-  for (const auto& item : picture->items) {
-    if (const auto* lettering = std::get_if<forms::Lettering>(&item)) {
-      EXPECT_GE(lettering->size, 10);  // 7.5 points
-      EXPECT_TRUE(lettering->at.x > 0 && lettering->at.x < 630 && lettering->at.y > 0 &&
-                  lettering->at.y < 420);
+TEST(SkyPicture, NamesThePeriodsReadablyAtAnySize) {
+  const double kSizes[][2] = {{840, 560}, {630, 420}, {630, 1000}, {1920, 800}};
+  for (const auto& [width, height] : kSizes) {
+    const auto picture = SkyPicture(SceneAt(12, 0), width, height);
+    const auto words = Words(*picture);
+    for (const char* word : {"Durvela", "Gulik", "Yum", "06:43", "18:23", "09:38 - 11:05"}) {
+      EXPECT_NE(std::find(words.begin(), words.end(), word), words.end()) << word;
+    }
+    for (const auto& item : picture->items) {
+      if (const auto* lettering = std::get_if<forms::Lettering>(&item)) {
+        EXPECT_GE(lettering->size, 10);  // 7.5 points
+        EXPECT_TRUE(lettering->at.x > 0 && lettering->at.x < width);
+        // Clear of the clock, which stands at 213 to 334 of 560 in the middle of the arc.
+        const bool beside = std::abs(lettering->at.x - 290 * width / 840) > 100 * width / 840;
+        const bool above = lettering->at.y < 213 * height / 560;
+        EXPECT_TRUE(beside || above) << lettering->text << " at " << width << " by " << height;
+      }
     }
   }
   EXPECT_TRUE(Words(*SkyPicture(SceneAt(12, 0, "64.00N"), 840, 560)).empty());

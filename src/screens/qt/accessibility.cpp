@@ -12,10 +12,30 @@ QAccessible::Role RoleOf(const forms::Control& control) {
   return control.kind == forms::Kind::Label ? QAccessible::StaticText : QAccessible::Graphic;
 }
 
+// Takes its name from the widget, which follows the caption; a tile can be pressed.
+class AccessibleControl : public QAccessibleWidget {
+ public:
+  explicit AccessibleControl(ControlWidget* widget)
+      : QAccessibleWidget(widget, RoleOf(widget->Model())) {}
+
+  QStringList actionNames() const override {
+    QStringList names = QAccessibleWidget::actionNames();
+    if (role() == QAccessible::Button && widget()->isEnabled()) names.prepend(pressAction());
+    return names;
+  }
+
+  void doAction(const QString& name) override {
+    if (name == pressAction() && actionNames().contains(name)) {
+      static_cast<ControlWidget*>(widget())->Click();
+    } else {
+      QAccessibleWidget::doAction(name);
+    }
+  }
+};
+
 QAccessibleInterface* Describe(const QString&, QObject* object) {
   auto* widget = qobject_cast<ControlWidget*>(object);
-  return widget ? new QAccessibleWidget(widget, RoleOf(widget->Model()), widget->accessibleName())
-                : nullptr;
+  return widget ? new AccessibleControl(widget) : nullptr;
 }
 
 }  // namespace

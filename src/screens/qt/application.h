@@ -29,8 +29,8 @@ class Program {
   foundation::SessionTable session_;
 
  public:
-  QtHost host;
   frmMain dashboard;
+  QtHost host;  // last, so that no window outlives its form
 };
 
 }  // namespace screens::qt

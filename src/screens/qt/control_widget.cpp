@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QtMath>
 #include <algorithm>
+#include <utility>
 
 #include "screens/palette.h"
 #include "screens/qt/qt_painting.h"
@@ -18,37 +19,26 @@ constexpr double kTileRadius = 12;
 constexpr double kTileField = 56;  // of a tile's picture, where the tile is high enough
 constexpr double kDisabledOpacity = 0.5;
 
-bool DrawsCaption(const forms::Control& control) {
-  return control.kind == forms::Kind::Label;
-}
-
 int Margin(const forms::Control& control) {
   return control.look == forms::Look::Card ? kShadow : 0;
 }
 
-QRect Geometry(const forms::Control& control) {
-  const auto pixel = [](float twips) { return qRound(twips / kTwipsPerPixel); };
-  if (control.kind == forms::Kind::Line) {
-    const forms::LineEnds& e = control.ends;
-    const QPoint corner(pixel(std::min(e.x1, e.x2)), pixel(std::min(e.y1, e.y2)));
-    const QPoint end(pixel(std::max(e.x1, e.x2)), pixel(std::max(e.y1, e.y2)));
-    return QRect(corner, end);
-  }
-  const forms::Place& p = control.place;
-  const int left = pixel(p.left), top = pixel(p.top);
-  const int margin = Margin(control);
-  return QRect(left, top, pixel(p.left + p.width) - left, pixel(p.top + p.height) - top)
-      .adjusted(-margin, -margin, margin, margin);
+int ToPixels(float twips) {
+  return qRound(twips / kTwipsPerPixel);
 }
 
-// "&&" is an ampersand, and a single one marks the letter behind it.
-QString WithoutMarks(const QString& caption) {
-  QString text;
-  for (qsizetype i = 0; i < caption.size(); ++i) {
-    if (caption[i] == u'&' && ++i == caption.size()) break;
-    text += caption[i];
+// Of a line: the box of its ends, with room for its width.
+QRect Geometry(const forms::Control& control) {
+  if (control.kind == forms::Kind::Line) {
+    const forms::LineEnds& e = control.ends;
+    const QRect box(QPoint(ToPixels(e.x1), ToPixels(e.y1)), QPoint(ToPixels(e.x2), ToPixels(e.y2)));
+    const int room = qCeil(control.borderWidth);
+    return box.normalized().adjusted(-room, -room, room, room);
   }
-  return text;
+  const forms::Place& p = control.place;
+  const int left = ToPixels(p.left), top = ToPixels(p.top), margin = Margin(control);
+  return QRect(left, top, ToPixels(p.left + p.width) - left, ToPixels(p.top + p.height) - top)
+      .adjusted(-margin, -margin, margin, margin);
 }
 
 Qt::Alignment ToQt(forms::Alignment alignment) {
@@ -63,11 +53,16 @@ Qt::Alignment ToQt(forms::Alignment alignment) {
   return Qt::AlignLeft;
 }
 
-// A font in which the text fits, down to the smallest that can be read.
-QFont Fitted(QFont font, const QString& text, double width) {
-  const double wanted = QFontMetricsF(font).horizontalAdvance(text);
+// A font in which the text fits, down to the smallest that can be read; a wrapped one with its
+// longest word.
+QFont Fitted(QFont font, const QString& text, bool wrapped, double width) {
+  const QFontMetricsF metrics(font);
+  double wanted = 0;
+  for (const QString& line : wrapped ? text.split(u' ') : QStringList{text}) {
+    wanted = std::max(wanted, metrics.horizontalAdvance(line));
+  }
   if (wanted > width) {
-    const double size = std::max(kSmallestText, font.pixelSize() * width / wanted);
+    const double size = std::max(forms::kSmallestText, font.pixelSize() * width / wanted);
     font.setPixelSize(std::min(font.pixelSize(), static_cast<int>(size)));
   }
   return font;
@@ -95,7 +90,7 @@ void ControlWidget::Mirror() {
   setVisible(now.visible);
   setEnabled(now.enabled);
   setToolTip(screens::qt::ToQt(now.toolTip));
-  setAccessibleName(WithoutMarks(screens::qt::ToQt(now.caption)));
+  setAccessibleName(screens::qt::ToQt(now.caption));
   setCursor(now.handCursor && now.enabled ? Qt::PointingHandCursor : Qt::ArrowCursor);
   if (now.picture != shown_.picture) rendered_ = QPixmap();
   shown_ = now;
@@ -111,8 +106,7 @@ void ControlWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   if (control_.kind == forms::Kind::Line) {
-    painter.setPen(QPen(screens::qt::ToQt(control_.borderColour), control_.borderWidth));
-    painter.drawLine(QPointF(0, 0.5), QPointF(width(), height() - 0.5));
+    PaintLine(painter);
     return;
   }
   if (control_.look == forms::Look::Card) PaintShadow(painter);
@@ -123,7 +117,17 @@ void ControlWidget::paintEvent(QPaintEvent*) {
     PaintBody(painter);
     if (control_.picture) PaintRendered(painter, rect());
   }
-  if (DrawsCaption(control_)) PaintCaption(painter);
+  if (control_.kind == forms::Kind::Label) PaintCaption(painter);
+}
+
+// Through the middles of the pixels at its ends.
+void ControlWidget::PaintLine(QPainter& painter) {
+  const forms::LineEnds& e = control_.ends;
+  const QPointF corner = QPointF(pos()) - QPointF(0.5, 0.5);
+  painter.setPen(QPen(screens::qt::ToQt(control_.borderColour), control_.borderWidth, Qt::SolidLine,
+                      Qt::FlatCap));
+  painter.drawLine(QPointF(ToPixels(e.x1), ToPixels(e.y1)) - corner,
+                   QPointF(ToPixels(e.x2), ToPixels(e.y2)) - corner);
 }
 
 void ControlWidget::PaintBody(QPainter& painter) {
@@ -182,18 +186,23 @@ void ControlWidget::PaintRendered(QPainter& painter, const QRectF& into) {
 }
 
 void ControlWidget::PaintCaption(QPainter& painter) {
-  const QString text = WithoutMarks(screens::qt::ToQt(control_.caption));
+  const QString text = screens::qt::ToQt(control_.caption);
+  const double width = Body().width();
   const QFont font = screens::qt::ToQt(control_.font);
+  painter.setFont(Fitted(font, text, control_.wordWrap, width));
   painter.setPen(screens::qt::ToQt(control_.foreColour));
+  const Qt::Alignment alignment = ToQt(control_.alignment);
   if (control_.wordWrap) {
-    painter.setFont(font);
-    painter.drawText(Body(), ToQt(control_.alignment) | Qt::AlignTop | Qt::TextWordWrap, text);
+    painter.drawText(Body(), int(alignment | Qt::AlignTop) | Qt::TextWordWrap, text);
     return;
   }
-  painter.setFont(Fitted(font, text, Body().width()));
-  painter.drawText(
-      Body(), ToQt(control_.alignment) | Qt::AlignVCenter | Qt::TextSingleLine,
-      painter.fontMetrics().elidedText(text, Qt::ElideRight, static_cast<int>(Body().width())));
+  const QString shown =
+      painter.fontMetrics().elidedText(text, Qt::ElideRight, static_cast<int>(width));
+  painter.drawText(Body(), int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
+}
+
+void ControlWidget::Click() {
+  dispatch_(control_.onClick);
 }
 
 void ControlWidget::mouseMoveEvent(QMouseEvent*) {
@@ -207,7 +216,7 @@ void ControlWidget::mousePressEvent(QMouseEvent* event) {
 void ControlWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   dispatch_(control_.onMouseUp);
-  if (rect().contains(event->position().toPoint())) dispatch_(control_.onClick);
+  if (rect().contains(event->position().toPoint())) Click();
 }
 
 void ControlWidget::keyPressEvent(QKeyEvent* event) {
@@ -215,7 +224,7 @@ void ControlWidget::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-      dispatch_(control_.onClick);
+      Click();
       break;
     default:
       QWidget::keyPressEvent(event);

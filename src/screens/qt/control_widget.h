@@ -21,6 +21,9 @@ class ControlWidget : public QWidget {
   // Takes over what has changed in the control since the last time.
   void Mirror();
 
+  // As by the mouse.
+  void Click();
+
   const forms::Control& Model() const { return control_; }
 
  protected:
@@ -32,6 +35,7 @@ class ControlWidget : public QWidget {
 
  private:
   QRectF Body() const;  // without the margin that a shadow takes
+  void PaintLine(QPainter& painter);
   void PaintBody(QPainter& painter);
   void PaintShadow(QPainter& painter);
   void PaintTile(QPainter& painter);

@@ -11,22 +11,23 @@
 
 namespace screens::qt {
 
+// Refers to a form that has been loaded, until it is retired.
 class FormWindow : public QWidget {
   Q_OBJECT
 
  public:
   explicit FormWindow(forms::Form& form);
 
-  forms::Form& Model() { return form_; }
-
   // Takes over what has changed in the form and its controls.
   void Mirror();
 
-  // Closes without asking the form.
-  void Unload();
+  // Hides the window and cuts it off from its form: no event and no timer reaches it any more. It
+  // is deleted once none of its handlers is running.
+  void Retire();
 
  signals:
-  void Closed();
+  void ClosedByUser();  // and the form did not object
+  void Hidden();        // by the program or by closing; not by minimising
 
  protected:
   void paintEvent(QPaintEvent*) override;
@@ -34,16 +35,23 @@ class FormWindow : public QWidget {
   void changeEvent(QEvent*) override;
   void closeEvent(QCloseEvent*) override;
   void hideEvent(QHideEvent*) override;
+  void mouseMoveEvent(QMouseEvent*) override;
   void leaveEvent(QEvent*) override;
 
  private:
   // Runs a handler of the form, if there is one, and then mirrors.
   void Dispatch(const std::function<void()>& handler);
+  void MirrorBackground();
+  void MirrorState();
 
   forms::Form& form_;
   std::vector<ControlWidget*> widgets_;
   std::vector<SecondTimer*> timers_;
-  bool unloading_ = false;
+  forms::Place shownPlace_;
+  forms::PicturePtr shownPicture_;
+  forms::Colour shownColour_ = forms::kTransparent;
+  int handlers_ = 0;  // running, one inside another where one lets the event loop run
+  bool retired_ = false;
 };
 
 // Runs one handler at the top of the event loop. An error that comes out of it is told in one box

@@ -2,26 +2,31 @@
 #pragma once
 
 #include <map>
-#include <memory>
 
 #include "forms/screen_services.h"
 #include "screens/qt/form_window.h"
 
 namespace screens::qt {
 
+// A form must outlive the host, or be unloaded before it goes.
 class QtHost : public forms::FormHost {
  public:
+  QtHost() = default;
+  ~QtHost() override;
+  QtHost(const QtHost&) = delete;
+  QtHost& operator=(const QtHost&) = delete;
+
   void Show(forms::Form& form) override;
   void ShowModal(forms::Form& form, forms::Form& owner) override;
   void Hide(forms::Form& form) override;
   void Unload(forms::Form& form) override;
   [[noreturn]] void EndProgram() override;
 
-  // The window of a form; made, and the form loaded, at the first call.
+  // The window of a form; made, and the form loaded, at the first call after an unload.
   FormWindow& WindowOf(forms::Form& form);
 
  private:
-  std::map<forms::Form*, std::unique_ptr<FormWindow>> windows_;
+  std::map<forms::Form*, FormWindow*> windows_;
 };
 
 }  // namespace screens::qt

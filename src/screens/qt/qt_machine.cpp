@@ -30,6 +30,15 @@ QMessageBox::Icon ToQt(foundation::MessageIcon icon) {
   return QMessageBox::NoIcon;
 }
 
+// The active window; or any that is shown, when the user's window manager asks for a close.
+QWidget* Owner() {
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible()) return window;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 foundation::DateTime QtClock::Now() const {
@@ -46,8 +55,7 @@ foundation::MessageAnswer QtMessageBoxes::Show(std::string_view text, foundation
   const bool question = buttons == foundation::MessageButtons::YesNo;
   QMessageBox box(ToQt(icon), screens::qt::ToQt(title.empty() ? foundation::kProgramName : title),
                   screens::qt::ToQt(text),
-                  question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok,
-                  QApplication::activeWindow());
+                  question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, Owner());
   box.setTextFormat(Qt::PlainText);
   if (question) box.setEscapeButton(QMessageBox::No);
   const int answer = box.exec();

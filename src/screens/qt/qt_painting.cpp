@@ -85,7 +85,7 @@ QString ToQt(std::string_view utf8) {
 }
 
 QFont ToQt(const forms::Font& font) {
-  QFont result(QStringList{ToQt(font.name), QApplication::font().family()});
+  QFont result(QStringList{ToQt(font.name)} + QApplication::font().families());
   result.setPixelSize(qMax(1, qRound(font.size * kTwipsPerPoint / kTwipsPerPixel)));
   result.setBold(font.bold);
   result.setItalic(font.italic);

@@ -11,12 +11,12 @@
 #include "forms/colour.h"
 #include "forms/font.h"
 #include "forms/picture.h"
+#include "forms/units.h"
 
 namespace screens::qt {
 
-inline constexpr double kTwipsPerPixel = 15;  // logical pixels
-inline constexpr double kTwipsPerPoint = 20;
-inline constexpr double kSmallestText = 7.5 * kTwipsPerPoint / kTwipsPerPixel;  // pixels
+using forms::kTwipsPerPixel;
+using forms::kTwipsPerPoint;
 
 QColor ToQt(forms::Colour colour);
 QString ToQt(std::string_view utf8);

@@ -31,17 +31,27 @@ std::string QtSettings::GetSetting(std::string_view application, std::string_vie
   const QVariant value = store.value(Entry(section, key));
   if (!value.isValid()) return std::string(fallback);
   // A comma typed into the file by hand makes a list of the value.
-  return value.toStringList().join(u',').toStdString();
+  return value.toStringList().join(QStringLiteral(", ")).toStdString();
 }
 
 void QtSettings::SaveSetting(std::string_view application, std::string_view section,
                              std::string_view key, std::string_view value) {
   QSettings& store = StoreOf(application);
-  store.setValue(Entry(section, key), ToQt(value));
+  const QString entry = Entry(section, key);
+  const QVariant before = store.value(entry);
+  store.setValue(entry, ToQt(value));
   store.sync();
-  if (store.status() != QSettings::NoError) {
-    throw foundation::Error(foundation::ErrorKind::FileAccess);
+  // A file with a line that cannot be read is written all the same.
+  if (store.status() != QSettings::AccessError) return;
+
+  // What was not saved is not shown either; and the next try gets an object without this error.
+  if (before.isValid()) {
+    store.setValue(entry, before);
+  } else {
+    store.remove(entry);
   }
+  stores_.erase(stores_.find(application));
+  throw foundation::Error(foundation::ErrorKind::FileAccess);
 }
 
 }  // namespace screens::qt

@@ -27,6 +27,11 @@ void SecondTimer::Mirror() {
   if (!running_) Schedule();
 }
 
+void SecondTimer::Stop() {
+  interval_ = 0;
+  timer_.stop();
+}
+
 void SecondTimer::Schedule() {
   if (interval_ <= 0) return;
   int wait = interval_;

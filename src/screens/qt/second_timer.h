@@ -18,6 +18,9 @@ class SecondTimer : public QObject {
   // Follows the control's interval and enabled state.
   void Mirror();
 
+  // For good.
+  void Stop();
+
  private:
   void Schedule();
   void Fire();

@@ -9,9 +9,7 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QTimer>
 
-#include "foundation/error.h"
 #include "screens/dashboard.h"
 #include "screens/qt/qt_host.h"
 
@@ -118,53 +116,12 @@ TEST_F(DashboardWindow, GivesAssistiveProgramsItsItemsAndFigures) {
   EXPECT_EQ(tile->role(), QAccessible::Button);
   EXPECT_EQ(tile->text(QAccessible::Name), QStringLiteral("What is Durvela"));
   EXPECT_TRUE(tile->state().disabled);
-}
-
-// A form that counts its ticks and lets the event loop run inside its handler.
-struct TickingForm : forms::Form {
-  TickingForm() : Form("TickingForm", "Ticking", 3000, 2000) {
-    Timer1.onTimer = [this] {
-      ++ticks;
-      deepest = std::max(deepest, ++depth);
-      QElapsedTimer time;
-      for (time.start(); time.elapsed() < 30;) QApplication::processEvents();
-      --depth;
-    };
-  }
-  CONTROL(Timer, Timer1, {.interval = 5});
-  int ticks = 0, depth = 0, deepest = 0;
-};
-
-TEST(Timers, DoNotEnterThemselvesAndGoOnBelowAModalForm) {
-  QtHost host;
-  TickingForm form;
-  struct Inner : forms::Form {
-    Inner() : Form("Inner", "Inner", 1500, 1500) {}
-  } inner;
-  host.Show(form);
-  QTimer::singleShot(200, [&] { host.Unload(inner); });
-  host.ShowModal(inner, form);
-  EXPECT_GE(form.ticks, 2);
-  EXPECT_EQ(form.deepest, 1);
-  form.Timer1.interval = 0;
-  host.WindowOf(form).Mirror();
-  const int ticks = form.ticks;
-  QElapsedTimer time;
-  for (time.start(); time.elapsed() < 50;) QApplication::processEvents();
-  EXPECT_EQ(form.ticks, ticks);
-}
-
-TEST(FailedHandlers, EndTheProgramAfterOneBox) {
-  GTEST_FLAG_SET(death_test_style, "threadsafe");
-  EXPECT_EXIT(
-      {
-        QTimer::singleShot(0, [] {
-          if (QApplication::activeModalWidget() == nullptr) std::_Exit(7);
-          QApplication::activeModalWidget()->close();
-        });
-        RunHandler([] { throw foundation::Error(foundation::ErrorKind::Subscript); });
-      },
-      testing::ExitedWithCode(1), "");
+  QAccessibleInterface* clock =
+      QAccessible::queryAccessibleInterface(Widget(dashboard_.form.lblTime));
+  EXPECT_EQ(clock->text(QAccessible::Name), QStringLiteral("12:0:0"));
+  dashboard_.form.lblTime.caption = "12:0:1";
+  window_->Mirror();
+  EXPECT_EQ(clock->text(QAccessible::Name), QStringLiteral("12:0:1"));
 }
 
 }  // namespace

@@ -49,14 +49,26 @@ TEST_F(SettingsStore, ShowsWhatAnotherProcessWrites) {
   EXPECT_EQ(settings_.GetSetting(kApp, "settings", "city", ""), "Delhi");
   WriteByAnotherProcess("[settings]\ncity=Varanasi\nlat=25.20N, as it is\n");
   EXPECT_EQ(settings_.GetSetting(kApp, "settings", "city", ""), "Varanasi");
-  EXPECT_EQ(settings_.GetSetting(kApp, "settings", "lat", ""), "25.20N,as it is");
+  EXPECT_EQ(settings_.GetSetting(kApp, "settings", "lat", ""), "25.20N, as it is");
+}
+
+TEST_F(SettingsStore, IsWrittenInSpiteOfALineThatCannotBeRead) {
+  settings_.SaveSetting(kApp, "settings", "lat", "28.40N");
+  WriteByAnotherProcess("[settings]\nneither key nor value\nlat=25.20N\n");
+  settings_.SaveSetting(kApp, "settings", "city", "Mumbai");
+  EXPECT_EQ(QtSettings().GetSetting(kApp, "settings", "city", ""), "Mumbai");
+  EXPECT_EQ(QtSettings().GetSetting(kApp, "settings", "lat", ""), "25.20N");
 }
 
 TEST_F(SettingsStore, TellsThatItCannotBeWritten) {
   // A file where the store wants its folder.
   QFile block(folder_.filePath(QStringLiteral("Durvela")));
   ASSERT_TRUE(block.open(QIODevice::WriteOnly));
-  EXPECT_ERROR(FileAccess, settings_.SaveSetting(kApp, "settings", "city", "Delhi"));
+  EXPECT_ERROR(FileAccess, settings_.SaveSetting(kApp, "settings", "city", "Mumbai"));
+  EXPECT_EQ(settings_.GetSetting(kApp, "settings", "city", "Delhi"), "Delhi");
+  ASSERT_TRUE(block.remove());
+  settings_.SaveSetting(kApp, "settings", "city", "Mumbai");
+  EXPECT_EQ(QtSettings().GetSetting(kApp, "settings", "city", ""), "Mumbai");
 }
 
 }  // namespace
