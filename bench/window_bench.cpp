@@ -11,6 +11,7 @@
 #include <fstream>
 #include <string>
 
+#include "foundation/numbers.h"
 #include "screens/qt/application.h"
 
 namespace {
@@ -24,7 +25,7 @@ double ProcessStart() {
   std::getline(stat, line);
   std::size_t at = line.rfind(')') + 2;
   for (int field = 3; field < 22; ++field) at = line.find(' ', at) + 1;
-  return std::stod(line.substr(at)) / static_cast<double>(sysconf(_SC_CLK_TCK));
+  return foundation::LeadingNumber(line.substr(at)) / static_cast<double>(sysconf(_SC_CLK_TCK));
 }
 
 double SecondsSinceBoot() {
@@ -56,6 +57,10 @@ class FirstPaint : public QObject {
   }
 };
 
+void Report(const char* what, double figure) {
+  std::puts((what + foundation::FixedText(figure, 2)).c_str());
+}
+
 void RunFor(double seconds) {
   // Not quit(), which would ask the windows, and the dashboard its user.
   QTimer::singleShot(static_cast<int>(seconds * 1000), [] { QCoreApplication::exit(); });
@@ -72,11 +77,10 @@ int main(int argc, char** argv) {
   program.host.WindowOf(program.dashboard).installEventFilter(&paint);
   program.Start();
   RunFor(2);
-  std::printf("start to first painted window: %.0f ms\n", 1000 * (paint.at - ProcessStart()));
+  Report("start to first painted window, ms: ", 1000 * (paint.at - ProcessStart()));
 
   const double before = ProcessorSeconds();
   RunFor(kIdleSeconds);
-  std::printf("processor while idle: %.2f %%\n",
-              100 * (ProcessorSeconds() - before) / kIdleSeconds);
+  Report("processor while idle, per cent: ", 100 * (ProcessorSeconds() - before) / kIdleSeconds);
   return 0;
 }

@@ -1,6 +1,6 @@
 # What Durvela needs of a Debian 12 machine. Sourced by ./run and ./test.
 
-run_packages=(ca-certificates cmake g++ ninja-build qt6-base-dev fonts-noto-core)
+run_packages=(cmake g++ ninja-build qt6-base-dev qt6-wayland fonts-noto-core)
 display_packages=(xvfb xauth)
 test_packages=(libgtest-dev locales)
 bench_packages=(libbenchmark-dev)
