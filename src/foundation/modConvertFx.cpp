@@ -27,15 +27,14 @@ std::string ZoneToMeridianText(std::string_view zone) {
 }
 
 std::string DecimalToSignDMS(double x) {
-  double sign = std::floor(Finite(x) / 30);
+  const double sign = std::floor(Finite(x) / 30);
   double degrees = std::floor(x - 30 * sign);
   double minutes = std::floor(60 * x - 1800 * sign - 60 * degrees);
   const double seconds = std::floor(3600 * x - 108000 * sign - 3600 * degrees - 60 * minutes + 0.5);
-  // The raised field alone changes; "60" stays to be seen in the lower one.
+  // The raised field alone changes; "60" stays to be seen in the lower one, and so does a 30 that
+  // has reached the next sign.
   if (seconds == 60) minutes += 1;
   if (minutes == 60) degrees += 1;
-  if (degrees == 30) sign += 1;
-  if (sign > 11) sign -= 12;
   return PadDigits(degrees, 2) + ":" + PadDigits(minutes, 2) + ":" + PadDigits(seconds, 2);
 }
 
