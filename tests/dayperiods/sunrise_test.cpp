@@ -3,7 +3,6 @@
 #include "dayperiods/clsBirthDetails.h"
 #include "dayperiods/clsUtilities.h"
 #include "support/errors.h"
-#include "support/locales.h"
 
 namespace dayperiods {
 namespace {
@@ -77,12 +76,6 @@ TEST(HinduDay, FailsWhereTheSunDoesNotCrossTheHorizon) {
   EXPECT_ERROR(InvalidCall, SunriseOf(70, 21, 6, 2011, 12, 0, 0));
   EXPECT_ERROR(InvalidCall, SunriseOf(-70, 21, 12, 2011, 12, 0, 0));
   EXPECT_EQ(SunriseOf(64, 21, 6, 2011, 12, 0, 0).clockRise, 0);
-}
-
-TEST(HinduDay, CarriesTheUsersMonthName) {
-  const support::UserNamesScope names(support::Hindi());
-  EXPECT_EQ(SunriseOf(20, 5, 3, 2011, 12, 0, 0).date, "5 मार्च 2011");
-  EXPECT_EQ(SunriseOf(20, 1, 3, 2011, 1, 0, 0).date, "0 मार्च 2011");
 }
 
 TEST(Periods, RefuseWhatIsNoDateOrTime) {

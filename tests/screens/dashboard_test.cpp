@@ -63,21 +63,6 @@ TEST(DashboardMenu, OpensOnlyWhatThereIs) {
   EXPECT_ERROR(Subscript, d.form.SetMenuItem(8, [] {}));
 }
 
-TEST(DashboardForm, KeepsEveryControlInsideWhateverItsSize) {
-  Dashboard d;
-  d.form.Form_Load();
-  for (const float scale : {0.75F, 1.0F, 2.3F}) {
-    d.form.scaleWidth = scale * 12600;
-    d.form.scaleHeight = scale * 8400;
-    d.form.Form_Resize();
-    for (const forms::Control& control : d.form.Controls()) {
-      EXPECT_LE(control.place.left + control.place.width, d.form.scaleWidth + 1) << control.name;
-      EXPECT_LE(control.place.top + control.place.height, d.form.scaleHeight + 1) << control.name;
-    }
-    EXPECT_NEAR(d.form.Image1.picture->width, scale * 840, 0.01);
-  }
-}
-
 TEST(DashboardForm, IgnoresAClickOnAnEmptyContactLine) {
   Dashboard d;
   d.form.Label1.onClick();

@@ -18,23 +18,17 @@ struct FakeClock : foundation::Clock {
 };
 
 struct FakeSettings : foundation::Settings {
-  std::map<std::tuple<std::string, std::string, std::string>, std::string> values;
+  using Entry = std::tuple<std::string, std::string, std::string>;  // application, section, key
+  std::map<Entry, std::string> values;
 
   std::string GetSetting(std::string_view application, std::string_view section,
                          std::string_view key, std::string_view fallback) override {
-    const auto found = values.find(Key(application, section, key));
+    const auto found = values.find(Entry(application, section, key));
     return found == values.end() ? std::string(fallback) : found->second;
   }
   void SaveSetting(std::string_view application, std::string_view section, std::string_view key,
                    std::string_view value) override {
-    values[Key(application, section, key)] = value;
-  }
-
- private:
-  static std::tuple<std::string, std::string, std::string> Key(std::string_view application,
-                                                               std::string_view section,
-                                                               std::string_view key) {
-    return {std::string(application), std::string(section), std::string(key)};
+    values[Entry(application, section, key)] = value;
   }
 };
 
