@@ -220,6 +220,7 @@ void ControlWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ControlWidget::keyPressEvent(QKeyEvent* event) {
+  if (event->isAutoRepeat()) return;
   switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:

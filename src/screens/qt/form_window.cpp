@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <cstdlib>
+#include <exception>
 #include <map>
 #include <utility>
 
@@ -18,16 +19,23 @@ QSize ToPixels(float width, float height) {
   return {qRound(width / kTwipsPerPixel), qRound(height / kTwipsPerPixel)};
 }
 
+// Timers go on below the box; an error of theirs is not told any more.
+void EndWith(const char* description) {
+  static bool ending = false;
+  if (std::exchange(ending, true)) return;
+  QMessageBox::critical(nullptr, foundation::kProgramName, description);
+  std::_Exit(EXIT_FAILURE);
+}
+
 }  // namespace
 
 void RunHandler(const std::function<void()>& handler) {
-  static bool ending = false;
   try {
     handler();
   } catch (const foundation::Error& error) {
-    if (std::exchange(ending, true)) return;  // a timer below the box
-    QMessageBox::critical(nullptr, foundation::kProgramName, error.what());
-    std::_Exit(EXIT_FAILURE);
+    EndWith(error.what());
+  } catch (const std::exception&) {
+    EndWith("Internal error");
   }
 }
 
@@ -46,8 +54,6 @@ FormWindow::FormWindow(forms::Form& form) : form_(form) {
       containers[&control] = widget;
     }
   }
-  setMinimumSize(ToPixels(form.minimumWidth, form.minimumHeight));
-  resize(ToPixels(form.scaleWidth, form.scaleHeight));
   Mirror();
 }
 
@@ -55,6 +61,7 @@ void FormWindow::Mirror() {
   if (retired_) return;
   setWindowTitle(ToQt(form_.caption));
   MirrorBackground();
+  MirrorSize();
   for (ControlWidget* widget : widgets_) widget->Mirror();
   for (SecondTimer* timer : timers_) timer->Mirror();
   MirrorState();
@@ -71,13 +78,26 @@ void FormWindow::MirrorBackground() {
   update();
 }
 
+// Only what the form itself has changed; the user's own changes have come in by resizeEvent.
+void FormWindow::MirrorSize() {
+  setMinimumSize(ToPixels(form_.minimumWidth, form_.minimumHeight));
+  const QSize wanted = ToPixels(form_.scaleWidth, form_.scaleHeight);
+  if (std::exchange(shownSize_, wanted) != wanted) resize(wanted);
+}
+
+// Likewise. A window that was maximised before it was minimised keeps that in mind.
 void FormWindow::MirrorState() {
-  const Qt::WindowStates wanted =
-      form_.windowState == forms::WindowState::Minimised   ? Qt::WindowMinimized
-      : form_.windowState == forms::WindowState::Maximised ? Qt::WindowMaximized
-                                                           : Qt::WindowNoState;
-  const Qt::WindowStates mask = Qt::WindowMinimized | Qt::WindowMaximized;
-  if ((windowState() & mask) != wanted) setWindowState((windowState() & ~mask) | wanted);
+  if (std::exchange(shownState_, form_.windowState) == form_.windowState) return;
+  switch (form_.windowState) {
+    case forms::WindowState::Minimised:
+      setWindowState(windowState() | Qt::WindowMinimized);
+      break;
+    case forms::WindowState::Maximised:
+      setWindowState(Qt::WindowMaximized);
+      break;
+    case forms::WindowState::Normal:
+      setWindowState(Qt::WindowNoState);
+  }
 }
 
 void FormWindow::Retire() {
@@ -109,6 +129,7 @@ void FormWindow::resizeEvent(QResizeEvent*) {
   Dispatch([this] {
     form_.scaleWidth = static_cast<float>(width() * kTwipsPerPixel);
     form_.scaleHeight = static_cast<float>(height() * kTwipsPerPixel);
+    shownSize_ = size();
     form_.Form_Resize();
   });
 }
@@ -122,6 +143,7 @@ void FormWindow::changeEvent(QEvent* event) {
     form_.windowState = isMinimized()   ? forms::WindowState::Minimised
                         : isMaximized() ? forms::WindowState::Maximised
                                         : forms::WindowState::Normal;
+    shownState_ = form_.windowState;
     if (back) form_.Form_Resize();
   });
 }

@@ -11,7 +11,7 @@
 
 namespace screens::qt {
 
-// Refers to a form that has been loaded, until it is retired.
+// Refers to its form until it is retired.
 class FormWindow : public QWidget {
   Q_OBJECT
 
@@ -20,6 +20,8 @@ class FormWindow : public QWidget {
 
   // Takes over what has changed in the form and its controls.
   void Mirror();
+
+  bool IsRetired() const { return retired_; }
 
   // Hides the window and cuts it off from its form: no event and no timer reaches it any more. It
   // is deleted once none of its handlers is running.
@@ -42,6 +44,7 @@ class FormWindow : public QWidget {
   // Runs a handler of the form, if there is one, and then mirrors.
   void Dispatch(const std::function<void()>& handler);
   void MirrorBackground();
+  void MirrorSize();
   void MirrorState();
 
   forms::Form& form_;
@@ -50,11 +53,13 @@ class FormWindow : public QWidget {
   forms::Place shownPlace_;
   forms::PicturePtr shownPicture_;
   forms::Colour shownColour_ = forms::kTransparent;
+  QSize shownSize_;
+  forms::WindowState shownState_ = forms::WindowState::Normal;
   int handlers_ = 0;  // running, one inside another where one lets the event loop run
   bool retired_ = false;
 };
 
-// Runs one handler at the top of the event loop. An error that comes out of it is told in one box
+// Runs one handler at the top of the event loop. Whatever error comes out of it is told in one box
 // and ends the program with exit status 1.
 void RunHandler(const std::function<void()>& handler);
 

@@ -1,6 +1,7 @@
 #include "screens/qt/qt_host.h"
 
 #include <QEventLoop>
+#include <QPointer>
 #include <QWindow>
 #include <cstdlib>
 
@@ -10,38 +11,55 @@ QtHost::~QtHost() {
   for (const auto& [form, window] : windows_) delete window;
 }
 
+// The window is there before its form is loaded, so that a form which lets the event loop run while
+// it loads is not loaded twice.
 FormWindow& QtHost::WindowOf(forms::Form& form) {
   if (const auto found = windows_.find(&form); found != windows_.end()) return *found->second;
-  form.Form_Load();
   auto* window = new FormWindow(form);
   windows_.emplace(&form, window);
   QObject::connect(window, &FormWindow::ClosedByUser, window, [this, &form] { Unload(form); });
+  try {
+    form.Form_Load();
+  } catch (...) {
+    Unload(form);
+    throw;
+  }
+  window->Mirror();
   return *window;
 }
 
 void QtHost::Show(forms::Form& form) {
   FormWindow& window = WindowOf(form);
+  if (window.IsRetired()) return;  // unloaded while it loaded
   window.setWindowModality(Qt::NonModal);
-  if (window.isMinimized()) window.showNormal();
+  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
   window.show();
   window.raise();
   window.activateWindow();
 }
 
 void QtHost::ShowModal(forms::Form& form, forms::Form& owner) {
-  FormWindow& window = WindowOf(form);
-  window.setWindowModality(Qt::ApplicationModal);
-  window.winId();  // makes the native window, which alone is told its owner
-  window.windowHandle()->setTransientParent(WindowOf(owner).windowHandle());
+  const QPointer<FormWindow> window = &WindowOf(form);
+  if (window->IsRetired()) return;
+  window->hide();  // a modality takes effect at the next show
+  window->setWindowModality(Qt::ApplicationModal);
+  window->winId();  // makes the native window, which alone is told its owner
+  window->windowHandle()->setTransientParent(WindowOf(owner).windowHandle());
   QEventLoop until;
-  QObject::connect(&window, &FormWindow::Hidden, &until, &QEventLoop::quit);
-  QObject::connect(&window, &QObject::destroyed, &until, &QEventLoop::quit);
-  window.show();
-  until.exec();
+  QObject::connect(window, &FormWindow::Hidden, &until, &QEventLoop::quit);
+  QObject::connect(window, &QObject::destroyed, &until, &QEventLoop::quit);
+  window->show();
+  // Its first events may have unloaded it, while it was not yet there to be hidden.
+  if (!window) return;
+  if (window->IsRetired()) {
+    window->hide();
+  } else {
+    until.exec();
+  }
 }
 
 void QtHost::Hide(forms::Form& form) {
-  WindowOf(form).hide();
+  if (const auto found = windows_.find(&form); found != windows_.end()) found->second->hide();
 }
 
 void QtHost::Unload(forms::Form& form) {

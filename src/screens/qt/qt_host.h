@@ -22,7 +22,7 @@ class QtHost : public forms::FormHost {
   void Unload(forms::Form& form) override;
   [[noreturn]] void EndProgram() override;
 
-  // The window of a form; made, and the form loaded, at the first call after an unload.
+  // The window of a form; made, and the form loaded, at the first call and after an unload.
   FormWindow& WindowOf(forms::Form& form);
 
  private:

@@ -7,8 +7,10 @@
 #include <QMessageBox>
 #include <QRandomGenerator>
 #include <QUrl>
+#include <QWindow>
 
 #include "foundation/version.h"
+#include "screens/qt/form_window.h"
 #include "screens/qt/qt_painting.h"
 
 namespace screens::qt {
@@ -30,13 +32,14 @@ QMessageBox::Icon ToQt(foundation::MessageIcon icon) {
   return QMessageBox::NoIcon;
 }
 
-// The active window; or any that is shown, when the user's window manager asks for a close.
-QWidget* Owner() {
-  if (QWidget* active = QApplication::activeWindow()) return active;
+// The active window of a form; or any, when it is a window manager that asks for a close.
+QWindow* Owner() {
+  QWindow* owner = nullptr;
   for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->isVisible()) return window;
+    if (qobject_cast<FormWindow*>(window) == nullptr || !window->isVisible()) continue;
+    if (owner == nullptr || window->isActiveWindow()) owner = window->windowHandle();
   }
-  return nullptr;
+  return owner;
 }
 
 }  // namespace
@@ -55,7 +58,11 @@ foundation::MessageAnswer QtMessageBoxes::Show(std::string_view text, foundation
   const bool question = buttons == foundation::MessageButtons::YesNo;
   QMessageBox box(ToQt(icon), screens::qt::ToQt(title.empty() ? foundation::kProgramName : title),
                   screens::qt::ToQt(text),
-                  question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, Owner());
+                  question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+  // The owner of its native window alone: a form may go while the box is open, the box stays.
+  box.winId();
+  box.windowHandle()->setTransientParent(Owner());
+  box.setWindowModality(Qt::ApplicationModal);
   box.setTextFormat(Qt::PlainText);
   if (question) box.setEscapeButton(QMessageBox::No);
   const int answer = box.exec();

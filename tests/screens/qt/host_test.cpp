@@ -70,6 +70,25 @@ TEST(Host, KeepsAModalFormThroughMinimising) {
   EXPECT_EQ(inner.loads, 2);
 }
 
+TEST(Host, ComesBackFromAModalFormThatGoesAtOnce) {
+  struct Fleeting : CountingForm {
+    explicit Fleeting(QtHost& h) : host(h) {}
+    void Form_Load() override {
+      CountingForm::Form_Load();
+      if (loads == 1) host.Unload(*this);
+    }
+    void Form_Resize() override { host.Unload(*this); }
+    QtHost& host;
+  };
+  QtHost host;
+  CountingForm owner;
+  Fleeting form(host);
+  host.Show(owner);
+  host.ShowModal(form, owner);  // unloaded while it loads
+  host.ShowModal(form, owner);  // unloaded by its first event
+  EXPECT_EQ(form.loads, 2);
+}
+
 TEST(Host, UnloadsAFormThatTheUserCloses) {
   CountingForm form;
   QtHost host;
@@ -96,9 +115,15 @@ TEST(Host, LaysAFormOutAgainWhenItComesBack) {
   EXPECT_EQ(form.windowState, forms::WindowState::Normal);
   EXPECT_GT(form.resizes, resizes);
 
+  window.showMaximized();
   form.windowState = forms::WindowState::Minimised;  // as a form does it for itself
   window.Mirror();
   EXPECT_TRUE(window.isMinimized());
+  host.Show(form);
+  EXPECT_EQ(form.windowState, forms::WindowState::Maximised);
+  form.windowState = forms::WindowState::Normal;
+  window.Mirror();
+  EXPECT_FALSE(window.isMaximized());
 }
 
 TEST(Host, PlacesControlsInTheirContainerAndLinesByTheirEnds) {
