@@ -53,6 +53,9 @@ class SkyPainter {
     if (scene_.divided) {
       Sun();
       Times();
+    } else {
+      Text("Daylight is not divided here today", {centre_.x, centre_.y - 166 * y_},
+           Alignment::Centre, 12, false, palette::kFaintCream);
     }
     return std::move(picture_);
   }
@@ -154,13 +157,14 @@ class SkyPainter {
     Name("Yum", scene_.yum);
   }
 
-  // The two lowest parts of either side are named inside the arc, the others outside; the second
-  // and the seventh at their upper end, clear of the date.
+  // The lowest part of either side is named inside the arc, the others outside; the second and the
+  // seventh at their upper end, where there is room beside them. (No weekday tints a neighbour of
+  // these two.)
   void Name(const std::string& name, const DayScene::Period& period) {
-    const double shift = period.segment == 2 ? -0.5 : period.segment == 7 ? 0.5 : 0;
-    const double angle = AngleAt((period.segment - 0.5 - shift) / dayperiods::kSegmentsOfDaylight);
+    const double shift = period.segment == 2 ? 0.35 : period.segment == 7 ? -0.35 : 0;
+    const double angle = AngleAt((period.segment - 0.5 + shift) / dayperiods::kSegmentsOfDaylight);
     const bool left = angle > 90;
-    const bool inside = period.segment <= 2 || period.segment >= 7;
+    const bool inside = period.segment == 1 || period.segment == dayperiods::kSegmentsOfDaylight;
     const double radius = inside ? kInnerRadius - 12 : kOuterRadius + 18;
     const Alignment alignment = left == inside ? Alignment::Left : Alignment::Right;
     const double line = 15 * TextScale();

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "foundation/resume.h"
 #include "screens/dashboard_tick.h"
 #include "screens/day_sky.h"
 
@@ -71,12 +72,14 @@ void frmMain::Form_MouseLeave() {
 }
 
 void frmMain::Timer1_Timer() {
-  const foundation::DateTime now = services_.clock.Now();
-  Tick(now, services_.settings, services_.session, *this);
-  DayScene scene = SceneOf(now, services_.session);
-  if (Image1.picture && scene == scene_) return;
-  scene_ = std::move(scene);
-  ShowSky();
+  foundation::Resume([&] {
+    const foundation::DateTime now = services_.clock.Now();
+    Tick(now, services_.settings, services_.session, *this);
+    DayScene scene = SceneOf(now, services_.session);
+    if (Image1.picture && scene == scene_) return;
+    scene_ = std::move(scene);
+    ShowSky();
+  });
 }
 
 void frmMain::PIC_Click(int index) {

@@ -81,7 +81,7 @@ inline Properties CardValue(float top) {
 }
 
 inline Properties CardFigure(float top) {
-  return {.place = At(688, top, 110, 28),
+  return {.place = At(696, top, 102, 28),
           .font = {.size = 13.5F, .bold = true},
           .foreColour = palette::kInk,
           .alignment = Alignment::Right};
@@ -140,7 +140,8 @@ inline Properties ContactLine(int number, std::string_view text) {
           .caption = std::string(text),
           .font = {.size = 8.25F},
           .foreColour = palette::kFaintOnEarth,
-          .handCursor = !text.empty()};
+          .visible = !text.empty(),
+          .handCursor = true};
 }
 
 inline Properties VersionLine() {
