@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <cstdio>
 #include <cstdlib>
 
@@ -72,6 +74,10 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "%s cannot be made\n", argv[1]);
     return EXIT_FAILURE;
   }
+  // A settings store of its own: the pictures show the place of a first start.
+  const QTemporaryDir settings;
+  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
+
   Tour tour(folder);
   tour.TakeDashboard(screens::qt::QtClock(), QStringLiteral("dashboard"), true);
   tour.TakeDashboard(StandingClock(), QStringLiteral("dashboard-5-march-2011"), false);
