@@ -18,14 +18,12 @@ DayScene::Period PeriodOf(const dayperiods::DaylightSegments& day, int segment) 
   return {segment, ShortTime(day.Boundary(segment)) + " - " + ShortTime(day.Boundary(segment + 1))};
 }
 
-// Where the sun stands in the daylight, by the whole minute: more would not be seen.
-std::optional<double> SunAt(const foundation::DateTimeFields& now,
-                            const dayperiods::DaylightSegments& day) {
+// Where the sun stands, by the whole minute: more would not be seen.
+double SunAt(const foundation::DateTimeFields& now, const dayperiods::DaylightSegments& day) {
   double hours = now.hour + now.minute / 60.0 - day.sunrise;
   hours -= 24 * std::floor(hours / 24);
   const double light = day.segment * dayperiods::kSegmentsOfDaylight;
-  if (hours > light) return std::nullopt;
-  return hours / light;
+  return hours <= light ? hours / light : 1 + (hours - light) / (24 - light);
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // What the dashboard's background tells: one day's light in eight parts, and the sun in it.
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "foundation/calendar.h"
@@ -21,7 +20,7 @@ struct DayScene {
   std::string sunrise;   // "06:43"
   std::string sunset;
   Period durvela, gulik, yum;
-  std::optional<double> sun;  // 0 at sunrise to 1 at sunset; nothing by night
+  double sun = 0;  // 0 at sunrise, 1 at sunset, and on to 2 at the next sunrise
 
   friend bool operator==(const DayScene&, const DayScene&) = default;
 };

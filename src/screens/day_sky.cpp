@@ -134,8 +134,11 @@ class SkyPainter {
   }
 
   void Sun() {
-    if (!scene_.sun) return;
-    const Point at = OnArc((kInnerRadius + kOuterRadius) / 2, AngleAt(*scene_.sun));
+    if (scene_.sun > 1) {
+      SunBelow(scene_.sun - 1);
+      return;
+    }
+    const Point at = OnArc((kInnerRadius + kOuterRadius) / 2, AngleAt(scene_.sun));
     Add(Path::Circle(at, 44 * scale_),
         forms::RadialGradient{at,
                               44 * scale_,
@@ -143,6 +146,16 @@ class SkyPainter {
                                {0.35, palette::kGold.WithOpacity(0.45)},
                                {1, palette::kGold.WithOpacity(0)}}});
     Add(Path::Circle(at, 13 * scale_), palette::kSun, {palette::kCream, 2 * scale_});
+  }
+
+  // By night a ring goes back below the horizon, between the times of sunset and sunrise.
+  void SunBelow(double partOfNight) {
+    const double reach = (kInnerRadius - 30) * scale_;
+    const double y = centre_.y + 16 * y_;
+    Add(Path().MoveTo({centre_.x - reach, y}).LineTo({centre_.x + reach, y}), forms::kTransparent,
+        {palette::kCream.WithOpacity(0.16), 1.5 * scale_});
+    Add(Path::Circle({centre_.x + reach * (1 - 2 * partOfNight), y}, 6 * scale_), palette::kEarth,
+        {palette::kGold, 2 * scale_});
   }
 
   void Times() {

@@ -34,11 +34,11 @@ TEST(DayScene, ShowsTheCalendarDayAlsoBeforeSunrise) {
 }
 
 TEST(DayScene, PutsTheSunWhereItStands) {
-  EXPECT_EQ(SceneAt(6, 42).sun, std::nullopt);
-  EXPECT_NEAR(SceneAt(6, 43).sun.value(), 0, 1e-9);
-  EXPECT_NEAR(SceneAt(12, 33).sun.value(), 0.5, 1e-9);
-  EXPECT_NEAR(SceneAt(18, 23).sun.value(), 1, 1e-9);
-  EXPECT_EQ(SceneAt(18, 24).sun, std::nullopt);
+  EXPECT_NEAR(SceneAt(6, 42).sun, 2 - 1 / 740.0, 1e-9);  // of 740 minutes of night
+  EXPECT_NEAR(SceneAt(6, 43).sun, 0, 1e-9);
+  EXPECT_NEAR(SceneAt(12, 33).sun, 0.5, 1e-9);
+  EXPECT_NEAR(SceneAt(18, 23).sun, 1, 1e-9);
+  EXPECT_NEAR(SceneAt(18, 24).sun, 1 + 1 / 740.0, 1e-9);
 }
 
 TEST(DayScene, IsUndividedWhereThereIsNoSunriseToGoBy) {
