@@ -6,6 +6,7 @@
 #include "dayperiods/clsBirthDetails.h"
 #include "foundation/checked.h"
 #include "foundation/numbers.h"
+#include "foundation/resume.h"
 #include "foundation/text.h"
 
 namespace dayperiods {
@@ -112,12 +113,12 @@ std::string clsBirthDetails::SRS(double Latitude, double Longitude, double ZoneR
   if (std::abs(Latitude) > kHighestLatitude) return "{invalid latitude}";
   const double sign = foundation::UpperAscii(RiseOrSet) == "S" ? -1 : 1;
   const double days = DaysFromJ2000(year, month, day);
-  try {
+  std::string time;  // stays empty where a step fails
+  foundation::Resume([&] {
     double hours = kRadToDeg * EventTime(Latitude, Longitude, sign, days, *this) / 15;
-    return GetMilitaryTime(hours, ZoneRelativeGMT);
-  } catch (const foundation::Error&) {
-    return "";
-  }
+    time = GetMilitaryTime(hours, ZoneRelativeGMT);
+  });
+  return time;
 }
 
 }  // namespace dayperiods
