@@ -41,7 +41,8 @@ class clsPP {
   // moment does not fit its 16 or 32 bits.
   //
   // A longitude of whole degrees ("77.00E") loses its point on the way and is read as so many
-  // minutes, east; a latitude of whole degrees is not. Stored places rely on it.
+  // minutes, east; a latitude of whole degrees is not. That is how places are read here, and it
+  // stays: the sunrise of every such place is reckoned from it.
   void GenHoro(double day, double month, double year, double hour, double minute, double second,
                std::string_view Longitude, std::string_view Lattitude, std::string_view zone,
                std::int32_t nAyan, foundation::Boolean16 blnRahuKetu, double warTimeCorrection);

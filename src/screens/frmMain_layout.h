@@ -8,6 +8,7 @@
 
 #include "forms/control.h"
 #include "forms/units.h"
+#include "foundation/numbers.h"
 #include "foundation/version.h"
 #include "screens/palette.h"
 #include "screens/signs.h"
@@ -146,8 +147,8 @@ inline Properties ContactLine(int number, std::string_view text) {
 
 inline Properties VersionLine() {
   return {.place = At(660, 530, 160, 20),
-          .caption = "version " + std::to_string(foundation::kVersionMajor) + "." +
-                     std::to_string(foundation::kVersionMinor),
+          .caption = "version " + foundation::NumberText(foundation::kVersionMajor) + "." +
+                     foundation::NumberText(foundation::kVersionMinor),
           .font = {.size = 8.25F},
           .foreColour = palette::kFaintOnEarth,
           .alignment = Alignment::Right};
