@@ -7,6 +7,11 @@
 namespace engine {
 namespace {
 
+struct Angle {
+  const char* text;
+  double degrees;
+};
+
 clsPP Decoded(const char* longitude, const char* latitude, const char* zone) {
   clsPP pp;
   pp.GenHoro(5, 3, 2011, 6, 12, 9.5, longitude, latitude, zone, 0, foundation::kTrue16, 0);
@@ -14,10 +19,7 @@ clsPP Decoded(const char* longitude, const char* latitude, const char* zone) {
 }
 
 TEST(PlaceDecoding, TakesLatitudes) {
-  const struct {
-    const char* text;
-    double degrees;
-  } kCases[] = {
+  const Angle kCases[] = {
       {"28.40N", 28.666666666666668},
       {"28.40S", -28.666666666666668},
       {"28.00N", 28},
@@ -37,10 +39,7 @@ TEST(PlaceDecoding, TakesLatitudes) {
 }
 
 TEST(PlaceDecoding, TakesLongitudes) {
-  const struct {
-    const char* text;
-    double degrees;
-  } kCases[] = {
+  const Angle kCases[] = {
       {"77.30E", 77.5},
       {"77.05E", 77.08333333333333},
       {"77.10E", 77 + 10 / 60.0},
@@ -57,10 +56,7 @@ TEST(PlaceDecoding, TakesLongitudes) {
 }
 
 TEST(PlaceDecoding, TakesZones) {
-  const struct {
-    const char* text;
-    double degrees;
-  } kCases[] = {
+  const Angle kCases[] = {
       {"82.30E", 82.5}, {"75.0W", -75}, {"52.30E", 52.5}, {"180.0E", 180},
       {"82.30", 82.5},  {"W", 0},       {"no zone", 0},
   };

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 #include <string>
+#include <utility>
 
 #include "foundation/checked.h"
 #include "support/errors.h"
@@ -33,10 +34,7 @@ TEST(Rounding, OverflowsWhereTheResultDoesNotFit) {
 }
 
 TEST(LeadingNumber, IsTheNumericPartThatTheTextBeginsWith) {
-  const struct {
-    const char* text;
-    double number;
-  } kCases[] = {
+  const std::pair<const char*, double> kCases[] = {
       {"12abc", 12},      {"77.13E", 77.13}, {"77.13E5", 7713000},
       {"77.13E+", 77.13}, {"  -5.30", -5.3}, {"+11", 11},
       {".5", 0.5},        {"5.", 5},         {"1.2.3", 1.2},
@@ -60,10 +58,7 @@ TEST(WholeNumber, TakesNothingButANumber) {
 }
 
 TEST(NumberText, IsTheShortestThatReadsBack) {
-  const struct {
-    double number;
-    const char* text;
-  } kCases[] = {
+  const std::pair<double, const char*> kCases[] = {
       {0, "0"},
       {-0.0, "0"},
       {28, "28"},

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <utility>
 
 #include "foundation/modConvertFx.h"
 #include "foundation/zzVorin.h"
@@ -11,10 +12,7 @@ namespace foundation {
 namespace {
 
 TEST(TimeTexts, ShowDecimalHoursAsATimeOfDay) {
-  const struct {
-    double hours;
-    const char* text;
-  } kCases[] = {
+  const std::pair<double, const char*> kCases[] = {
       {6.2025, "06:12:09"},
       {23.9999, "00:00:00"},
       {24, "00:00:00"},
@@ -85,9 +83,8 @@ TEST(FracPart, NeedsAFloorOf32Bits) {
 }
 
 TEST(Angles, FollowDegreesAndMinutes) {
-  const struct {
-    double degMin, decimal;
-  } kCases[] = {{28.99, 29.65}, {179.59, 179.98333333333335}, {-28.4, -27.999999999999996}, {0, 0}};
+  const std::pair<double, double> kCases[] = {
+      {28.99, 29.65}, {179.59, 179.98333333333335}, {-28.4, -27.999999999999996}, {0, 0}};
   for (const auto& [degMin, decimal] : kCases) {
     double x = degMin;
     EXPECT_EQ(DegMinToDecimal(x), decimal);
