@@ -44,6 +44,19 @@ char32_t Folded(char32_t letter) {
   return letter;
 }
 
+// A character of one or two bytes.
+char32_t FoldedCharacter(std::string_view character) {
+  const auto first = static_cast<unsigned char>(character[0]);
+  if (character.size() == 1) return first >= 'A' && first <= 'Z' ? first + ('a' - 'A') : first;
+  return Folded(static_cast<char32_t>((first & 0x1F) << 6) |
+                static_cast<char32_t>(character[1] & 0x3F));
+}
+
+bool EqualCharacters(std::string_view a, std::string_view b) {
+  if (a == b) return true;
+  return a.size() == b.size() && a.size() <= 2 && FoldedCharacter(a) == FoldedCharacter(b);
+}
+
 }  // namespace
 
 std::vector<std::string_view> Characters(std::string_view text) {
@@ -71,18 +84,27 @@ std::string_view FirstCharacters(std::string_view text, int count) {
 std::string FoldCase(std::string_view text) {
   std::string folded;
   for (const std::string_view character : Characters(text)) {
-    if (character.size() == 1 && character[0] >= 'A' && character[0] <= 'Z') {
-      folded += static_cast<char>(character[0] + ('a' - 'A'));
-    } else if (character.size() == 2) {
-      const char32_t letter = Folded(static_cast<char32_t>((character[0] & 0x1F) << 6) |
-                                     static_cast<char32_t>(character[1] & 0x3F));
-      folded += static_cast<char>(0xC0 | (letter >> 6));
-      folded += static_cast<char>(0x80 | (letter & 0x3F));
-    } else {
+    if (character.size() > 2) {
       folded += character;
+      continue;
     }
+    const char32_t letter = FoldedCharacter(character);
+    if (character.size() == 2) folded += static_cast<char>(0xC0 | (letter >> 6));
+    folded += static_cast<char>(character.size() == 2 ? 0x80 | (letter & 0x3F) : letter);
   }
   return folded;
+}
+
+bool BeginsWith(std::string_view text, std::string_view beginning) {
+  while (!beginning.empty()) {
+    if (text.empty()) return false;
+    const std::size_t length = CharacterLength(beginning);
+    const std::size_t textLength = CharacterLength(text);
+    if (!EqualCharacters(text.substr(0, textLength), beginning.substr(0, length))) return false;
+    text.remove_prefix(textLength);
+    beginning.remove_prefix(length);
+  }
+  return true;
 }
 
 std::string UpperAscii(std::string_view text) {

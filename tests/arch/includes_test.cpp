@@ -19,9 +19,10 @@ const std::map<std::string, Rooms> kArrows = {
     {"foundation", {}},
     {"forms", {"foundation"}},
     {"engine", {"foundation"}},
+    {"atlas", {"foundation", "forms"}},
     {"dayperiods", {"foundation", "engine"}},
-    {"screens", {"foundation", "forms", "engine", "dayperiods"}},
-    {"screens/qt", {"foundation", "forms", "engine", "dayperiods", "screens"}},
+    {"screens", {"foundation", "forms", "engine", "atlas", "dayperiods"}},
+    {"screens/qt", {"foundation", "forms", "engine", "atlas", "dayperiods", "screens"}},
     {"main", {"screens/qt"}},
 };
 

@@ -27,6 +27,16 @@ TEST(Text, FoldsCaseOfLettersWithASmallForm) {
   EXPECT_EQ(FoldCase("×ß्"), "×ß्");
 }
 
+TEST(Text, BeginsWithAnotherCaseAside) {
+  EXPECT_TRUE(BeginsWith("Delhi, India", "dELHI"));
+  EXPECT_TRUE(BeginsWith("ÉVORA", "év"));
+  EXPECT_TRUE(BeginsWith("दिल्ली", "दि"));
+  EXPECT_TRUE(BeginsWith("", ""));
+  EXPECT_FALSE(BeginsWith("Del", "Delhi"));
+  EXPECT_FALSE(BeginsWith("दिल्ली", "द\xE0"));
+  EXPECT_FALSE(BeginsWith("\xE9", "é"));
+}
+
 TEST(Text, SplitsAtEverySeparator) {
   EXPECT_EQ(Split("", ':').size(), 1U);
   const auto fields = Split("6::9:", ':');

@@ -1,0 +1,68 @@
+#include "foundation/modFileFx.h"
+
+#include <array>
+#include <utility>
+
+#include "foundation/files.h"
+#include "foundation/text.h"
+
+namespace foundation {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path& Folder() {
+  static fs::path folder = fs::read_symlink("/proc/self/exe").parent_path();
+  return folder;
+}
+
+constexpr std::array<std::string_view, 5> kLanguageFiles = {
+    "eenglish.txt", "ehindi.txt", "emarathi.txt", "emalayalam.txt", "ekannad.txt"};
+
+// The one byte between key and phrase; the bytes of a phrase may hold it again.
+constexpr char kSeparator = '\xA7';
+
+// Without a file of its own a number leaves the path at the folder, which cannot be read.
+fs::path LanguageFile(std::int32_t language) {
+  const fs::path folder = AppFolder() / "Language" / "";
+  if (language == -1) language = 0;
+  const bool known = language >= 0 && language < std::int32_t{kLanguageFiles.size()};
+  return known ? folder / kLanguageFiles[static_cast<std::size_t>(language)] : folder;
+}
+
+}  // namespace
+
+fs::path AppFolder() {
+  return Folder();
+}
+
+void SetAppFolder(fs::path folder) {
+  Folder() = std::move(folder);
+}
+
+fs::path AtlasFolder() {
+  return AppFolder() / "atlas" / "";
+}
+
+fs::path BackgroundFolder() {
+  return AppFolder() / "BG" / "";
+}
+
+std::string LanguagePhrase(std::string_view key, std::int32_t language) {
+  const std::string file = ReadFile(LanguageFile(language));
+  const std::string wanted = UpperAscii(key);
+  for (std::string_view rest = file; !rest.empty();) {
+    const std::string_view line = TakeLine(rest);
+    const std::size_t end = line.find(kSeparator);
+    if (end != std::string_view::npos && UpperAscii(line.substr(0, end)) == wanted) {
+      return std::string(line.substr(end + 1));
+    }
+  }
+  return std::string(key);
+}
+
+std::string LanguagePhrase(std::string_view key, const SessionTable& session) {
+  return LanguagePhrase(key, session.CurrentLanguage);
+}
+
+}  // namespace foundation
