@@ -1,0 +1,60 @@
+#include "atlas/city_file.h"
+
+#include <algorithm>
+#include <fstream>
+
+#include "foundation/error.h"
+#include "foundation/modFileFx.h"
+#include "foundation/text.h"
+
+namespace atlas {
+namespace {
+
+namespace fs = std::filesystem;
+
+}  // namespace
+
+fs::path CityFile(std::string_view country) {
+  if (country.find('/') != std::string_view::npos) {
+    throw foundation::Error(foundation::ErrorKind::FileNotFound);
+  }
+  return foundation::AtlasFolder() / std::string(country).append(kCityExtension);
+}
+
+std::vector<std::string> Countries() {
+  std::vector<std::string> names;
+  std::error_code failure;
+  for (fs::directory_iterator entry(foundation::AtlasFolder(), failure), end;
+       !failure && entry != end; entry.increment(failure)) {
+    std::string name = entry->path().filename().string();
+    std::error_code unknown;
+    if (!name.ends_with(kCityExtension) || !entry->is_regular_file(unknown)) continue;
+    name.resize(name.size() - kCityExtension.size());
+    names.push_back(std::move(name));
+  }
+  std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+    const std::string foldedA = foundation::FoldCase(a), foldedB = foundation::FoldCase(b);
+    return foldedA != foldedB ? foldedA < foldedB : a < b;
+  });
+  return names;
+}
+
+foundation::ByteText TakeItem(std::string_view& rest) {
+  rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
+  const std::size_t end = std::min(rest.find_first_of(",\r\n"), rest.size());
+  foundation::ByteText item{std::string(rest.substr(0, end))};
+  rest.remove_prefix(end);
+  rest.remove_prefix(rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, rest.size()));
+  return item;
+}
+
+void WriteLines(const fs::path& file, Writing writing,
+                const std::vector<foundation::ByteText>& lines) {
+  const auto mode = writing == Writing::AtEnd ? std::ios::app : std::ios::trunc;
+  std::ofstream stream(file, std::ios::binary | std::ios::out | mode);
+  for (const foundation::ByteText& line : lines) stream << line.Bytes() << "\r\n";
+  stream.close();
+  if (!stream) throw foundation::Error(foundation::ErrorKind::FileAccess);
+}
+
+}  // namespace atlas
