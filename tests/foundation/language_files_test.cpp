@@ -1,0 +1,80 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "foundation/text.h"
+
+namespace foundation {
+namespace {
+
+using Phrases = std::map<std::string, std::string>;
+
+// The words the calculations give out; the three-letter codes beside the names they shorten.
+constexpr std::string_view kVocabulary =
+    "Asc,Sun,Moon,Mars,Mercury,Jupiter,Venus,Saturn,Rahu,Ketu,Uranus,Neptune,Pluto,MOO,MON,MAR,"
+    "MER,JUP,VEN,SAT,RAH,KET,URA,NEP,PLU,Aries,Taurus,Gemini,Cancer,Leo,Virgo,Libra,Scorpio,"
+    "Sagittarius,Capricorn,Aquarius,Pisces,Ashwini,Bharani,Krittika,Rohini,Mrigasira,Ardra,"
+    "Punarva,Pushya,Ashlesha,Magha,P. Phalg,U. Phalg,Hasta,Chitra,Swati,Vishakha,Anuradha,"
+    "Jyeshtha,Moola,P. Asadh,U. Asadh,Shravana,Dhanista,Shatabhi,P. Bhadra,U. Bhadra,Revati,"
+    "Ashvani,Bharni,Kartika,Mrigsira,Punarvasu,Pusya,Aslesha,P.Phalguni,U.Phalguni,P.Ashadha,"
+    "U.Ashadha,Sharvana,Dhanishtha,Satbisa,P.Bhadrapa,U.Bhadrapad,Revti,Pratipada,Dvitiya,Tritiya,"
+    "Chaturthi,Panchami,Shashthi,Saptami,Ashtami,Navami,Dashmi,Ekadashi,Dwadashi,Trayodashi,"
+    "Chaturdashi,Purnima,Amavasya,Shukla,Krishna,Viskumbh,Priti,Ayushman,Saubhagya,Sobhana,"
+    "Atiganda,Sukarma,Dhriti,Sula,Gand,Vriddhi,Dhruva,Vyaghata,Harsana,Vajra,Siddhi,Vyatipata,"
+    "Variyan,Parigha,Siva,Siddha,Sadhya,Subha,Brahma,Indra,Vaidhriti,KINSTUGHNA,BAVA,BALAVA,"
+    "KAULAV,TAITIL,GAR,VANIJ,VISHTI,SHAKUNI,CHATUSHPAD,NAG,VASANT,GRISHMA,VARSHA,SHARAD,HEMANT,"
+    "SHISHIR,UTTAR,DAKSHIN,CHAITRA,VAISAKHA,JYAISTHA,ASADHA,SRAVANA,BHADRA,ASVINA,MARGSHIRSH,"
+    "PAUSA,PHALGUNA,COM,DEB,EXL,Ayanamsa,:";
+
+// Whether every character stands in the block of 128 from `start`, of those with three bytes.
+bool InScript(std::string_view phrase, int start) {
+  return !phrase.empty() && std::ranges::all_of(Characters(phrase), [&](auto c) {
+    if (c.size() != 3) return false;
+    const int code = (c[0] & 0x0F) << 12 | (c[1] & 0x3F) << 6 | (c[2] & 0x3F);
+    return code >= start && code < start + 0x80;
+  });
+}
+
+struct LanguageCase {
+  std::string file;
+  int scriptStart;  // of the language's block; 0 for the words themselves
+  Phrases known;
+};
+
+const LanguageCase kLanguages[] = {
+    {"eenglish", 0, {{"MOON", "Moon"}, {"P. PHALG", "P. Phalg"}, {"BAVA", "Bava"}}},
+    {"ehindi", 0x900, {{"SUN", "सूर्य"}, {"PISCES", "मीन"}, {"REVTI", "रेवती"}, {"MAGHA", "मघा"}}},
+    {"emarathi", 0x900, {{"MAR", "मंगळ"}, {"LIBRA", "तूळ"}, {"PURNIMA", "पौर्णिमा"}}},
+    {"emalayalam", 0xD00, {{"ARIES", "മേടം"}, {"SATBISA", "ചതയം"}, {"JUPITER", "വ്യാഴം"}}},
+    {"ekannad", 0xC80, {{"ASHVANI", "ಅಶ್ವಿನಿ"}, {"MOON", "ಚಂದ್ರ"}, {"AMAVASYA", "ಅಮಾವಾಸ್ಯೆ"}}}};
+
+TEST(LanguageFiles, HoldEachWordOnceInTheirOwnScript) {
+  for (const auto& [file, scriptStart, known] : kLanguages) {
+    SCOPED_TRACE(file);
+    std::ifstream in(LANGUAGE_FOLDER "/" + file + ".txt", std::ios::binary);
+    std::set<std::string> missing;
+    for (const auto word : Split(kVocabulary, ',')) missing.insert(UpperAscii(word));
+    Phrases phrases;
+    for (std::string line; std::getline(in, line);) {
+      if (line.empty()) continue;
+      const auto separator = line.find('\xA7');
+      ASSERT_NE(separator, line.npos) << line;
+      const std::string key = UpperAscii(line.substr(0, separator));
+      const std::string phrase = line.substr(separator + 1);
+      EXPECT_EQ(missing.erase(key), 1U) << key << " stands twice or is no word of the system";
+      const bool itself = scriptStart == 0 || key == ":";
+      EXPECT_TRUE(itself ? UpperAscii(phrase) == key : InScript(phrase, scriptStart)) << line;
+      phrases[key] = phrase;
+    }
+    EXPECT_EQ(missing, std::set<std::string>{});
+    for (const auto& [key, phrase] : known) EXPECT_EQ(phrases[key], phrase);
+  }
+}
+
+}  // namespace
+}  // namespace foundation

@@ -1,0 +1,98 @@
+// Writes the city files of the atlas: the places of a country's table become the scrambled records
+// of <country>.city.
+
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "atlas/modEncDec.h"
+#include "foundation/numbers.h"
+#include "foundation/text.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+double Degrees(std::string_view text) {
+  const auto number = foundation::WholeNumber(text);
+  if (!number) throw std::runtime_error("no number of degrees: " + std::string(text));
+  return *number;
+}
+
+std::int32_t LatitudeMinutes(double latitude) {
+  return foundation::RoundToInt32(std::abs(latitude) * 60);
+}
+
+// A longitude of whole degrees would be read as so many minutes: it moves by one, towards the side
+// on which the place lies.
+std::int32_t LongitudeMinutes(double longitude) {
+  const double exact = std::abs(longitude) * 60;
+  const std::int32_t minutes = foundation::RoundToInt32(exact);
+  if (minutes % 60 != 0) return minutes;
+  return minutes == 0 || exact > minutes ? minutes + 1 : minutes - 1;
+}
+
+// "28.05" for 28 degrees 5 minutes.
+std::string DegreesAndMinutes(std::int32_t minutes) {
+  const std::string pastDegrees = std::to_string(minutes % 60);
+  return std::to_string(minutes / 60) + (pastDegrees.size() < 2 ? ".0" : ".") + pastDegrees;
+}
+
+// The record of a table's line: place, state, latitude, longitude; what stands behind is not for
+// the city file.
+std::string Record(std::string_view line, const std::string& country) {
+  const auto fields = foundation::Split(line, '\t');
+  if (fields.size() != 7) throw std::runtime_error("not seven fields");
+  const std::string place(fields[0]);
+  const std::string state(fields[1]);
+  const double latitude = Degrees(fields[2]);
+  const double longitude = Degrees(fields[3]);
+  for (const unsigned char c : place + state) {
+    if (c < ' ' || c > '~' || c == ',') throw std::runtime_error("a name with a comma or no ASCII");
+  }
+  return place + ',' + place + ',' + state + ',' + country + ',' +
+         DegreesAndMinutes(LatitudeMinutes(latitude)) + (latitude < 0 ? ",S," : ",N,") +
+         DegreesAndMinutes(LongitudeMinutes(longitude)) + (longitude < 0 ? ",W" : ",E");
+}
+
+void WriteCityFile(const fs::path& table, const fs::path& folder) {
+  const std::string country = table.stem().string();
+  std::ifstream places(table, std::ios::binary);
+  std::ofstream cities(folder / (country + ".city"), std::ios::binary);
+  std::string line;
+  std::getline(places, line);  // the names of the columns
+  while (std::getline(places, line)) {
+    try {
+      const foundation::ByteText record(Record(line, country));
+      cities << atlas::EncodeText(record, atlas::kAtlasKey).Bytes() << "\r\n";
+    } catch (const std::exception& error) {
+      throw std::runtime_error(table.string() + ": " + line + ": " + error.what());
+    }
+  }
+  if (!places.eof() || !cities.flush()) throw std::runtime_error(country + ": not read or written");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 3) {
+    std::fputs("usage: durvela_scramble_atlas PLACES_FOLDER ATLAS_FOLDER\n", stderr);
+    return 2;
+  }
+  try {
+    fs::create_directories(argv[2]);
+    for (const fs::path& table : fs::directory_iterator(argv[1])) {
+      if (table.extension() == ".tsv") WriteCityFile(table, argv[2]);
+    }
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "durvela_scramble_atlas: %s\n", error.what());
+    return 1;
+  }
+  return 0;
+}

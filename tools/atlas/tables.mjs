@@ -1,0 +1,27 @@
+// What the scripts of this folder share: the project's tab-separated tables, and grouping.
+import { readFileSync } from 'node:fs';
+
+// The rows of a table under the names of its header line.
+export function readTable(path) {
+  const [header, ...lines] = readFileSync(path, 'utf8').trimEnd().split('\n');
+  const names = header.split('\t');
+  return lines.map((line) => {
+    const fields = line.split('\t');
+    return Object.fromEntries(names.map((name, i) => [name, fields[i] ?? '']));
+  });
+}
+
+// The items by key, each group in the order of the items.
+export function groupBy(items, keyOf) {
+  const groups = new Map();
+  for (const item of items) {
+    const key = keyOf(item);
+    if (!groups.has(key)) groups.set(key, []);
+    groups.get(key).push(item);
+  }
+  return groups;
+}
+
+export const here = (path) => new URL(path, import.meta.url);
+export const placesFolder = here('../../data/atlas/places/');
+export const countryMap = readTable(here('country_map.tsv'));

@@ -1,0 +1,40 @@
+// How many places the built-in country table gives another zone than their own: standard time at
+// the end of 2023, daylight saving left aside.
+import { readdirSync } from 'node:fs';
+
+import { countryMap, groupBy, placesFolder, readTable } from './tables.mjs';
+
+// Minutes east of Greenwich of a zone text: hours, point, minutes; minus is east.
+function tableOffset(text) {
+  const [, sign, hours, minutes = '0'] = text.match(/^([+-]?)(\d+)(?:\.(\d+))?$/);
+  return (sign === '-' ? 1 : -1) * (60 * Number(hours) + Number(minutes));
+}
+
+// Minutes east of Greenwich that the clocks of an IANA zone show at a moment.
+function clockOffset(zone, moment) {
+  const format = new Intl.DateTimeFormat('en', { timeZone: zone, timeZoneName: 'longOffset' });
+  const name = format.formatToParts(moment).find(({ type }) => type === 'timeZoneName').value;
+  const [, sign, hours, minutes] = name.match(/^GMT(?:([+-])(\d\d):(\d\d))?$/);
+  return sign ? (sign === '+' ? 1 : -1) * (60 * Number(hours) + Number(minutes)) : 0;
+}
+
+// Daylight saving puts clocks forward: of July and December 2023 the lesser offset is standard.
+const standardOffset = (zone) =>
+  Math.min(...['2023-07-01', '2023-12-31'].map((day) => clockOffset(zone, new Date(day))));
+
+const tableZones = new Map(countryMap.flatMap(({ file_name: names, table_zone: zone }) =>
+  names.split('|').map((name) => [name, zone])));
+const places = readdirSync(placesFolder).flatMap((file) =>
+  readTable(new URL(file, placesFolder)).map(({ zone }) => ({ file: file.slice(0, -4), zone })));
+const offsets = new Map([...new Set(places.map(({ zone }) => zone))]
+  .map((zone) => [zone, standardOffset(zone)]));
+const isOff = ({ file, zone }) => tableOffset(tableZones.get(file)) !== offsets.get(zone);
+
+const off = places.filter(isOff);
+const share = (100 * off.length / places.length).toFixed(1);
+console.log(`${off.length} of ${places.length} places, ${share} %`);
+const all = groupBy(places, ({ file }) => file);
+const ofFile = [...groupBy(off, ({ file }) => file)].sort(([, a], [, b]) => b.length - a.length);
+for (const [file, some] of ofFile) {
+  console.log(`${some.length} of ${all.get(file).length}\t${file}`);
+}
