@@ -28,4 +28,16 @@ Font& FontOf(Control& control) {
   }
 }
 
+void SetText(Control& textBox, std::string_view text) {
+  if (textBox.caption == text) return;
+  textBox.caption = text;
+  if (textBox.onChange) textBox.onChange();
+}
+
+void Select(Control& list, int index) {
+  if (index >= 0 && list.items->ListIndex() == index) return;
+  list.items->SetListIndex(index);
+  if (list.onClick) list.onClick();
+}
+
 }  // namespace forms

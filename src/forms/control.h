@@ -2,15 +2,18 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
+#include <string_view>
 
 #include "forms/colour.h"
 #include "forms/font.h"
+#include "forms/item_list.h"
 #include "forms/picture.h"
 
 namespace forms {
 
-enum class Kind { Label, Image, PictureBox, Shape, Line, Timer, ComboBox };
+enum class Kind { Label, Image, PictureBox, Shape, Line, Timer, TextBox, ListBox, ComboBox };
 
 // In twips, from the corner of the container.
 struct Place {
@@ -30,6 +33,14 @@ enum class Look {
   Tile,  // an item of a picture menu: picture above, room for a caption, lit when hot or pressed
 };
 
+enum class Key { Up, Down, Enter, Escape, Other };
+
+// A key that was pressed; whoever has dealt with it says so, and nobody else sees it.
+struct KeyPress {
+  Key key = Key::Other;
+  bool handled = false;
+};
+
 struct Control;
 
 // What a form writes down for a control; the rest starts as it stands here.
@@ -37,10 +48,14 @@ struct Properties {
   Control* container = nullptr;  // a picture box of the same form; null for the form itself
   Place place;
   LineEnds ends;        // a Line's, in place of `place`
-  std::string caption;  // UTF-8
+  std::string caption;  // UTF-8; of a text box, what stands in it
   Font font;
   std::string tag;
   std::string toolTip;
+  std::string spokenName;   // for assistive programs, where no caption of its own tells
+  std::string placeholder;  // shown by a text box or list that is empty
+  std::string trailing;     // a remark at the right end of a text box
+  std::string emphasis;     // what entries of a list begin with is shown bold
   Colour foreColour;
   Colour backColour = kTransparent;
   Colour borderColour = kTransparent;
@@ -51,6 +66,8 @@ struct Properties {
   bool visible = true;
   bool enabled = true;
   bool tabStop = false;  // reached by the Tab key, pressed by Enter
+  int tabIndex = 0;      // controls are reached from the lowest up
+  bool sorted = false;   // a list
   bool handCursor = false;
   bool hot = false;  // under the mouse, as far as the form says so
   bool pressed = false;
@@ -64,10 +81,14 @@ struct Properties {
 struct Control : Properties {
   Kind kind;
   std::string name;
-  int index = -1;  // in its control array; -1 outside one
+  int index = -1;                   // in its control array; -1 outside one
+  std::unique_ptr<ItemList> items;  // of a list box or combo box
 
   // Handlers; what a form leaves empty does nothing.
-  std::function<void()> onClick;
+  std::function<void()> onClick;  // of a list: another entry was selected
+  std::function<void()> onDoubleClick;
+  std::function<void()> onChange;  // of a text box: its text
+  std::function<void(KeyPress&)> onKeyDown;
   std::function<void()> onMouseDown;
   std::function<void()> onMouseUp;
   std::function<void()> onMouseMove;
@@ -78,5 +99,10 @@ struct Control : Properties {
 // place, a Line has ends instead, and none of Shape, Line, Image and Timer has a font.
 Place& PlaceOf(Control& control);
 Font& FontOf(Control& control);
+
+// What the user or the program sets raises the same events: a text that differs from the present
+// one onChange, the selection of another entry onClick. InvalidCall where there is no such entry.
+void SetText(Control& textBox, std::string_view text);
+void Select(Control& list, int index);
 
 }  // namespace forms

@@ -19,6 +19,9 @@ Control& Form::AddControl(Kind kind, std::string_view controlName, Properties pr
   static_cast<Properties&>(control) = std::move(properties);
   control.kind = kind;
   control.name = controlName;
+  if (kind == Kind::ListBox || kind == Kind::ComboBox) {
+    control.items = std::make_unique<ItemList>(control.sorted);
+  }
   return control;
 }
 
@@ -31,6 +34,13 @@ ControlArray Form::AddControls(Kind kind, std::string_view controlName,
     controls.push_back(&control);
   }
   return ControlArray(std::move(controls));
+}
+
+Control& Form::ControlNamed(std::string_view controlName) {
+  for (Control& control : controls_) {
+    if (control.name == controlName) return control;
+  }
+  throw foundation::Error(foundation::ErrorKind::NoSuchMember);
 }
 
 }  // namespace forms

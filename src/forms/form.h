@@ -47,6 +47,10 @@ class Form {
 
   // Controls in the order of their creation.
   std::deque<Control>& Controls() { return controls_; }
+  // The first of that name. NoSuchMember where there is none.
+  Control& ControlNamed(std::string_view controlName);
+
+  Control* activeControl = nullptr;  // has, or gets, the keyboard's focus
 
   // Events, raised by the host.
   virtual void Form_Load() {}
@@ -55,6 +59,8 @@ class Form {
   virtual void Form_QueryUnload([[maybe_unused]] bool& cancel) {}
   virtual void Form_MouseMove() {}  // where no control is that answers
   virtual void Form_MouseLeave() {}
+  virtual void Form_KeyDown([[maybe_unused]] KeyPress& press) {}  // before the control's own
+  virtual void Form_Deactivate() {}  // another window has become the active one
 
  protected:
   Control& AddControl(Kind kind, std::string_view controlName, Properties properties);

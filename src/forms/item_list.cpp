@@ -7,6 +7,16 @@
 #include "foundation/text.h"
 
 namespace forms {
+namespace {
+
+// A comma comes before all else, so that "Delhi, India" stands before "Delhi Gate, India".
+std::string SortKey(std::string_view text) {
+  std::string key = foundation::FoldCase(text);
+  std::replace(key.begin(), key.end(), ',', '\x01');
+  return key;
+}
+
+}  // namespace
 
 void ItemList::Clear() {
   entries_.clear();
@@ -16,7 +26,7 @@ void ItemList::Clear() {
 }
 
 int ItemList::AddItem(std::string_view text) {
-  Entry entry = {std::string(text), sorted_ ? foundation::FoldCase(text) : std::string()};
+  Entry entry = {std::string(text), sorted_ ? SortKey(text) : std::string()};
   const int place = PlaceFor(entry);
   order_.insert(order_.begin() + place, static_cast<std::uint32_t>(entries_.size()));
   entries_.push_back(std::move(entry));

@@ -140,6 +140,13 @@ std::string NumberText(double x) {
   return text;
 }
 
+std::string GroupedText(std::int64_t number) {
+  std::string text = std::to_string(number);
+  const std::size_t firstDigit = number < 0 ? 1 : 0;
+  for (std::size_t at = text.size(); at > firstDigit + 3;) text.insert(at -= 3, 1, ',');
+  return text;
+}
+
 std::string FixedText(double x, int decimals) {
   if (decimals < 0 || decimals > 100) throw Error(ErrorKind::InvalidCall);
   std::array<char, 512> buffer;

@@ -34,6 +34,9 @@ std::optional<double> WholeNumber(std::string_view text);
 // "1E-05") stands only from 1E+16 up and below 0.0001.
 std::string NumberText(double x);
 
+// A whole number with a comma before each group of three digits: "21,032".
+std::string GroupedText(std::int64_t number);
+
 // x with that many decimals, correctly rounded: FixedText(2.5, 2) is "2.50".
 std::string FixedText(double x, int decimals);
 

@@ -10,7 +10,8 @@ namespace {
 TEST(ItemList, TellsThePlaceThatAnEntryTakes) {
   ItemList sorted{true};
   const std::pair<std::string_view, int> entries[] = {
-      {"Mumbai", 0}, {"agra", 0}, {"Agra Cantt", 1}, {"Zira", 3}, {"AGRA", 1}, {"mumbai", 4}};
+      {"Mumbai", 0}, {"agra", 0},   {"Agra Cantt", 1},         {"Zira", 3},
+      {"AGRA", 1},   {"mumbai", 4}, {"Agra, Uttar Pradesh", 2}};
   for (const auto& [text, place] : entries) EXPECT_EQ(sorted.AddItem(text), place) << text;
   sorted.SetItemData(1, 7);
   EXPECT_EQ(sorted.AddItem("Aden"), 0);

@@ -99,5 +99,13 @@ TEST(CheckedArithmetic, MakesTrapsErrors) {
   EXPECT_EQ(IntegerRemainder(std::numeric_limits<std::int64_t>::min(), -1), 0);
 }
 
+TEST(NumberTexts, GroupDigitsByThree) {
+  EXPECT_EQ(GroupedText(0), "0");
+  EXPECT_EQ(GroupedText(999), "999");
+  EXPECT_EQ(GroupedText(-100), "-100");
+  EXPECT_EQ(GroupedText(202281), "202,281");
+  EXPECT_EQ(GroupedText(-1234567), "-1,234,567");
+}
+
 }  // namespace
 }  // namespace foundation

@@ -48,6 +48,16 @@ class Tour {
     Take(window, name + QStringLiteral("-largest"));
   }
 
+  // The picker as it opens over the dashboard, whose labels take what is chosen.
+  void TakePicker() {
+    screens::qt::Program program;
+    screens::frmCity& picker = program.Picker();
+    picker.Load("India", "Ujjain", program.dashboard);
+    FormWindow& window = program.host.WindowOf(picker);
+    window.show();
+    Take(window, QStringLiteral("picker"));
+  }
+
   bool Failed() const { return failed_; }
 
  private:
@@ -81,5 +91,6 @@ int main(int argc, char** argv) {
   Tour tour(folder);
   tour.TakeDashboard(screens::qt::QtClock(), QStringLiteral("dashboard"), true);
   tour.TakeDashboard(StandingClock(), QStringLiteral("dashboard-5-march-2011"), false);
+  tour.TakePicker();
   return tour.Failed() ? EXIT_FAILURE : EXIT_SUCCESS;
 }

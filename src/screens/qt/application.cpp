@@ -12,6 +12,28 @@
 #include "screens/signs.h"
 
 namespace screens::qt {
+namespace {
+
+QString Name(forms::Colour colour) {
+  return ToQt(colour).name();
+}
+
+// Fields to type into and choose from.
+QString InputStyle() {
+  return QStringLiteral(
+             "QLineEdit, QComboBox { background: %1; color: %2; border: 1px solid %3;"
+             " border-radius: 5px; padding: 0 6px; selection-background-color: %4; }"
+             "QLineEdit:focus, QComboBox:focus, QListView:focus { border: 2px solid %4; }"
+             "QLineEdit:focus, QComboBox:focus { padding: 0 5px; }"
+             "QComboBox { combobox-popup: 0; }"
+             "QComboBox::drop-down { border: none; width: 22px; }"
+             "QListView { background: %1; color: %2; border: none; padding: 2px;"
+             " selection-background-color: %4; selection-color: %2; }"
+             "QListView:focus { padding: 0; }")
+      .arg(Name(palette::kPaper), Name(palette::kInk), Name(palette::kRule), Name(palette::kGold));
+}
+
+}  // namespace
 
 void DressApplication() {
   QApplication::setApplicationName(foundation::kProgramName);
@@ -22,7 +44,9 @@ void DressApplication() {
   QApplication::setWindowIcon(ToIcon(*ProgramSign()));
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
 
-  QFont font(QStringList{QStringLiteral("Noto Sans"), QApplication::font().family()});
+  QFont font(QStringList{QStringLiteral("Noto Sans"), QStringLiteral("Lohit Devanagari"),
+                         QStringLiteral("Lohit Malayalam"), QStringLiteral("Lohit Kannada"),
+                         QApplication::font().family()});
   font.setPixelSize(14);
   QApplication::setFont(font);
 
@@ -34,13 +58,22 @@ void DressApplication() {
   }
   colours.setColor(QPalette::Highlight, ToQt(palette::kGold));
   colours.setColor(QPalette::ToolTipBase, ToQt(palette::kPaper));
+  colours.setColor(QPalette::PlaceholderText, ToQt(palette::kQuiet));
   QApplication::setPalette(colours);
+  qApp->setStyleSheet(InputStyle());
 
   InstallAccessibility();
   foundation::SetUserNames(SystemNames());
 }
 
+Program::Program() : Program(clock_) {}
+
 Program::Program(const foundation::Clock& clock)
     : dashboard(Services{clock, settings_, session_, boxes_, browser_, host}) {}
+
+frmCity& Program::Picker() {
+  if (!picker_) picker_.emplace(host, atlas_);
+  return *picker_;
+}
 
 }  // namespace screens::qt

@@ -1,7 +1,11 @@
 // The program: every interface wired to the toolkit, and the forms on top.
 #pragma once
 
+#include <optional>
+
+#include "atlas/clsAtlas.h"
 #include "foundation/session.h"
+#include "screens/frmCity.h"
 #include "screens/frmMain.h"
 #include "screens/qt/qt_host.h"
 #include "screens/qt/qt_machine.h"
@@ -16,17 +20,23 @@ void DressApplication();
 class Program {
  public:
   // With the machine's own clock, or another that outlives the program.
-  Program() : Program(clock_) {}
+  Program();
   explicit Program(const foundation::Clock& clock);
 
   void Start() { host.Show(dashboard); }
+
+  // Made at its first use.
+  frmCity& Picker();
 
  private:
   QtClock clock_;
   QtSettings settings_;
   QtMessageBoxes boxes_;
   QtBrowser browser_;
+  QtYielder yielder_;
   foundation::SessionTable session_;
+  atlas::clsAtlas atlas_{yielder_};
+  std::optional<frmCity> picker_;
 
  public:
   frmMain dashboard;

@@ -23,10 +23,6 @@ int Margin(const forms::Control& control) {
   return control.look == forms::Look::Card ? kShadow : 0;
 }
 
-int ToPixels(float twips) {
-  return qRound(twips / kTwipsPerPixel);
-}
-
 // Of a line: the box of its ends, with room for its width.
 QRect Geometry(const forms::Control& control) {
   if (control.kind == forms::Kind::Line) {
@@ -35,10 +31,8 @@ QRect Geometry(const forms::Control& control) {
     const int room = qCeil(control.borderWidth);
     return box.normalized().adjusted(-room, -room, room, room);
   }
-  const forms::Place& p = control.place;
-  const int left = ToPixels(p.left), top = ToPixels(p.top), margin = Margin(control);
-  return QRect(left, top, ToPixels(p.left + p.width) - left, ToPixels(p.top + p.height) - top)
-      .adjusted(-margin, -margin, margin, margin);
+  const int margin = Margin(control);
+  return PlaceInPixels(control).adjusted(-margin, -margin, margin, margin);
 }
 
 Qt::Alignment ToQt(forms::Alignment alignment) {
@@ -71,14 +65,12 @@ QFont Fitted(QFont font, const QString& text, bool wrapped, double width) {
 }  // namespace
 
 ControlWidget::ControlWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
-    : QWidget(parent), control_(control), dispatch_(std::move(dispatch)) {
-  setObjectName(screens::qt::ToQt(control.name));
+    : QWidget(parent), ControlView(control, std::move(dispatch)) {
   setMouseTracking(true);
   setAttribute(Qt::WA_NoSystemBackground);
   // A label without a click of its own lets the mouse through to what lies below it.
   const bool deaf = !control.onClick && !control.onMouseMove && !control.onMouseDown;
   setAttribute(Qt::WA_TransparentForMouseEvents, deaf && control.toolTip.empty());
-  setFocusPolicy(control.tabStop ? Qt::StrongFocus : Qt::NoFocus);
   shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
   Mirror();
 }
@@ -86,11 +78,7 @@ ControlWidget::ControlWidget(forms::Control& control, Dispatch dispatch, QWidget
 void ControlWidget::Mirror() {
   const forms::Properties& now = control_;
   if (now == shown_) return;
-  setGeometry(Geometry(control_));
-  setVisible(now.visible);
-  setEnabled(now.enabled);
-  setToolTip(screens::qt::ToQt(now.toolTip));
-  setAccessibleName(screens::qt::ToQt(now.caption));
+  Dress(*this, control_, Geometry(control_));
   setCursor(now.handCursor && now.enabled ? Qt::PointingHandCursor : Qt::ArrowCursor);
   if (now.picture != shown_.picture) rendered_ = QPixmap();
   shown_ = now;

@@ -1,30 +1,24 @@
-// A widget that shows one control of a form.
+// A control that the program paints itself: label, image, picture box, shape or line.
 #pragma once
 
 #include <QPixmap>
 #include <QWidget>
-#include <functional>
 
-#include "forms/control.h"
+#include "screens/qt/control_view.h"
 
 namespace screens::qt {
 
-class ControlWidget : public QWidget {
+class ControlWidget : public QWidget, public ControlView {
   Q_OBJECT
 
  public:
-  // Runs one handler of the form and mirrors what it changed.
-  using Dispatch = std::function<void(const std::function<void()>& handler)>;
-
   ControlWidget(forms::Control& control, Dispatch dispatch, QWidget* parent);
 
-  // Takes over what has changed in the control since the last time.
-  void Mirror();
+  QWidget& Widget() override { return *this; }
+  void Mirror() override;
 
   // As by the mouse.
   void Click();
-
-  const forms::Control& Model() const { return control_; }
 
  protected:
   void paintEvent(QPaintEvent*) override;
@@ -42,8 +36,6 @@ class ControlWidget : public QWidget {
   void PaintRendered(QPainter& painter, const QRectF& into);
   void PaintCaption(QPainter& painter);
 
-  forms::Control& control_;
-  Dispatch dispatch_;
   forms::Properties shown_;
   QPixmap rendered_;  // the picture at the present size
 };

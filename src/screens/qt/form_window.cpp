@@ -1,8 +1,11 @@
 #include "screens/qt/form_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPainter>
+#include <algorithm>
 #include <cstdlib>
 #include <exception>
 #include <map>
@@ -16,7 +19,23 @@ namespace screens::qt {
 namespace {
 
 QSize ToPixels(float width, float height) {
-  return {qRound(width / kTwipsPerPixel), qRound(height / kTwipsPerPixel)};
+  return {screens::qt::ToPixels(width), screens::qt::ToPixels(height)};
+}
+
+forms::Key KeyOf(const QKeyEvent& event) {
+  switch (event.key()) {
+    case Qt::Key_Up:
+      return forms::Key::Up;
+    case Qt::Key_Down:
+      return forms::Key::Down;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return forms::Key::Enter;
+    case Qt::Key_Escape:
+      return forms::Key::Escape;
+    default:
+      return forms::Key::Other;
+  }
 }
 
 // Timers go on below the box; an error of theirs is not told any more.
@@ -49,12 +68,38 @@ FormWindow::FormWindow(forms::Form& form) : form_(form) {
       timers_.push_back(new SecondTimer(
           control, [this, &control] { Dispatch(control.onTimer); }, this));
     } else {
-      auto* widget = new ControlWidget(control, dispatch, containers.at(control.container));
-      widgets_.push_back(widget);
-      containers[&control] = widget;
+      ControlView* view = MakeView(control, dispatch, containers.at(control.container));
+      views_.push_back(view);
+      containers[&control] = &view->Widget();
+      view->Widget().installEventFilter(this);
     }
   }
+  SetTabOrder();
   Mirror();
+}
+
+FormWindow::~FormWindow() {
+  if (!retired_) LeaveForm();
+}
+
+// Its lists may go on changing.
+void FormWindow::LeaveForm() {
+  for (const ControlView* view : views_) {
+    if (view->Model().items) view->Model().items->onEntriesChanged = nullptr;
+  }
+}
+
+void FormWindow::SetTabOrder() {
+  std::vector<ControlView*> stops;
+  for (ControlView* view : views_) {
+    if (view->Model().tabStop) stops.push_back(view);
+  }
+  std::stable_sort(stops.begin(), stops.end(), [](const ControlView* a, const ControlView* b) {
+    return a->Model().tabIndex < b->Model().tabIndex;
+  });
+  for (std::size_t i = 1; i < stops.size(); ++i) {
+    setTabOrder(&stops[i - 1]->Widget(), &stops[i]->Widget());
+  }
 }
 
 void FormWindow::Mirror() {
@@ -62,9 +107,10 @@ void FormWindow::Mirror() {
   setWindowTitle(ToQt(form_.caption));
   MirrorBackground();
   MirrorSize();
-  for (ControlWidget* widget : widgets_) widget->Mirror();
+  for (ControlView* view : views_) view->Mirror();
   for (SecondTimer* timer : timers_) timer->Mirror();
   MirrorState();
+  MirrorFocus();
 }
 
 void FormWindow::MirrorBackground() {
@@ -100,8 +146,16 @@ void FormWindow::MirrorState() {
   }
 }
 
+void FormWindow::MirrorFocus() {
+  if (std::exchange(shownFocus_, form_.activeControl) == form_.activeControl) return;
+  for (ControlView* view : views_) {
+    if (&view->Model() == form_.activeControl) view->Widget().setFocus(Qt::OtherFocusReason);
+  }
+}
+
 void FormWindow::Retire() {
   retired_ = true;
+  LeaveForm();
   for (SecondTimer* timer : timers_) timer->Stop();
   hide();
   if (handlers_ == 0) deleteLater();
@@ -137,6 +191,7 @@ void FormWindow::resizeEvent(QResizeEvent*) {
 // A form is not laid out while it is minimised, so that coming back counts as a resize.
 void FormWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange) ActivationChanged();
   if (event->type() != QEvent::WindowStateChange) return;
   Dispatch([this] {
     const bool back = form_.windowState == forms::WindowState::Minimised && !isMinimized();
@@ -165,6 +220,56 @@ void FormWindow::mouseMoveEvent(QMouseEvent*) {
 
 void FormWindow::leaveEvent(QEvent*) {
   Dispatch([this] { form_.Form_MouseLeave(); });
+}
+
+// Asked again once the toolkit has settled: a drop-down of the window's own is no other window.
+void FormWindow::ActivationChanged() {
+  if (isActiveWindow()) active_ = true;
+  if (isActiveWindow() || !active_) return;
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        if (isActiveWindow() || QApplication::activePopupWidget() != nullptr) return;
+        active_ = false;
+        if (isVisible()) Dispatch([this] { form_.Form_Deactivate(); });
+      },
+      Qt::QueuedConnection);
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (!PressKey(*event, nullptr)) QWidget::keyPressEvent(event);
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn) NoteFocus(watched);
+  return event->type() == QEvent::KeyPress &&
+         PressKey(*static_cast<const QKeyEvent*>(event), watched);
+}
+
+ControlView* FormWindow::ViewOf(const QObject* widget) const {
+  for (ControlView* view : views_) {
+    if (&view->Widget() == widget) return view;
+  }
+  return nullptr;
+}
+
+void FormWindow::NoteFocus(const QObject* widget) {
+  if (retired_) return;
+  form_.activeControl = &ViewOf(widget)->Model();
+  shownFocus_ = form_.activeControl;
+}
+
+bool FormWindow::PressKey(const QKeyEvent& event, const QObject* widget) {
+  forms::KeyPress press = {KeyOf(event)};
+  // A key held down since before the window was there has not been pressed in it.
+  const bool once = press.key == forms::Key::Enter || press.key == forms::Key::Escape;
+  if (press.key == forms::Key::Other || (once && event.isAutoRepeat())) return false;
+  Dispatch([&] { form_.Form_KeyDown(press); });
+  const ControlView* view = ViewOf(widget);
+  if (!press.handled && view != nullptr && view->Model().onKeyDown) {
+    Dispatch([&] { view->Model().onKeyDown(press); });
+  }
+  return press.handled;
 }
 
 }  // namespace screens::qt

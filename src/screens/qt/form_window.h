@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "forms/form.h"
-#include "screens/qt/control_widget.h"
+#include "screens/qt/control_view.h"
 #include "screens/qt/second_timer.h"
 
 namespace screens::qt {
@@ -17,6 +17,7 @@ class FormWindow : public QWidget {
 
  public:
   explicit FormWindow(forms::Form& form);
+  ~FormWindow() override;
 
   // Takes over what has changed in the form and its controls.
   void Mirror();
@@ -39,6 +40,8 @@ class FormWindow : public QWidget {
   void hideEvent(QHideEvent*) override;
   void mouseMoveEvent(QMouseEvent*) override;
   void leaveEvent(QEvent*) override;
+  void keyPressEvent(QKeyEvent*) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;  // of the controls' widgets
 
  private:
   // Runs a handler of the form, if there is one, and then mirrors.
@@ -46,15 +49,25 @@ class FormWindow : public QWidget {
   void MirrorBackground();
   void MirrorSize();
   void MirrorState();
+  void MirrorFocus();
+  void SetTabOrder();
+  void LeaveForm();
+  void NoteFocus(const QObject* widget);
+  // First the form, then the control, if there is one. Whether either has dealt with it.
+  bool PressKey(const QKeyEvent& event, const QObject* widget);
+  ControlView* ViewOf(const QObject* widget) const;
+  void ActivationChanged();
 
   forms::Form& form_;
-  std::vector<ControlWidget*> widgets_;
+  std::vector<ControlView*> views_;
   std::vector<SecondTimer*> timers_;
   forms::Place shownPlace_;
   forms::PicturePtr shownPicture_;
   forms::Colour shownColour_ = forms::kTransparent;
   QSize shownSize_;
   forms::WindowState shownState_ = forms::WindowState::Normal;
+  const forms::Control* shownFocus_ = nullptr;
+  bool active_ = false;
   int handlers_ = 0;  // running, one inside another where one lets the event loop run
   bool retired_ = false;
 };

@@ -31,6 +31,7 @@ FormWindow& QtHost::WindowOf(forms::Form& form) {
 void QtHost::Show(forms::Form& form) {
   FormWindow& window = WindowOf(form);
   if (window.IsRetired()) return;  // unloaded while it loaded
+  window.Mirror();
   window.setWindowModality(Qt::NonModal);
   window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
   window.show();
@@ -41,6 +42,7 @@ void QtHost::Show(forms::Form& form) {
 void QtHost::ShowModal(forms::Form& form, forms::Form& owner) {
   const QPointer<FormWindow> window = &WindowOf(form);
   if (window->IsRetired()) return;
+  window->Mirror();
   window->hide();  // a modality takes effect at the next show
   window->setWindowModality(Qt::ApplicationModal);
   window->winId();  // makes the native window, which alone is told its owner

@@ -74,7 +74,16 @@ void Paint(QPainter& painter, const forms::Lettering& lettering) {
   painter.drawText(at, text);
 }
 
+// Faces that forms name and the program's own stands in for.
+bool HasOpenStandIn(std::string_view face) {
+  return face == "Arial" || face == "Tahoma";
+}
+
 }  // namespace
+
+int ToPixels(double twips) {
+  return qRound(twips / kTwipsPerPixel);
+}
 
 QColor ToQt(forms::Colour colour) {
   return QColor(colour.red, colour.green, colour.blue, colour.alpha);
@@ -85,7 +94,10 @@ QString ToQt(std::string_view utf8) {
 }
 
 QFont ToQt(const forms::Font& font) {
-  QFont result(QStringList{ToQt(font.name)} + QApplication::font().families());
+  QFont result = QApplication::font();
+  if (!HasOpenStandIn(font.name)) {
+    result.setFamilies(QStringList{ToQt(font.name)} + result.families());
+  }
   result.setPixelSize(qMax(1, qRound(font.size * kTwipsPerPoint / kTwipsPerPixel)));
   result.setBold(font.bold);
   result.setItalic(font.italic);

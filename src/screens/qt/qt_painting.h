@@ -18,10 +18,12 @@ namespace screens::qt {
 using forms::kTwipsPerPixel;
 using forms::kTwipsPerPoint;
 
+int ToPixels(double twips);
 QColor ToQt(forms::Colour colour);
 QString ToQt(std::string_view utf8);
 
-// Its size follows the form's twips, not the resolution of the screen.
+// Its size follows the form's twips, not the resolution of the screen. Faces that are not free are
+// shown in the program's own.
 QFont ToQt(const forms::Font& font);
 
 // The picture stretched to the rectangle.

@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 
 #include "screens/dashboard.h"
+#include "screens/qt/control_widget.h"
 #include "screens/qt/qt_host.h"
 
 namespace screens::qt {

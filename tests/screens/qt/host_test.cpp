@@ -9,6 +9,7 @@
 #include <cstdlib>
 
 #include "foundation/error.h"
+#include "screens/qt/control_widget.h"
 #include "screens/qt/qt_host.h"
 
 namespace screens::qt {

@@ -1,0 +1,57 @@
+#include "screens/qt/combo_box_widget.h"
+
+#include <QPainter>
+#include <QWheelEvent>
+#include <utility>
+
+#include "screens/palette.h"
+#include "screens/qt/qt_painting.h"
+
+namespace screens::qt {
+namespace {
+
+constexpr int kEntriesShown = 14;
+constexpr int kArrowInset = 14;  // pixels from the right edge to its middle
+
+}  // namespace
+
+ComboBoxWidget::ComboBoxWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
+    : QComboBox(parent), ControlView(control, std::move(dispatch)) {
+  setMaxVisibleItems(kEntriesShown);
+  control_.items->onEntriesChanged = [this] { entriesChanged_ = true; };
+  connect(this, &QComboBox::activated, this,
+          [this](int index) { dispatch_([this, index] { forms::Select(control_, index); }); });
+  shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
+  Mirror();
+}
+
+void ComboBoxWidget::Mirror() {
+  if (std::exchange(entriesChanged_, false)) {
+    clear();
+    for (int i = 0; i < control_.items->ListCount(); ++i) addItem(ToQt(control_.items->List(i)));
+  }
+  if (currentIndex() != control_.items->ListIndex()) setCurrentIndex(control_.items->ListIndex());
+  const forms::Properties& now = control_;
+  if (now == shown_) return;
+  Dress(*this, control_, PlaceInPixels(control_));
+  setFont(ToQt(now.font));
+  shown_ = now;
+}
+
+// The style leaves the arrow to us.
+void ComboBoxWidget::paintEvent(QPaintEvent* event) {
+  QComboBox::paintEvent(event);
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(ToQt(palette::kQuiet), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  const QPointF middle(width() - kArrowInset, height() / 2.0 + 1);
+  painter.drawPolyline(
+      QPolygonF{middle + QPointF(-4, -2), middle + QPointF(0, 2), middle + QPointF(4, -2)});
+}
+
+// A wheel turned over it on the way down a page chooses nothing.
+void ComboBoxWidget::wheelEvent(QWheelEvent* event) {
+  event->ignore();
+}
+
+}  // namespace screens::qt

@@ -1,0 +1,28 @@
+// A drop-down list.
+#pragma once
+
+#include <QComboBox>
+
+#include "screens/qt/control_view.h"
+
+namespace screens::qt {
+
+class ComboBoxWidget : public QComboBox, public ControlView {
+  Q_OBJECT
+
+ public:
+  ComboBoxWidget(forms::Control& control, Dispatch dispatch, QWidget* parent);
+
+  QWidget& Widget() override { return *this; }
+  void Mirror() override;
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+  void wheelEvent(QWheelEvent*) override;
+
+ private:
+  forms::Properties shown_;
+  bool entriesChanged_ = true;
+};
+
+}  // namespace screens::qt

@@ -1,0 +1,161 @@
+#include "screens/qt/list_box_widget.h"
+
+#include <QFocusEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+#include "foundation/text.h"
+#include "screens/palette.h"
+#include "screens/qt/qt_painting.h"
+
+namespace screens::qt {
+namespace {
+
+constexpr int kRowHeight = 28;  // pixels, or more where the font wants it
+constexpr int kRowMargin = 8;
+constexpr double kChosenOpacity = 0.3;
+constexpr double kHoverOpacity = 0.4;
+constexpr int kShownEvery = 50;  // milliseconds
+
+// A row: the typed beginning bold, the chosen one on gold.
+class RowDelegate : public QStyledItemDelegate {
+ public:
+  RowDelegate(const forms::Control& control, QObject* parent)
+      : QStyledItemDelegate(parent), control_(control) {}
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
+    return {0, std::max(kRowHeight, option.fontMetrics.height() + kRowMargin)};
+  }
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    if (option.state & QStyle::State_Selected) {
+      painter->fillRect(option.rect, ToQt(palette::kGold.WithOpacity(kChosenOpacity)));
+    } else if (option.state & QStyle::State_MouseOver) {
+      painter->fillRect(option.rect, ToQt(palette::kRule.WithOpacity(kHoverOpacity)));
+    }
+    painter->setPen(ToQt(control_.foreColour));
+    QRect room = option.rect.adjusted(kRowMargin, 0, -kRowMargin, 0);
+    const std::string text = index.data().toString().toStdString();
+    const std::string_view bold = Emphasised(text);
+    QFont font = option.font;
+    font.setBold(true);
+    room.setLeft(room.left() + Draw(*painter, font, room, ToQt(bold)));
+    Draw(*painter, option.font, room, ToQt(std::string_view(text).substr(bold.size())));
+  }
+
+ private:
+  std::string_view Emphasised(std::string_view text) const {
+    if (!foundation::BeginsWith(text, control_.emphasis)) return {};
+    const auto count = foundation::Characters(control_.emphasis).size();
+    return foundation::FirstCharacters(text, static_cast<int>(count));
+  }
+
+  // Its width.
+  static int Draw(QPainter& painter, const QFont& font, const QRect& room, const QString& text) {
+    painter.setFont(font);
+    const QFontMetrics metrics(font);
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter,
+                     metrics.elidedText(text, Qt::ElideRight, room.width()));
+    return metrics.horizontalAdvance(text);
+  }
+
+  const forms::Control& control_;
+};
+
+}  // namespace
+
+void EntriesModel::Recount() {
+  beginResetModel();
+  rows_ = items_.ListCount();
+  endResetModel();
+}
+
+int EntriesModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : rows_;
+}
+
+QVariant EntriesModel::data(const QModelIndex& index, int role) const {
+  // Entries may have gone since they were counted.
+  if (role != Qt::DisplayRole || index.row() >= items_.ListCount()) return {};
+  return ToQt(items_.List(index.row()));
+}
+
+ListBoxWidget::ListBoxWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
+    : QListView(parent), ControlView(control, std::move(dispatch)), model_(*control.items, this) {
+  setModel(&model_);
+  setItemDelegate(new RowDelegate(control_, this));
+  setUniformItemSizes(true);
+  setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setMouseTracking(true);
+  setFrameShape(QFrame::NoFrame);
+
+  soon_.setSingleShot(true);
+  connect(&soon_, &QTimer::timeout, this, [this] { dispatch_([] {}); });
+  control_.items->onEntriesChanged = [this] {
+    entriesChanged_ = true;
+    if (!soon_.isActive()) soon_.start(kShownEvery);
+  };
+  connect(this, &QListView::doubleClicked, this, [this] { dispatch_(control_.onDoubleClick); });
+  shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
+  Mirror();
+}
+
+void ListBoxWidget::Mirror() {
+  mirroring_ = true;
+  if (std::exchange(entriesChanged_, false)) {
+    soon_.stop();
+    model_.Recount();
+    if (control_.items->ListIndex() < 0) scrollToTop();
+  }
+  MirrorSelection();
+  mirroring_ = false;
+  const forms::Properties& now = control_;
+  if (now == shown_) return;
+  Dress(*this, control_, PlaceInPixels(control_));
+  setFont(ToQt(now.font));
+  shown_ = now;
+  viewport()->update();
+}
+
+// A neighbour comes into view by one row; any other entry goes to the top, what follows it below.
+void ListBoxWidget::MirrorSelection() {
+  const int before = currentIndex().row(), now = control_.items->ListIndex();
+  if (before == now) return;
+  const QModelIndex index = model_.index(now);
+  setCurrentIndex(index);
+  if (!index.isValid()) return;
+  const bool neighbour = before >= 0 && std::abs(now - before) == 1;
+  scrollTo(index, neighbour ? EnsureVisible : PositionAtTop);
+}
+
+void ListBoxWidget::paintEvent(QPaintEvent* event) {
+  QListView::paintEvent(event);
+  if (model_.rowCount() > 0) return;
+  QPainter painter(viewport());
+  painter.setPen(ToQt(palette::kQuiet));
+  painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                   ToQt(control_.placeholder));
+}
+
+// The view would make its first entry the current one.
+void ListBoxWidget::focusInEvent(QFocusEvent* event) {
+  if (currentIndex().isValid()) {
+    QListView::focusInEvent(event);
+  } else {
+    QAbstractScrollArea::focusInEvent(event);
+  }
+}
+
+void ListBoxWidget::selectionChanged(const QItemSelection& selected, const QItemSelection& former) {
+  QListView::selectionChanged(selected, former);
+  if (mirroring_ || selected.isEmpty()) return;
+  const int row = selected.indexes().first().row();
+  if (row < control_.items->ListCount()) dispatch_([this, row] { forms::Select(control_, row); });
+}
+
+}  // namespace screens::qt

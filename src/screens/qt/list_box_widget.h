@@ -1,0 +1,53 @@
+// A list box for any number of entries: only the rows in view are drawn.
+#pragma once
+
+#include <QAbstractListModel>
+#include <QListView>
+#include <QTimer>
+
+#include "screens/qt/control_view.h"
+
+namespace screens::qt {
+
+// The entries as they were counted last; their texts are read when they are drawn.
+class EntriesModel : public QAbstractListModel {
+  Q_OBJECT
+
+ public:
+  explicit EntriesModel(const forms::ItemList& items, QObject* parent)
+      : QAbstractListModel(parent), items_(items) {}
+
+  void Recount();
+  int rowCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+
+ private:
+  const forms::ItemList& items_;
+  int rows_ = 0;
+};
+
+class ListBoxWidget : public QListView, public ControlView {
+  Q_OBJECT
+
+ public:
+  ListBoxWidget(forms::Control& control, Dispatch dispatch, QWidget* parent);
+
+  QWidget& Widget() override { return *this; }
+  void Mirror() override;
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+  void focusInEvent(QFocusEvent*) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& former) override;
+
+ private:
+  void MirrorSelection();
+
+  EntriesModel model_;
+  QTimer soon_;  // entries that come in one after another are shown some at a time
+  forms::Properties shown_;
+  bool entriesChanged_ = true;
+  bool mirroring_ = false;
+};
+
+}  // namespace screens::qt
