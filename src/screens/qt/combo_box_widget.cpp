@@ -1,6 +1,7 @@
 #include "screens/qt/combo_box_widget.h"
 
 #include <QPainter>
+#include <QPointer>
 #include <QWheelEvent>
 #include <utility>
 
@@ -18,7 +19,9 @@ constexpr int kArrowInset = 14;  // pixels from the right edge to its middle
 ComboBoxWidget::ComboBoxWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
     : QComboBox(parent), ControlView(control, std::move(dispatch)) {
   setMaxVisibleItems(kEntriesShown);
-  control_.items->onEntriesChanged = [this] { entriesChanged_ = true; };
+  control_.items->onEntriesChanged = [self = QPointer(this)] {
+    if (self) self->entriesChanged_ = true;
+  };
   connect(this, &QComboBox::activated, this,
           [this](int index) { dispatch_([this, index] { forms::Select(control_, index); }); });
   shown_.interval = -1;  // unlike any control, so that the first mirroring takes all

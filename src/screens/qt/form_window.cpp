@@ -78,17 +78,6 @@ FormWindow::FormWindow(forms::Form& form) : form_(form) {
   Mirror();
 }
 
-FormWindow::~FormWindow() {
-  if (!retired_) LeaveForm();
-}
-
-// Its lists may go on changing.
-void FormWindow::LeaveForm() {
-  for (const ControlView* view : views_) {
-    if (view->Model().items) view->Model().items->onEntriesChanged = nullptr;
-  }
-}
-
 void FormWindow::SetTabOrder() {
   std::vector<ControlView*> stops;
   for (ControlView* view : views_) {
@@ -155,7 +144,6 @@ void FormWindow::MirrorFocus() {
 
 void FormWindow::Retire() {
   retired_ = true;
-  LeaveForm();
   for (SecondTimer* timer : timers_) timer->Stop();
   hide();
   if (handlers_ == 0) deleteLater();

@@ -17,7 +17,6 @@ class FormWindow : public QWidget {
 
  public:
   explicit FormWindow(forms::Form& form);
-  ~FormWindow() override;
 
   // Takes over what has changed in the form and its controls.
   void Mirror();
@@ -51,7 +50,6 @@ class FormWindow : public QWidget {
   void MirrorState();
   void MirrorFocus();
   void SetTabOrder();
-  void LeaveForm();
   void NoteFocus(const QObject* widget);
   // First the form, then the control, if there is one. Whether either has dealt with it.
   bool PressKey(const QKeyEvent& event, const QObject* widget);

@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QStyledItemDelegate>
 #include <algorithm>
 #include <cstdlib>
@@ -96,13 +97,17 @@ ListBoxWidget::ListBoxWidget(forms::Control& control, Dispatch dispatch, QWidget
 
   soon_.setSingleShot(true);
   connect(&soon_, &QTimer::timeout, this, [this] { dispatch_([] {}); });
-  control_.items->onEntriesChanged = [this] {
-    entriesChanged_ = true;
-    if (!soon_.isActive()) soon_.start(kShownEvery);
+  control_.items->onEntriesChanged = [self = QPointer(this)] {
+    if (self) self->TakeNoteOfChange();
   };
   connect(this, &QListView::doubleClicked, this, [this] { dispatch_(control_.onDoubleClick); });
   shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
   Mirror();
+}
+
+void ListBoxWidget::TakeNoteOfChange() {
+  entriesChanged_ = true;
+  if (!soon_.isActive()) soon_.start(kShownEvery);
 }
 
 void ListBoxWidget::Mirror() {

@@ -41,6 +41,7 @@ class ListBoxWidget : public QListView, public ControlView {
   void selectionChanged(const QItemSelection& selected, const QItemSelection& former) override;
 
  private:
+  void TakeNoteOfChange();
   void MirrorSelection();
 
   EntriesModel model_;
