@@ -30,6 +30,16 @@ void clsVSZ::SaveSizes(Form& form) {
   formHeight_ = form.scaleHeight;
 }
 
+void clsVSZ::SaveFirstSizes(Form& form) {
+  form.windowState = WindowState::Normal;
+  if (formWidth_ != 0) {
+    form.scaleWidth = formWidth_;
+    form.scaleHeight = formHeight_;
+    ResizeControls(form, foundation::kFalse16);
+  }
+  SaveSizes(form);
+}
+
 void clsVSZ::ResizeControls(Form& form, const foundation::Boolean16& keepSizes) {
   form.autoRedraw = true;
   form.paintedPicture = {0, 0, form.scaleWidth, form.scaleHeight};

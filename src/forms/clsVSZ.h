@@ -14,6 +14,9 @@ class clsVSZ {
   // Records every control's place and font size, and the form's inside size.
   void SaveSizes(Form& form);
 
+  // The same for a form that may be loaded again: it begins at its first size each time.
+  void SaveFirstSizes(Form& form);
+
   // Puts every control where the form's present size asks for it, always from the records, so
   // that no rounding creeps in. Fonts follow the height and are never below 7.5 points. A tag "nr"
   // leaves a control out, "nf" leaves its font. With keepSizes true, only left and top move.

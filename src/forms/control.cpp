@@ -1,5 +1,8 @@
 #include "forms/control.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "foundation/error.h"
 
 namespace forms {
@@ -7,6 +10,13 @@ namespace {
 
 [[noreturn]] void RefuseMember() {
   throw foundation::Error(foundation::ErrorKind::NoSuchMember);
+}
+
+template <typename T>
+void Set(const Control& control, T& property, T value) {
+  if (property == value) return;
+  property = std::move(value);
+  if (control.onChange) control.onChange();
 }
 
 }  // namespace
@@ -29,9 +39,16 @@ Font& FontOf(Control& control) {
 }
 
 void SetText(Control& textBox, std::string_view text) {
-  if (textBox.caption == text) return;
-  textBox.caption = text;
-  if (textBox.onChange) textBox.onChange();
+  Set(textBox, textBox.caption, std::string(text));
+}
+
+void SetMoment(Control& picker, foundation::DateTime moment) {
+  Set(picker, picker.moment, moment);
+}
+
+void SetScroll(Control& scrollBar, int value) {
+  const ScrollRange& range = scrollBar.scroll;
+  Set(scrollBar, scrollBar.scroll.value, std::max(range.minimum, std::min(value, range.maximum)));
 }
 
 void Select(Control& list, int index) {

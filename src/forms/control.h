@@ -10,10 +10,25 @@
 #include "forms/font.h"
 #include "forms/item_list.h"
 #include "forms/picture.h"
+#include "foundation/calendar.h"
 
 namespace forms {
 
-enum class Kind { Label, Image, PictureBox, Shape, Line, Timer, TextBox, ListBox, ComboBox };
+enum class Kind {
+  Label,
+  Image,
+  PictureBox,
+  Shape,
+  Line,
+  Timer,
+  CommandButton,
+  TextBox,
+  ListBox,
+  ComboBox,
+  DatePicker,
+  TimePicker,
+  VScrollBar
+};
 
 // In twips, from the corner of the container.
 struct Place {
@@ -26,11 +41,19 @@ struct LineEnds {
   friend bool operator==(const LineEnds&, const LineEnds&) = default;
 };
 
+struct ScrollRange {
+  int value = 0, minimum = 0, maximum = 0;
+  int smallChange = 1, largeChange = 1;  // by its arrows, by its track
+  friend bool operator==(const ScrollRange&, const ScrollRange&) = default;
+};
+
 // How the host paints a control.
 enum class Look {
   Plain,
-  Card,  // a soft shadow below
-  Tile,  // an item of a picture menu: picture above, room for a caption, lit when hot or pressed
+  Card,     // a soft shadow below
+  Tile,     // an item of a picture menu: picture above, room for a caption, lit when hot or pressed
+  Primary,  // of a form's buttons, the one that it is there for
+  OnEarth,  // a button on a dark ground
 };
 
 enum class Key { Up, Down, Enter, Escape, Other };
@@ -48,7 +71,9 @@ struct Properties {
   Control* container = nullptr;  // a picture box of the same form; null for the form itself
   Place place;
   LineEnds ends;        // a Line's, in place of `place`
-  std::string caption;  // UTF-8; of a text box, what stands in it
+  std::string caption;  // UTF-8, "&" before a button's key; of a text box, what stands in it
+  foundation::DateTime moment = 0;  // of a date picker a midnight, of a time picker a time of day
+  ScrollRange scroll;
   Font font;
   std::string tag;
   std::string toolTip;
@@ -69,7 +94,8 @@ struct Properties {
   int tabIndex = 0;      // controls are reached from the lowest up
   bool sorted = false;   // a list
   bool handCursor = false;
-  bool hot = false;  // under the mouse, as far as the form says so
+  bool dragHandle = false;  // moves the form where only the screen can move windows
+  bool hot = false;         // under the mouse, as far as the form says so
   bool pressed = false;
   Look look = Look::Plain;
   PicturePtr picture;
@@ -87,11 +113,12 @@ struct Control : Properties {
   // Handlers; what a form leaves empty does nothing.
   std::function<void()> onClick;  // of a list: another entry was selected
   std::function<void()> onDoubleClick;
-  std::function<void()> onChange;  // of a text box: its text
+  std::function<void()> onChange;  // of its text, moment or scroll value
   std::function<void(KeyPress&)> onKeyDown;
-  std::function<void()> onMouseDown;
-  std::function<void()> onMouseUp;
-  std::function<void()> onMouseMove;
+  std::function<void(Point)> onMouseDown;  // by the left button; in twips from the control's corner
+  std::function<void(Point)> onMouseUp;
+  std::function<void(Point)> onMouseMove;
+  std::function<void(int)> onMouseWheel;  // steps, up above 0
   std::function<void()> onTimer;
 };
 
@@ -100,9 +127,12 @@ struct Control : Properties {
 Place& PlaceOf(Control& control);
 Font& FontOf(Control& control);
 
-// What the user or the program sets raises the same events: a text that differs from the present
-// one onChange, the selection of another entry onClick. InvalidCall where there is no such entry.
+// What the user or the program sets raises the same events: a text, moment or scroll value that
+// differs from the present one onChange, the selection of another entry onClick. InvalidCall where
+// there is no such entry.
 void SetText(Control& textBox, std::string_view text);
+void SetMoment(Control& picker, foundation::DateTime moment);
+void SetScroll(Control& scrollBar, int value);  // brought into the bar's range
 void Select(Control& list, int index);
 
 }  // namespace forms

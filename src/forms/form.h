@@ -37,7 +37,8 @@ class Form {
   std::string caption;
   float scaleWidth;  // inside, in twips
   float scaleHeight;
-  float minimumWidth = 0;  // inside; no smaller by hand
+  float left = 0, top = 0;  // of the window on the screen; where the screen tells it
+  float minimumWidth = 0;   // inside; no smaller by hand
   float minimumHeight = 0;
   WindowState windowState = WindowState::Normal;
   Colour backColour;

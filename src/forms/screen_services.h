@@ -18,6 +18,8 @@ class FormHost {
   virtual void Unload(Form& form) = 0;
   // At once, with no clean-up; does not return.
   virtual void EndProgram() = 0;
+  // Draws on a picture box. Stays good as long as the form is loaded.
+  virtual DrawingTarget& TargetOf(Control& pictureBox) = 0;
 };
 
 enum class Orientation { Portrait = 1, Landscape = 2 };

@@ -1,6 +1,5 @@
 #include "screens/dashboard_tick.h"
 
-#include <array>
 #include <optional>
 
 #include "dayperiods/clsBirthDetails.h"
@@ -11,9 +10,9 @@
 #include "foundation/locale_names.h"
 #include "foundation/numbers.h"
 #include "foundation/resume.h"
-#include "foundation/version.h"
 #include "foundation/zzVorin.h"
 #include "screens/frmMain.h"
+#include "screens/place_labels.h"
 
 namespace screens {
 namespace {
@@ -36,27 +35,6 @@ void ShowMoment(foundation::DateTime now, frmMain& labels) {
     labels.lblTime.caption =
         NumberText(at.hour) + ":" + NumberText(at.minute) + ":" + NumberText(at.second);
   });
-}
-
-void ShowDefaultPlace(foundation::Settings& settings, frmMain& labels) {
-  const std::array places = {&labels.lblCountry, &labels.lblCity, &labels.lblLat,
-                             &labels.lblLong,    &labels.lblZone, &labels.lblZoneTime};
-  for (std::size_t i = 0; i < places.size(); ++i) {
-    const foundation::PlaceSetting& setting = foundation::kPlaceSettings[i];
-    Resume([&] {
-      places[i]->caption = settings.GetSetting(foundation::kProgramName, foundation::kPlaceSection,
-                                               setting.key, setting.fallback);
-    });
-  }
-}
-
-void CopyPlace(const frmMain& labels, SessionRecord& record) {
-  record.LatitudeText = labels.lblLat.caption;
-  record.LongitudeText = labels.lblLong.caption;
-  record.ZoneMeridianText = labels.lblZone.caption;
-  record.ZoneTimeText = labels.lblZoneTime.caption;
-  record.CityName = labels.lblCity.caption;
-  record.CountryName = labels.lblCountry.caption;
 }
 
 // The moment of the tick, read back out of the captions that show it.
@@ -94,8 +72,8 @@ dayperiods::SunriseRows SunriseAt(const DateTimeFields& moment, const engine::cl
 void Tick(foundation::DateTime now, foundation::Settings& settings,
           foundation::SessionTable& session, frmMain& labels) {
   ShowMoment(now, labels);
-  ShowDefaultPlace(settings, labels);
-  Resume([&] { CopyPlace(labels, session.Current()); });
+  ShowDefaultPlace(settings, PlaceLabelsOf(labels));
+  Resume([&] { CopyPlace(PlaceLabelsOf(labels), session.Current()); });
 
   const DateTimeFields at = ShownMoment(labels);
   engine::clsPP place;

@@ -35,8 +35,8 @@ class SkyPainter {
  public:
   SkyPainter(const DayScene& scene, double width, double height)
       : scene_(scene),
-        x_(width / layout::kWidth),
-        y_(height / layout::kHeight),
+        x_(width / dashboard_layout::kWidth),
+        y_(height / dashboard_layout::kHeight),
         scale_(std::min(x_, y_)),
         rise_(y_ / scale_),
         centre_{kArcCentre * x_, kHorizon * y_} {

@@ -74,9 +74,8 @@ void frmCity::txtCity_Change() {
   lstCity.emphasis = txtCity.caption;
   ShowCount();
   const forms::ItemList& places = *lstCity.items;
-  const bool found =
-      places.ListIndex() >= 0 &&
-      foundation::BeginsWith(places.List(places.ListIndex()), txtCity.caption);
+  const bool found = places.ListIndex() >= 0 &&
+                     foundation::BeginsWith(places.List(places.ListIndex()), txtCity.caption);
   if (!found && places.ListCount() > 0) txtCity.trailing = "no match";
 }
 

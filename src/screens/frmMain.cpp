@@ -15,22 +15,23 @@ constexpr float kSmallest = 0.75F;  // of the window's first size
 }  // namespace
 
 frmMain::frmMain(Services services)
-    : Form("frmMain", "Durvela 2", layout::kWidth * kTwips, layout::kHeight * kTwips),
+    : Form("frmMain", "Durvela 2", dashboard_layout::kWidth * kTwips,
+           dashboard_layout::kHeight * kTwips),
       services_(services) {
   minimumWidth = kSmallest * scaleWidth;
   minimumHeight = kSmallest * scaleHeight;
   backColour = palette::kEarth;
 
   Timer1.onTimer = [this] { Timer1_Timer(); };
-  Image1.onMouseMove = [this] { Image1_MouseMove(); };
+  Image1.onMouseMove = [this](forms::Point) { Image1_MouseMove(); };
   for (int i = PIC.LBound(); i <= PIC.UBound(); ++i) {
     PIC[i].onClick = [this, i] { PIC_Click(i); };
-    PIC[i].onMouseMove = [this, i] { LBL_MouseMove(i); };
+    PIC[i].onMouseMove = [this, i](forms::Point) { LBL_MouseMove(i); };
     LBL[i].onClick = [this, i] { LBL_Click(i); };
-    LBL[i].onMouseMove = [this, i] { LBL_MouseMove(i); };
+    LBL[i].onMouseMove = [this, i](forms::Point) { LBL_MouseMove(i); };
     for (forms::Control* part : {&PIC[i], &LBL[i]}) {
-      part->onMouseDown = [this, i] { PIC[i].pressed = true; };
-      part->onMouseUp = [this, i] { PIC[i].pressed = false; };
+      part->onMouseDown = [this, i](forms::Point) { PIC[i].pressed = true; };
+      part->onMouseUp = [this, i](forms::Point) { PIC[i].pressed = false; };
     }
   }
   for (forms::Control* line : {&Label1, &Label12, &Label13}) {

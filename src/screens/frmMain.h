@@ -20,39 +20,39 @@ class frmMain : public forms::Form {
   explicit frmMain(Services services);
 
   // The table of controls, lowest first.
-  CONTROL(Image, Image1, layout::Background());
-  CONTROL(Shape, Card, layout::Card());
-  CONTROL(Shape, DurvelaField, layout::DurvelaField());
-  CONTROL(Line, CardRule, layout::CardRule());
+  CONTROL(Image, Image1, dashboard_layout::Background());
+  CONTROL(Shape, Card, dashboard_layout::Card());
+  CONTROL(Shape, DurvelaField, dashboard_layout::DurvelaField());
+  CONTROL(Line, CardRule, dashboard_layout::CardRule());
 
-  CONTROL(Label, TodayCaption, layout::OnSky(213, 20, 9, "TODAY:"));
-  CONTROL(Label, lblDate, layout::OnSky(236, 30, 14.25F, "", true));
-  CONTROL(Label, lblTime, layout::OnSky(258, 76, 40.5F, ""));
+  CONTROL(Label, TodayCaption, dashboard_layout::OnSky(213, 20, 9, "TODAY:"));
+  CONTROL(Label, lblDate, dashboard_layout::OnSky(236, 30, 14.25F, "", true));
+  CONTROL(Label, lblTime, dashboard_layout::OnSky(258, 76, 40.5F, ""));
 
-  CONTROL(Label, lblCity, layout::CardHead(38));
-  CONTROL(Label, CountryCaption, layout::CardCaption(72, "Country"));
-  CONTROL(Label, lblCountry, layout::CardValue(72));
-  CONTROL(Label, LattitudeCaption, layout::CardCaption(96, "Lattitude"));
-  CONTROL(Label, lblLat, layout::CardValue(96));
-  CONTROL(Label, LongitudeCaption, layout::CardCaption(120, "Longitude"));
-  CONTROL(Label, lblLong, layout::CardValue(120));
-  CONTROL(Label, lblZone, layout::CardCaption(144, ""));
-  CONTROL(Label, lblZoneTime, layout::CardValue(144));
+  CONTROL(Label, lblCity, dashboard_layout::CardHead(38));
+  CONTROL(Label, CountryCaption, dashboard_layout::CardCaption(72, "Country"));
+  CONTROL(Label, lblCountry, dashboard_layout::CardValue(72));
+  CONTROL(Label, LattitudeCaption, dashboard_layout::CardCaption(96, "Lattitude"));
+  CONTROL(Label, lblLat, dashboard_layout::CardValue(96));
+  CONTROL(Label, LongitudeCaption, dashboard_layout::CardCaption(120, "Longitude"));
+  CONTROL(Label, lblLong, dashboard_layout::CardValue(120));
+  CONTROL(Label, lblZone, dashboard_layout::CardCaption(144, ""));
+  CONTROL(Label, lblZoneTime, dashboard_layout::CardValue(144));
 
-  CONTROL(Label, SunriseCaption, layout::CardCaption(191, "Sunrise:"));
-  CONTROL(Label, lblSR, layout::CardFigure(188));
-  CONTROL(Label, SunsetCaption, layout::CardCaption(221, "Sunset:"));
-  CONTROL(Label, lblSS, layout::CardFigure(218));
-  CONTROL(Label, DurvelaCaption, layout::FieldCaption("Durvela:"));
-  CONTROL(Label, lblDurvela, layout::FieldFigure());
+  CONTROL(Label, SunriseCaption, dashboard_layout::CardCaption(191, "Sunrise:"));
+  CONTROL(Label, lblSR, dashboard_layout::CardFigure(188));
+  CONTROL(Label, SunsetCaption, dashboard_layout::CardCaption(221, "Sunset:"));
+  CONTROL(Label, lblSS, dashboard_layout::CardFigure(218));
+  CONTROL(Label, DurvelaCaption, dashboard_layout::FieldCaption("Durvela:"));
+  CONTROL(Label, lblDurvela, dashboard_layout::FieldFigure());
 
-  CONTROL_ARRAY(PictureBox, PIC, layout::MenuTiles());
-  CONTROL_ARRAY(Label, LBL, layout::MenuCaptions());
+  CONTROL_ARRAY(PictureBox, PIC, dashboard_layout::MenuTiles());
+  CONTROL_ARRAY(Label, LBL, dashboard_layout::MenuCaptions());
 
-  CONTROL(Label, Label1, layout::ContactLine(0, kWebsite));
-  CONTROL(Label, Label12, layout::ContactLine(1, kEmail));
-  CONTROL(Label, Label13, layout::ContactLine(2, kTelephone));
-  CONTROL(Label, VersionCaption, layout::VersionLine());
+  CONTROL(Label, Label1, dashboard_layout::ContactLine(0, kWebsite));
+  CONTROL(Label, Label12, dashboard_layout::ContactLine(1, kEmail));
+  CONTROL(Label, Label13, dashboard_layout::ContactLine(2, kTelephone));
+  CONTROL(Label, VersionCaption, dashboard_layout::VersionLine());
 
   CONTROL(Timer, Timer1, {.interval = 1000});
 

@@ -6,28 +6,19 @@
 #include <string_view>
 #include <vector>
 
-#include "forms/control.h"
-#include "forms/units.h"
 #include "foundation/numbers.h"
 #include "foundation/version.h"
-#include "screens/palette.h"
+#include "screens/layout.h"
 #include "screens/signs.h"
 
-namespace screens::layout {
+namespace screens::dashboard_layout {
 
-using forms::Alignment;
-using forms::Properties;
+using namespace layout;
 
-inline constexpr auto kTwipsPerPixel = static_cast<float>(forms::kTwipsPerPixel);
 inline constexpr float kWidth = 840;  // logical pixels
 inline constexpr float kHeight = 560;
 
 // Places and sizes below are logical pixels, font sizes points.
-inline forms::Place At(float left, float top, float width, float height) {
-  return {left * kTwipsPerPixel, top * kTwipsPerPixel, width * kTwipsPerPixel,
-          height * kTwipsPerPixel};
-}
-
 inline Properties Background() {
   return {.place = At(0, 0, kWidth, kHeight)};
 }
@@ -154,4 +145,4 @@ inline Properties VersionLine() {
           .alignment = Alignment::Right};
 }
 
-}  // namespace screens::layout
+}  // namespace screens::dashboard_layout

@@ -24,13 +24,17 @@ inline constexpr auto kCream = Rgb(0xFFF6E5);  // text on sky and earth
 inline constexpr auto kFaintCream = Rgb(0xF3E3CF);
 inline constexpr auto kFaintOnEarth = Rgb(0xA99BB8);
 inline constexpr auto kWhite = Rgb(0xFFFFFF);
-inline constexpr auto kGold = Rgb(0xFFD166);  // the sun, the focus ring, what is chosen
+inline constexpr auto kGold = Rgb(0xFFD166);   // the sun, the focus ring, what is chosen
+inline constexpr auto kFocus = Rgb(0xC98A00);  // the gold ring where it stands on paper
 inline constexpr auto kSun = Rgb(0xFFE08A);
 
 // The three periods, everywhere the same; the paper ones are text on paper or fields below cream.
 inline constexpr auto kDurvela = Rgb(0xE4572E);
 inline constexpr auto kDurvelaOnPaper = Rgb(0xB83A17);
+inline constexpr auto kDurvelaPressed = Rgb(0x9C2F10);
 inline constexpr auto kGulik = Rgb(0xA78BFA);
+inline constexpr auto kGulikOnPaper = Rgb(0x6B4FC9);
 inline constexpr auto kYum = Rgb(0x34B3A0);
+inline constexpr auto kYumOnPaper = Rgb(0x14776A);
 
 }  // namespace screens::palette

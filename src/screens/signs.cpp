@@ -123,4 +123,17 @@ forms::PicturePtr ProgramSign() {
   return picture;
 }
 
+forms::PicturePtr SunSign() {
+  auto picture = std::make_shared<forms::Picture>();
+  picture->width = picture->height = kField;
+  for (int ray = 0; ray < 8; ++ray) {
+    const Path line = Path()
+                          .MoveTo(forms::OnCircle(kMiddle, 19, 45 * ray))
+                          .LineTo(forms::OnCircle(kMiddle, 26, 45 * ray));
+    picture->items.emplace_back(forms::Outline{line, forms::kTransparent, {palette::kGold, kLine}});
+  }
+  picture->items.emplace_back(forms::Outline{Path::Circle(kMiddle, 14), palette::kGold, {}});
+  return picture;
+}
+
 }  // namespace screens

@@ -19,4 +19,7 @@ const std::array<MenuSign, 8>& MenuSigns();
 // The arc with one eighth in the Durvela colour and the sun beside it, on a field of 64 by 64.
 forms::PicturePtr ProgramSign();
 
+// A sun with its rays, on a field of 56 by 56.
+forms::PicturePtr SunSign();
+
 }  // namespace screens

@@ -34,13 +34,13 @@ TEST(DashboardForm, AsksBeforeItEnds) {
 
 TEST(DashboardMenu, UnderlinesTheItemUnderTheMouse) {
   Dashboard d;
-  d.form.LBL[3].onMouseMove();
+  d.form.LBL[3].onMouseMove({});
   EXPECT_TRUE(d.form.LBL[3].font.underline);
-  d.form.PIC[7].onMouseMove();
+  d.form.PIC[7].onMouseMove({});
   EXPECT_FALSE(d.form.LBL[3].font.underline);
   EXPECT_TRUE(d.form.LBL[7].font.underline);
   EXPECT_TRUE(d.form.PIC[7].hot);
-  d.form.Image1.onMouseMove();
+  d.form.Image1.onMouseMove({});
   for (int i = 0; i < frmMain::kMenuItems; ++i) {
     EXPECT_FALSE(d.form.LBL[i].font.underline);
     EXPECT_FALSE(d.form.PIC[i].hot);

@@ -14,21 +14,6 @@ namespace support {
 // Thrown by a fake host where a real one would not come back.
 struct ProgramEnded {};
 
-struct FakeHost : forms::FormHost {
-  std::vector<std::string> calls;  // "Show frmMain"
-
-  void Show(forms::Form& form) override { calls.push_back("Show " + form.name); }
-  void ShowModal(forms::Form& form, forms::Form& owner) override {
-    calls.push_back("ShowModal " + form.name + " of " + owner.name);
-  }
-  void Hide(forms::Form& form) override { calls.push_back("Hide " + form.name); }
-  void Unload(forms::Form& form) override { calls.push_back("Unload " + form.name); }
-  void EndProgram() override {
-    calls.push_back("EndProgram");
-    throw ProgramEnded();
-  }
-};
-
 // Writes every call down as text. A letter is 100 twips wide, a line 240 high, in every font.
 class RecordingTarget : public forms::Printer {
  public:
@@ -87,6 +72,24 @@ class RecordingTarget : public forms::Printer {
   }
 
   double x_ = 0, y_ = 0, size_ = 8.25;
+};
+
+struct FakeHost : forms::FormHost {
+  std::vector<std::string> calls;  // "Show frmMain"
+
+  void Show(forms::Form& form) override { calls.push_back("Show " + form.name); }
+  void ShowModal(forms::Form& form, forms::Form& owner) override {
+    calls.push_back("ShowModal " + form.name + " of " + owner.name);
+  }
+  void Hide(forms::Form& form) override { calls.push_back("Hide " + form.name); }
+  void Unload(forms::Form& form) override { calls.push_back("Unload " + form.name); }
+  void EndProgram() override {
+    calls.push_back("EndProgram");
+    throw ProgramEnded();
+  }
+
+  RecordingTarget target;  // of every picture box
+  forms::DrawingTarget& TargetOf(forms::Control&) override { return target; }
 };
 
 struct FakeClipboard : forms::Clipboard {

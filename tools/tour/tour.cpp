@@ -48,19 +48,39 @@ class Tour {
     Take(window, name + QStringLiteral("-largest"));
   }
 
-  // The picker as it opens over the dashboard, whose labels take what is chosen.
-  void TakePicker() {
-    screens::qt::Program program;
-    screens::frmCity& picker = program.Picker();
-    picker.Load("India", "Ujjain", program.dashboard);
-    FormWindow& window = program.host.WindowOf(picker);
-    window.show();
-    Take(window, QStringLiteral("picker"));
+  // What the dashboard's menu opens, and the picker, each on its own.
+  void TakeOthers() {
+    const StandingClock clock;
+    screens::qt::Program program(clock);
+    TakeForm(program, program.Timetable(), QStringLiteral("timetable"), true);
+    TakeForm(program, program.About(), QStringLiteral("about"), false);
+    for (const auto* page :
+         {&screens::WhatIsPage(), &screens::CalculatePage(), &screens::GulikPage(),
+          &screens::YumPage(), &screens::ProductsPage(), &screens::SitaraDeskPage()}) {
+      const std::string name(page->name.substr(3));
+      TakeForm(program, program.Information(*page), QString::fromStdString(name).toLower(), false);
+    }
+    program.Picker().Load("India", "Ujjain", program.dashboard);
+    TakeForm(program, program.Picker(), QStringLiteral("picker"), false);
   }
 
   bool Failed() const { return failed_; }
 
  private:
+  void TakeForm(screens::qt::Program& program, forms::Form& form, const QString& name, bool sizes) {
+    FormWindow& window = program.host.WindowOf(form);
+    window.show();
+    Wait(sizes ? 1500 : 0);  // for what slides into its place
+    Take(window, name);
+    if (sizes) {
+      window.resize(window.minimumSize());
+      Take(window, name + QStringLiteral("-smallest"));
+      window.resize(1920, 1080);
+      Take(window, name + QStringLiteral("-largest"));
+    }
+    program.host.Unload(form);
+  }
+
   static void Wait(int milliseconds) {
     QElapsedTimer time;
     for (time.start(); time.elapsed() < milliseconds;) QApplication::processEvents();
@@ -91,6 +111,6 @@ int main(int argc, char** argv) {
   Tour tour(folder);
   tour.TakeDashboard(screens::qt::QtClock(), QStringLiteral("dashboard"), true);
   tour.TakeDashboard(StandingClock(), QStringLiteral("dashboard-5-march-2011"), false);
-  tour.TakePicker();
+  tour.TakeOthers();
   return tour.Failed() ? EXIT_FAILURE : EXIT_SUCCESS;
 }

@@ -8,6 +8,7 @@
 #include "foundation/version.h"
 #include "screens/palette.h"
 #include "screens/qt/accessibility.h"
+#include "screens/qt/button_widget.h"
 #include "screens/qt/qt_painting.h"
 #include "screens/signs.h"
 
@@ -21,10 +22,12 @@ QString Name(forms::Colour colour) {
 // Fields to type into and choose from.
 QString InputStyle() {
   return QStringLiteral(
-             "QLineEdit, QComboBox { background: %1; color: %2; border: 1px solid %3;"
+             "screens--qt--TextBoxWidget, QComboBox { background: %1; color: %2; border: 1px solid "
+             "%3;"
              " border-radius: 5px; padding: 0 6px; selection-background-color: %4; }"
-             "QLineEdit:focus, QComboBox:focus, QListView:focus { border: 2px solid %4; }"
-             "QLineEdit:focus, QComboBox:focus { padding: 0 5px; }"
+             "screens--qt--TextBoxWidget:focus, QComboBox:focus, QListView:focus { border: 2px "
+             "solid %4; }"
+             "screens--qt--TextBoxWidget:focus, QComboBox:focus { padding: 0 5px; }"
              "QComboBox { combobox-popup: 0; }"
              "QComboBox::drop-down { border: none; width: 22px; }"
              "QListView { background: %1; color: %2; border: none; padding: 2px;"
@@ -60,7 +63,7 @@ void DressApplication() {
   colours.setColor(QPalette::ToolTipBase, ToQt(palette::kPaper));
   colours.setColor(QPalette::PlaceholderText, ToQt(palette::kQuiet));
   QApplication::setPalette(colours);
-  qApp->setStyleSheet(InputStyle());
+  qApp->setStyleSheet(InputStyle() + ButtonStyle());
 
   InstallAccessibility();
   foundation::SetUserNames(SystemNames());
@@ -68,12 +71,43 @@ void DressApplication() {
 
 Program::Program() : Program(clock_) {}
 
-Program::Program(const foundation::Clock& clock)
-    : dashboard(Services{clock, settings_, session_, boxes_, browser_, host}) {}
+Program::Program(const foundation::Clock& clock) : now_(&clock), dashboard(GiveServices()) {
+  FillMenu();
+}
+
+void Program::FillMenu() {
+  const auto page = [this](const InformationPage& (*open)()) {
+    return [this, open] { host.ShowModal(Information(open()), dashboard); };
+  };
+  dashboard.SetMenuItem(0, page(WhatIsPage));
+  dashboard.SetMenuItem(1, [this] { host.Show(Timetable()); });
+  dashboard.SetMenuItem(2, [this] { host.Show(About()); });
+  dashboard.SetMenuItem(3, page(CalculatePage));
+  dashboard.SetMenuItem(4, page(ProductsPage));
+  dashboard.SetMenuItem(5, page(SitaraDeskPage));
+  dashboard.SetMenuItem(6, page(YumPage));
+  dashboard.SetMenuItem(7, page(GulikPage));
+}
+
+frmDurvela& Program::Timetable() {
+  if (!timetable_) {
+    timetable_.emplace(GiveServices(), dashboard, [this]() -> frmCity& { return Picker(); });
+  }
+  return *timetable_;
+}
+
+frmAbout& Program::About() {
+  if (!about_) about_.emplace(GiveServices());
+  return *about_;
+}
 
 frmCity& Program::Picker() {
   if (!picker_) picker_.emplace(host, atlas_);
   return *picker_;
+}
+
+InformationScreen& Program::Information(const InformationPage& page) {
+  return information_.try_emplace(&page, page, host).first->second;
 }
 
 }  // namespace screens::qt

@@ -1,12 +1,16 @@
 // The program: every interface wired to the toolkit, and the forms on top.
 #pragma once
 
+#include <map>
 #include <optional>
 
 #include "atlas/clsAtlas.h"
 #include "foundation/session.h"
+#include "screens/frmAbout.h"
 #include "screens/frmCity.h"
+#include "screens/frmDurvela.h"
 #include "screens/frmMain.h"
+#include "screens/information.h"
 #include "screens/qt/qt_host.h"
 #include "screens/qt/qt_machine.h"
 #include "screens/qt/qt_settings.h"
@@ -25,10 +29,16 @@ class Program {
 
   void Start() { host.Show(dashboard); }
 
-  // Made at its first use.
+  // Screens are made at their first use.
+  frmDurvela& Timetable();
+  frmAbout& About();
   frmCity& Picker();
+  InformationScreen& Information(const InformationPage& page);
 
  private:
+  Services GiveServices() { return {*now_, settings_, session_, boxes_, browser_, host}; }
+  void FillMenu();
+
   QtClock clock_;
   QtSettings settings_;
   QtMessageBoxes boxes_;
@@ -36,7 +46,11 @@ class Program {
   QtYielder yielder_;
   foundation::SessionTable session_;
   atlas::clsAtlas atlas_{yielder_};
+  const foundation::Clock* now_;
+  std::optional<frmDurvela> timetable_;
+  std::optional<frmAbout> about_;
   std::optional<frmCity> picker_;
+  std::map<const InformationPage*, InformationScreen> information_;
 
  public:
   frmMain dashboard;

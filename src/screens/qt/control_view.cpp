@@ -1,21 +1,31 @@
 #include "screens/qt/control_view.h"
 
+#include "screens/qt/button_widget.h"
 #include "screens/qt/combo_box_widget.h"
 #include "screens/qt/control_widget.h"
 #include "screens/qt/list_box_widget.h"
+#include "screens/qt/picker_widget.h"
 #include "screens/qt/qt_painting.h"
+#include "screens/qt/scroll_bar_widget.h"
 #include "screens/qt/text_box_widget.h"
 
 namespace screens::qt {
 
 ControlView* MakeView(forms::Control& control, const Dispatch& dispatch, QWidget* parent) {
   switch (control.kind) {
+    case forms::Kind::CommandButton:
+      return new ButtonWidget(control, dispatch, parent);
     case forms::Kind::TextBox:
       return new TextBoxWidget(control, dispatch, parent);
     case forms::Kind::ListBox:
       return new ListBoxWidget(control, dispatch, parent);
     case forms::Kind::ComboBox:
       return new ComboBoxWidget(control, dispatch, parent);
+    case forms::Kind::DatePicker:
+    case forms::Kind::TimePicker:
+      return new PickerWidget(control, dispatch, parent);
+    case forms::Kind::VScrollBar:
+      return new ScrollBarWidget(control, dispatch, parent);
     default:
       return new ControlWidget(control, dispatch, parent);
   }

@@ -1,9 +1,12 @@
 #include "screens/qt/control_widget.h"
 
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QWheelEvent>
+#include <QWindow>
 #include <QtMath>
 #include <algorithm>
 #include <utility>
@@ -52,7 +55,7 @@ Qt::Alignment ToQt(forms::Alignment alignment) {
 QFont Fitted(QFont font, const QString& text, bool wrapped, double width) {
   const QFontMetricsF metrics(font);
   double wanted = 0;
-  for (const QString& line : wrapped ? text.split(u' ') : QStringList{text}) {
+  for (const QString& line : wrapped ? text.simplified().split(u' ') : QStringList{text}) {
     wanted = std::max(wanted, metrics.horizontalAdvance(line));
   }
   if (wanted > width) {
@@ -69,7 +72,8 @@ ControlWidget::ControlWidget(forms::Control& control, Dispatch dispatch, QWidget
   setMouseTracking(true);
   setAttribute(Qt::WA_NoSystemBackground);
   // A label without a click of its own lets the mouse through to what lies below it.
-  const bool deaf = !control.onClick && !control.onMouseMove && !control.onMouseDown;
+  const bool deaf =
+      !control.onClick && !control.onMouseMove && !control.onMouseDown && !control.onMouseWheel;
   setAttribute(Qt::WA_TransparentForMouseEvents, deaf && control.toolTip.empty());
   shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
   Mirror();
@@ -103,9 +107,19 @@ void ControlWidget::paintEvent(QPaintEvent*) {
     PaintTile(painter);
   } else {
     PaintBody(painter);
-    if (control_.picture) PaintRendered(painter, rect());
+    if (control_.picture) PaintRendered(painter, PlaceOfPicture());
   }
   if (control_.kind == forms::Kind::Label) PaintCaption(painter);
+}
+
+// An image stretches its picture; a picture box keeps its shape.
+QRectF ControlWidget::PlaceOfPicture() const {
+  if (control_.kind == forms::Kind::Image) return rect();
+  QSizeF size(control_.picture->width, control_.picture->height);
+  size.scale(this->size(), Qt::KeepAspectRatio);
+  QRectF place(QPointF(), size);
+  place.moveCenter(QRectF(rect()).center());
+  return place;
 }
 
 // Through the middles of the pixels at its ends.
@@ -193,18 +207,42 @@ void ControlWidget::Click() {
   dispatch_(control_.onClick);
 }
 
-void ControlWidget::mouseMoveEvent(QMouseEvent*) {
-  dispatch_(control_.onMouseMove);
+void ControlWidget::TellMouse(const std::function<void(forms::Point)>& handler,
+                              const QMouseEvent& event) {
+  if (!handler) return;
+  const QPointF at = event.position() * kTwipsPerPixel;
+  dispatch_([&] { handler({at.x(), at.y()}); });
 }
 
+void ControlWidget::mouseMoveEvent(QMouseEvent* event) {
+  TellMouse(control_.onMouseMove, *event);
+}
+
+// Under Wayland no program places its windows; the screen itself moves them.
 void ControlWidget::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) dispatch_(control_.onMouseDown);
+  if (event->button() != Qt::LeftButton) return;
+  if (control_.dragHandle && QGuiApplication::platformName() == u"wayland") {
+    window()->windowHandle()->startSystemMove();
+    return;
+  }
+  TellMouse(control_.onMouseDown, *event);
 }
 
 void ControlWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  dispatch_(control_.onMouseUp);
+  TellMouse(control_.onMouseUp, *event);
   if (rect().contains(event->position().toPoint())) Click();
+}
+
+void ControlWidget::wheelEvent(QWheelEvent* event) {
+  if (!control_.onMouseWheel) {
+    event->ignore();
+    return;
+  }
+  wheel_ += event->angleDelta().y();
+  const int steps = wheel_ / QWheelEvent::DefaultDeltasPerStep;
+  wheel_ %= QWheelEvent::DefaultDeltasPerStep;
+  if (steps != 0) dispatch_([&] { control_.onMouseWheel(steps); });
 }
 
 void ControlWidget::keyPressEvent(QKeyEvent* event) {

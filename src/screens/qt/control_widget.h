@@ -25,10 +25,13 @@ class ControlWidget : public QWidget, public ControlView {
   void mouseMoveEvent(QMouseEvent*) override;
   void mousePressEvent(QMouseEvent*) override;
   void mouseReleaseEvent(QMouseEvent*) override;
+  void wheelEvent(QWheelEvent*) override;
   void keyPressEvent(QKeyEvent*) override;
 
  private:
+  void TellMouse(const std::function<void(forms::Point)>& handler, const QMouseEvent& event);
   QRectF Body() const;  // without the margin that a shadow takes
+  QRectF PlaceOfPicture() const;
   void PaintLine(QPainter& painter);
   void PaintBody(QPainter& painter);
   void PaintShadow(QPainter& painter);
@@ -37,6 +40,7 @@ class ControlWidget : public QWidget, public ControlView {
   void PaintCaption(QPainter& painter);
 
   forms::Properties shown_;
+  int wheel_ = 0;     // turned, but not yet by a whole step
   QPixmap rendered_;  // the picture at the present size
 };
 

@@ -96,6 +96,7 @@ void FormWindow::Mirror() {
   setWindowTitle(ToQt(form_.caption));
   MirrorBackground();
   MirrorSize();
+  MirrorPosition();
   for (ControlView* view : views_) view->Mirror();
   for (SecondTimer* timer : timers_) timer->Mirror();
   MirrorState();
@@ -118,6 +119,12 @@ void FormWindow::MirrorSize() {
   setMinimumSize(ToPixels(form_.minimumWidth, form_.minimumHeight));
   const QSize wanted = ToPixels(form_.scaleWidth, form_.scaleHeight);
   if (std::exchange(shownSize_, wanted) != wanted) resize(wanted);
+}
+
+// Likewise.
+void FormWindow::MirrorPosition() {
+  const QPoint wanted(screens::qt::ToPixels(form_.left), screens::qt::ToPixels(form_.top));
+  if (std::exchange(shownPosition_, wanted) != wanted) move(wanted);
 }
 
 // Likewise. A window that was maximised before it was minimised keeps that in mind.
@@ -174,6 +181,13 @@ void FormWindow::resizeEvent(QResizeEvent*) {
     shownSize_ = size();
     form_.Form_Resize();
   });
+}
+
+void FormWindow::moveEvent(QMoveEvent*) {
+  if (retired_) return;
+  form_.left = static_cast<float>(pos().x() * kTwipsPerPixel);
+  form_.top = static_cast<float>(pos().y() * kTwipsPerPixel);
+  shownPosition_ = pos();
 }
 
 // A form is not laid out while it is minimised, so that coming back counts as a resize.

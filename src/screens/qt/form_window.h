@@ -34,6 +34,7 @@ class FormWindow : public QWidget {
  protected:
   void paintEvent(QPaintEvent*) override;
   void resizeEvent(QResizeEvent*) override;
+  void moveEvent(QMoveEvent*) override;
   void changeEvent(QEvent*) override;
   void closeEvent(QCloseEvent*) override;
   void hideEvent(QHideEvent*) override;
@@ -47,6 +48,7 @@ class FormWindow : public QWidget {
   void Dispatch(const std::function<void()>& handler);
   void MirrorBackground();
   void MirrorSize();
+  void MirrorPosition();
   void MirrorState();
   void MirrorFocus();
   void SetTabOrder();
@@ -63,6 +65,7 @@ class FormWindow : public QWidget {
   forms::PicturePtr shownPicture_;
   forms::Colour shownColour_ = forms::kTransparent;
   QSize shownSize_;
+  QPoint shownPosition_;
   forms::WindowState shownState_ = forms::WindowState::Normal;
   const forms::Control* shownFocus_ = nullptr;
   bool active_ = false;

@@ -70,6 +70,11 @@ void QtHost::Unload(forms::Form& form) {
   FormWindow* window = found->second;
   windows_.erase(found);
   window->Retire();
+  for (forms::Control& control : form.Controls()) pages_.erase(&control);
+}
+
+forms::DrawingTarget& QtHost::TargetOf(forms::Control& pictureBox) {
+  return pages_.try_emplace(&pictureBox, pictureBox, measure_).first->second;
 }
 
 void QtHost::EndProgram() {

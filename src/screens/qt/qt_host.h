@@ -3,8 +3,10 @@
 
 #include <map>
 
+#include "forms/picture_page.h"
 #include "forms/screen_services.h"
 #include "screens/qt/form_window.h"
+#include "screens/qt/qt_painting.h"
 
 namespace screens::qt {
 
@@ -21,12 +23,15 @@ class QtHost : public forms::FormHost {
   void Hide(forms::Form& form) override;
   void Unload(forms::Form& form) override;
   [[noreturn]] void EndProgram() override;
+  forms::DrawingTarget& TargetOf(forms::Control& pictureBox) override;
 
   // The window of a form; made, and the form loaded, at the first call and after an unload.
   FormWindow& WindowOf(forms::Form& form);
 
  private:
   std::map<forms::Form*, FormWindow*> windows_;
+  std::map<forms::Control*, forms::PicturePage> pages_;
+  QtTextMeasure measure_;
 };
 
 }  // namespace screens::qt

@@ -106,6 +106,18 @@ QFont ToQt(const forms::Font& font) {
   return result;
 }
 
+double QtTextMeasure::TextWidth(std::string_view text, const forms::Font& font) const {
+  return QFontMetricsF(ToQt(font)).horizontalAdvance(ToQt(text)) * kTwipsPerPixel;
+}
+
+double QtTextMeasure::LineHeight(const forms::Font& font) const {
+  return QFontMetricsF(ToQt(font)).height() * kTwipsPerPixel;
+}
+
+double QtTextMeasure::Ascent(const forms::Font& font) const {
+  return QFontMetricsF(ToQt(font)).ascent() * kTwipsPerPixel;
+}
+
 void PaintPicture(QPainter& painter, const forms::Picture& picture, const QRectF& into) {
   if (picture.width <= 0 || picture.height <= 0) return;
   painter.save();

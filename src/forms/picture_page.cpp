@@ -1,0 +1,49 @@
+#include "forms/picture_page.h"
+
+#include "forms/units.h"
+
+namespace forms {
+
+PicturePage::PicturePage(Control& pictureBox, const TextMeasure& measure)
+    : box_(pictureBox), measure_(measure), font_(pictureBox.font), colour_(pictureBox.foreColour) {
+  picture_ = std::make_shared<Picture>();
+  picture_->width = box_.place.width;
+  picture_->height = box_.place.height;
+}
+
+// A picture that somebody has taken to show it is not changed any more: the page goes on with a
+// copy, and who compares pictures sees that it is another.
+Picture& PicturePage::Editable() {
+  const bool taken = picture_.use_count() > (box_.picture == picture_ ? 2 : 1);
+  if (taken) picture_ = std::make_shared<Picture>(*picture_);
+  box_.picture = picture_;
+  return *picture_;
+}
+
+void PicturePage::Cls() {
+  Editable().items.clear();
+  x_ = y_ = 0;
+}
+
+void PicturePage::Print(std::string_view text) {
+  Picture& picture = Editable();
+  if (y_ < picture.height) {
+    picture.items.push_back(Lettering{.text = std::string(text),
+                                      .at = {x_, y_ + measure_.Ascent(font_)},
+                                      .size = font_.size * kTwipsPerPoint,
+                                      .bold = font_.bold,
+                                      .colour = colour_});
+  }
+  x_ = 0;
+  y_ += TextHeight(text);
+}
+
+double PicturePage::TextWidth(std::string_view text) const {
+  return measure_.TextWidth(text, font_);
+}
+
+double PicturePage::TextHeight(std::string_view) const {
+  return measure_.LineHeight(font_);
+}
+
+}  // namespace forms

@@ -1,0 +1,67 @@
+#include "screens/frmAbout.h"
+
+namespace screens {
+namespace {
+
+constexpr float kStep = 5;  // twips
+
+}  // namespace
+
+frmAbout::frmAbout(Services services)
+    : Form("frmAbout", std::string("About ") + foundation::kProgramName,
+           about_layout::kWidth * layout::kTwipsPerPixel,
+           about_layout::kHeight * layout::kTwipsPerPixel),
+      services_(services) {
+  minimumWidth = 0.75F * scaleWidth;
+  minimumHeight = 0.75F * scaleHeight;
+  backColour = palette::kPaper;
+  Timer1.onTimer = [this] { Timer1_Timer(); };
+  picS.onMouseMove = [this](forms::Point) { picS_MouseMove(); };
+  for (forms::Control* around : {&Picture1, &Picture2}) {
+    around->onMouseMove = [this](forms::Point) { Form_MouseMove(); };
+  }
+  Label15.onClick = [this] {
+    if (!kWebsite.empty()) services_.browser.Open(kWebsite);
+  };
+  cmdSysInfo.onClick = [this] { cmdSysInfo_Click(); };
+  cmdOK.onClick = [this] { cmdOK_Click(); };
+}
+
+void frmAbout::Form_Load() {
+  sizes_.SaveFirstSizes(*this);
+}
+
+void frmAbout::Form_Resize() {
+  sizes_.ResizeControls(*this, foundation::kFalse16);
+}
+
+void frmAbout::Form_KeyDown(forms::KeyPress& press) {
+  press.handled = press.key == forms::Key::Escape;
+  if (press.handled) cmdOK_Click();
+}
+
+void frmAbout::Form_MouseMove() {
+  Timer1.enabled = true;
+}
+
+// So that the credits can be read.
+void frmAbout::picS_MouseMove() {
+  Timer1.enabled = false;
+}
+
+void frmAbout::Timer1_Timer() {
+  picS.place.top -= kStep;
+  if (picS.place.top <= -picS.place.height) picS.place.top = about_layout::kCreditsTop;
+}
+
+void frmAbout::cmdOK_Click() {
+  services_.host.Unload(*this);
+}
+
+// There is no such tool on this system.
+void frmAbout::cmdSysInfo_Click() {
+  services_.boxes.Show("System Information Is Unavailable At This Time",
+                       foundation::MessageIcon::None);
+}
+
+}  // namespace screens

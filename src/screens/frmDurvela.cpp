@@ -1,0 +1,173 @@
+#include "screens/frmDurvela.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "foundation/error.h"
+#include "foundation/resume.h"
+#include "screens/frmCity.h"
+#include "screens/place_labels.h"
+#include "screens/quick_view.h"
+
+namespace screens {
+namespace {
+
+using foundation::Resume;
+
+constexpr float kTwips = layout::kTwipsPerPixel;
+constexpr float kSmallest = 0.75F;  // of the window's first size
+constexpr double kNoon = 0.5;
+constexpr float kMargin = 8 * kTwips;  // between frame and page
+constexpr float kScrollStep = 0.06F;   // of the page's width: a row and a little
+
+constexpr int kSlideInterval = 20;  // milliseconds
+constexpr float kSlideStep = 10 * kTwips;
+
+}  // namespace
+
+frmDurvela::frmDurvela(Services services, forms::Form& dashboard, std::function<frmCity&()> picker)
+    : Form("frmDurvela", "Durvela", timetable_layout::kWidth * kTwips,
+           timetable_layout::kHeight * kTwips),
+      services_(services),
+      dashboard_(dashboard),
+      picker_(std::move(picker)) {
+  minimumWidth = kSmallest * scaleWidth;
+  minimumHeight = kSmallest * scaleHeight;
+  backColour = palette::kPaper;
+  cmdPreview.enabled = false;
+
+  cmdShow.onClick = [this] { cmdShow_Click(); };
+  cmdSave.onClick = [this] { cmdSave_Click(); };
+  cmdEditPlace.onClick = [this] { cmdEditPlace_Click(); };
+  cmdClose.onClick = [this] { cmdClose_Click(); };
+  cmdMinimize.onClick = [this] { cmdMinimize_Click(); };
+  for (forms::Control* handle : {&lblTitle, &Picture1}) {
+    handle->onMouseDown = [this](forms::Point at) { lblTitle_MouseDown(at); };
+    handle->onMouseMove = [this](forms::Point at) { lblTitle_MouseMove(at); };
+    handle->onMouseUp = [this](forms::Point) { lblTitle_MouseUp(); };
+  }
+  Label9.onClick = [this] {
+    if (!kWebsite.empty()) services_.browser.Open(kWebsite);
+  };
+  VScroll1.onChange = [this] {
+    picRes.place.top = kMargin - static_cast<float>(VScroll1.scroll.value);
+  };
+  picRes.onMouseWheel = [this](int steps) {
+    SetScroll(VScroll1, VScroll1.scroll.value - steps * VScroll1.scroll.smallChange);
+  };
+  Timer1.onTimer = [this] { Timer1_Timer(); };
+}
+
+// Whatever a former opening has left, the form starts as it was made.
+void frmDurvela::Form_Load() {
+  sizes_.SaveFirstSizes(*this);
+  activeControl = &DT1;
+
+  FillFromDefaults();
+  foundation::InitSessionRecord(services_.session, services_.clock.Now());
+  FitPage();
+  cmdShow_Click();
+  StartSlide();
+}
+
+void frmDurvela::FillFromDefaults() {
+  const foundation::DateTimeFields today = foundation::FieldsOf(services_.clock.Now());
+  DT1.moment = foundation::DateFromParts(today.year, today.month, today.day);
+  DT2.moment = foundation::DateFromParts(today.year, today.month + 1, today.day);
+  dtTime.moment = kNoon;
+  ShowDefaultPlace(services_.settings, PlaceLabelsOf(*this));
+}
+
+void frmDurvela::Form_Resize() {
+  sizes_.ResizeControls(*this, foundation::kFalse16);
+  slideTo_ = picSlide.place.left;
+  FitPage();
+}
+
+// The page is as wide as its frame and keeps its shape; what stands below the frame is scrolled to.
+void frmDurvela::FitPage() {
+  const float width = frRes.place.width - VScroll1.place.width - kMargin;
+  const float shape = timetable_layout::kPageHeight / timetable_layout::kPageWidth;
+  picRes.place = {kMargin, kMargin, width, width * shape};
+  const float below = picRes.place.height + 2 * kMargin - frRes.place.height;
+  VScroll1.scroll = {.maximum = static_cast<int>(std::max(0.0F, below)),
+                     .smallChange = static_cast<int>(kScrollStep * width),
+                     .largeChange = static_cast<int>(frRes.place.height)};
+}
+
+void frmDurvela::Form_KeyDown(forms::KeyPress& press) {
+  press.handled = press.key == forms::Key::Escape;
+  if (press.handled) cmdClose_Click();
+}
+
+// An error ends the list where it arose, without a word.
+void frmDurvela::cmdShow_Click() {
+  Resume([&] {
+    CopyPlace(PlaceLabelsOf(*this), services_.session.Current());
+    const foundation::DateTimeFields time = foundation::FieldsOf(dtTime.moment);
+    const foundation::DateTime start =
+        DT1.moment + foundation::TimeFromParts(time.hour, time.minute, time.second);
+    DrawQuickView(services_.host.TargetOf(picRes), start, DT2.moment, services_.session);
+  });
+}
+
+void frmDurvela::cmdSave_Click() {
+  try {
+    SaveDefaultPlace(services_.settings, PlaceLabelsOf(*this));
+  } catch (const foundation::Error& error) {
+    services_.boxes.Show(error.what(), foundation::MessageIcon::Critical);
+    return;
+  }
+  services_.boxes.Show("Place saved as default. It will load automatically next time",
+                       foundation::MessageIcon::Information);
+}
+
+void frmDurvela::cmdEditPlace_Click() {
+  frmCity& picker = picker_();
+  picker.Load(lblCountry.caption, lblCity.caption, *this);
+  services_.host.ShowModal(picker, *this);
+}
+
+void frmDurvela::cmdClose_Click() {
+  services_.host.Show(dashboard_);
+  services_.host.Unload(*this);
+}
+
+void frmDurvela::cmdMinimize_Click() {
+  windowState = forms::WindowState::Minimised;
+}
+
+void frmDurvela::SaveTempVals() {
+  windowState = windowState == forms::WindowState::Maximised ? forms::WindowState::Normal
+                                                             : forms::WindowState::Maximised;
+}
+
+void frmDurvela::lblTitle_MouseDown(forms::Point at) {
+  moving_ = true;
+  pressedX_ = static_cast<float>(at.x);
+  pressedY_ = static_cast<float>(at.y);
+}
+
+void frmDurvela::lblTitle_MouseMove(forms::Point at) {
+  if (!moving_) return;
+  left = left - pressedX_ + static_cast<float>(at.x);
+  top = top - pressedY_ + static_cast<float>(at.y);
+}
+
+void frmDurvela::lblTitle_MouseUp() {
+  moving_ = false;
+}
+
+// A small sun goes once along the head, from above the page to its place.
+void frmDurvela::StartSlide() {
+  slideTo_ = picSlide.place.left;
+  picSlide.place.left = frRes.place.left;
+  Timer1.interval = kSlideInterval;
+}
+
+void frmDurvela::Timer1_Timer() {
+  picSlide.place.left = std::min(picSlide.place.left + kSlideStep, slideTo_);
+  if (picSlide.place.left == slideTo_) Timer1.interval = 0;
+}
+
+}  // namespace screens

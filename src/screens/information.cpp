@@ -1,0 +1,170 @@
+#include "screens/information.h"
+
+#include <string>
+#include <utility>
+
+#include "screens/signs.h"
+
+namespace screens {
+namespace {
+
+using layout::At;
+using layout::Properties;
+
+// Logical pixels.
+constexpr float kWidth = 760, kHeight = 520;
+constexpr float kPictureLeft = 400, kPictureWidth = 328;
+
+Properties Head() {
+  return {.place = At(0, 0, kWidth, 72), .backColour = palette::kEarth};
+}
+
+Properties Sign(int sign) {
+  return {.place = At(24, 8, 56, 56),
+          .picture = MenuSigns()[static_cast<std::size_t>(sign)].picture};
+}
+
+Properties Title(std::string_view title) {
+  return {.place = At(96, 16, 600, 40),
+          .caption = std::string(title),
+          .font = {.size = 15.75F, .bold = true},
+          .foreColour = palette::kCream};
+}
+
+Properties Text(const std::vector<std::string_view>& paragraphs) {
+  std::string text;
+  for (const std::string_view paragraph : paragraphs) text.append(paragraph).append("\n\n");
+  return {.place = At(32, 96, 336, 352),
+          .caption = std::move(text),
+          .font = {.size = 10.5F},
+          .foreColour = palette::kInk,
+          .wordWrap = true};
+}
+
+Properties Ok() {
+  return {.place = At(628, 464, 100, 36),
+          .caption = "OK",
+          .font = {.size = 10.5F},
+          .tabStop = true,
+          .look = forms::Look::Primary};
+}
+
+}  // namespace
+
+InformationScreen::InformationScreen(const InformationPage& page, forms::FormHost& host)
+    : Form(page.name, page.title, kWidth * layout::kTwipsPerPixel,
+           kHeight * layout::kTwipsPerPixel),
+      host_(host) {
+  AddControl(forms::Kind::Shape, "Head", Head());
+  AddControl(forms::Kind::PictureBox, "Sign", Sign(page.sign));
+  AddControl(forms::Kind::Label, "lblTitle", Title(page.title));
+  AddControl(forms::Kind::Label, "lblText", Text(page.paragraphs));
+  if (!page.periods.empty()) AddPictures(page.periods);
+  forms::Control& cmdOK = AddControl(forms::Kind::CommandButton, "cmdOK", Ok());
+  cmdOK.onClick = [this] { cmdOK_Click(); };
+  minimumWidth = 0.75F * scaleWidth;
+  minimumHeight = 0.75F * scaleHeight;
+  backColour = palette::kPaper;
+}
+
+void InformationScreen::AddPictures(const std::vector<Period>& periods) {
+  const auto add = [&](const char* box, float y, const forms::PicturePtr& drawn) {
+    const auto height = static_cast<float>(drawn->height);
+    AddControl(forms::Kind::PictureBox, box,
+               {.place = At(kPictureLeft, y, kPictureWidth, height), .picture = drawn});
+  };
+  add("Day", 92, SampleDay(periods));
+  add("Week", 320, WeekdayTable(periods));
+}
+
+void InformationScreen::Form_Load() {
+  sizes_.SaveFirstSizes(*this);
+}
+
+void InformationScreen::Form_Resize() {
+  sizes_.ResizeControls(*this, foundation::kFalse16);
+}
+
+void InformationScreen::Form_KeyDown(forms::KeyPress& press) {
+  press.handled = press.key == forms::Key::Escape;
+  if (press.handled) cmdOK_Click();
+}
+
+void InformationScreen::cmdOK_Click() {
+  host_.Unload(*this);
+}
+
+const InformationPage& WhatIsPage() {
+  static const InformationPage kPage = {
+      "frmWhatIs",
+      "What is Durvela",
+      0,
+      {"Durvela is a part of each day that is held unlucky for beginnings. A journey, a purchase "
+       "or "
+       "new work is not begun in it; what has begun before may go on.",
+       "It lasts an eighth of the daylight: about an hour and a half, longer in summer and shorter "
+       "in winter.",
+       "Each weekday has its own part, counted from sunrise. The table shows which.",
+       "Sunrise and sunset are those of your own place, so each town has its own times. The night "
+       "has no Durvela."},
+      {Period::Durvela}};
+  return kPage;
+}
+
+const InformationPage& CalculatePage() {
+  static const InformationPage kPage = {
+      "frmCalculate",
+      "Calculation of Durvela",
+      3,
+      {"1. Sunrise and sunset of the day are worked out for the place, in whole minutes of its "
+       "zone.",
+       "2. The daylight from sunrise to sunset is cut into eight equal parts.",
+       "3. The weekday chooses the part of each period, as the table shows.",
+       "Before sunrise the sun of the day before counts, with the weekday of the calendar. Beyond "
+       "63 degrees of latitude the day is not divided, and all times read 00:00:00."},
+      {Period::Durvela, Period::Gulik, Period::Yum}};
+  return kPage;
+}
+
+const InformationPage& GulikPage() {
+  static const InformationPage kPage = {
+      "frmGulik",
+      "Gulika Kaal",
+      7,
+      {"Gulika Kaal is the eighth of the daylight that Saturn rules.",
+       "The parts are ruled in the order of the weekdays: the first by the planet of the day "
+       "itself, "
+       "the next by that of the following day, and so on; the eighth has the first ruler again.",
+       "So Gulika Kaal comes a part earlier from one day to the next. On Saturday the first part "
+       "and "
+       "the last are both Saturn's, and the last one counts."},
+      {Period::Gulik}};
+  return kPage;
+}
+
+const InformationPage& YumPage() {
+  static const InformationPage kPage = {
+      "frmYum",
+      "Yama Ghantak",
+      6,
+      {"Yama Ghantak is the eighth of the daylight that Jupiter rules.",
+       "The parts are ruled in the order of the weekdays: the first by the planet of the day "
+       "itself, "
+       "the next by that of the following day, and so on; the eighth has the first ruler again.",
+       "So Yama Ghantak comes a part earlier from one day to the next. On Thursday the first part "
+       "and the last are both Jupiter's, and the last one counts."},
+      {Period::Yum}};
+  return kPage;
+}
+
+const InformationPage& ProductsPage() {
+  static const InformationPage kPage = {"frmProducts", "Products", 4, {}, {}};
+  return kPage;
+}
+
+const InformationPage& SitaraDeskPage() {
+  static const InformationPage kPage = {"frmSitaraDesk", "Sitara Desk", 5, {}, {}};
+  return kPage;
+}
+
+}  // namespace screens

@@ -1,0 +1,47 @@
+// The pages that explain the periods, and the two that only bear a title.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "forms/clsVSZ.h"
+#include "forms/form.h"
+#include "forms/screen_services.h"
+#include "screens/layout.h"
+#include "screens/period_pictures.h"
+
+namespace screens {
+
+struct InformationPage {
+  std::string_view name;   // of the form
+  std::string_view title;  // of the window and the page
+  int sign;                // of the menu's
+  std::vector<std::string_view> paragraphs;
+  std::vector<Period> periods;  // shown on the sample day and by weekday; none without pictures
+};
+
+// A page with its pictures and OK; Esc closes it too.
+class InformationScreen : public forms::Form {
+ public:
+  InformationScreen(const InformationPage& page, forms::FormHost& host);
+
+  void Form_Load() override;
+  void Form_Resize() override;
+  void Form_KeyDown(forms::KeyPress& press) override;
+  void cmdOK_Click();
+
+ private:
+  void AddPictures(const std::vector<Period>& periods);
+
+  forms::FormHost& host_;
+  forms::clsVSZ sizes_;
+};
+
+const InformationPage& WhatIsPage();
+const InformationPage& CalculatePage();
+const InformationPage& GulikPage();
+const InformationPage& YumPage();
+const InformationPage& ProductsPage();
+const InformationPage& SitaraDeskPage();
+
+}  // namespace screens

@@ -1,0 +1,154 @@
+#include "screens/period_pictures.h"
+
+#include <memory>
+
+#include "dayperiods/weekday_segments.h"
+#include "foundation/calendar.h"
+#include "foundation/locale_names.h"
+#include "foundation/numbers.h"
+#include "foundation/session.h"
+#include "foundation/settings.h"
+#include "foundation/text.h"
+#include "screens/day_scene.h"
+#include "screens/palette.h"
+
+namespace screens {
+namespace {
+
+using forms::Alignment;
+using forms::Colour;
+using forms::Lettering;
+using forms::Path;
+using forms::Point;
+
+constexpr double kWidth = 328;
+
+// Of the arc.
+constexpr Point kFoot = {164, 168};
+constexpr double kInner = 84, kOuter = 128, kPart = 180.0 / dayperiods::kSegmentsOfDaylight;
+constexpr double kGap = 1;  // degrees between the parts
+
+// Of the table.
+constexpr double kRowHeight = 30, kNameWidth = 76, kDays = 7;
+constexpr double kColumn = (kWidth - kNameWidth) / kDays;
+
+struct PeriodLook {
+  std::string_view name;
+  Colour colour;
+  int (*segment)(int weekday);
+};
+
+const PeriodLook& LookOf(Period period) {
+  static constexpr PeriodLook kLooks[] = {
+      {"Durvela", palette::kDurvelaOnPaper, dayperiods::DurvelaSegment},
+      {"Gulik", palette::kGulikOnPaper, dayperiods::GulikSegment},
+      {"Yum", palette::kYumOnPaper, dayperiods::YumSegment}};
+  return kLooks[static_cast<std::size_t>(period)];
+}
+
+std::shared_ptr<forms::Picture> Blank(double height) {
+  auto picture = std::make_shared<forms::Picture>();
+  picture->width = kWidth;
+  picture->height = height;
+  return picture;
+}
+
+foundation::DateTime Day() {
+  return foundation::DateFromParts(2011, 3, 5);
+}
+
+// At the place that a first start shows.
+DayScene SampleScene() {
+  foundation::SessionTable session;
+  foundation::SessionRecord& record = session.Current();
+  const auto fallback = [](std::size_t i) {
+    return std::string(foundation::kPlaceSettings[i].fallback);
+  };
+  record.LatitudeText = fallback(2);
+  record.LongitudeText = fallback(3);
+  record.ZoneMeridianText = fallback(4);
+  return SceneOf(Day() + 0.5, session);
+}
+
+const DayScene::Period& TimesOf(const DayScene& scene, Period period) {
+  return period == Period::Durvela ? scene.durvela
+         : period == Period::Gulik ? scene.gulik
+                                   : scene.yum;
+}
+
+// The angle at which a part begins; parts go from the left foot of the arc to the right one.
+double Start(int segment) {
+  return 180 - kPart * (segment - 1);
+}
+
+void DrawPart(forms::Picture& picture, int segment, Colour fill, Colour ink) {
+  picture.items.emplace_back(
+      forms::Outline{Path::RingPiece(kFoot, kInner, kOuter, Start(segment) - kGap / 2,
+                                     Start(segment + 1) + kGap / 2),
+                     fill,
+                     {}});
+  const Point middle = forms::OnCircle(kFoot, (kInner + kOuter) / 2, Start(segment) - kPart / 2);
+  picture.items.emplace_back(Lettering{.text = foundation::NumberText(segment),
+                                       .at = {middle.x, middle.y + 5},
+                                       .alignment = Alignment::Centre,
+                                       .size = 14,
+                                       .bold = true,
+                                       .colour = ink});
+}
+
+void Write(forms::Picture& picture, std::string_view text, Point at, Alignment alignment,
+           double size, Colour colour, bool bold = false) {
+  picture.items.emplace_back(Lettering{std::string(text), at, alignment, size, bold, colour});
+}
+
+}  // namespace
+
+forms::PicturePtr SampleDay(const std::vector<Period>& periods) {
+  const DayScene scene = SampleScene();
+  auto picture = Blank(208);
+  for (int segment = 1; segment <= dayperiods::kSegmentsOfDaylight; ++segment) {
+    DrawPart(*picture, segment, palette::kRule, palette::kInk);
+  }
+  double line = kFoot.y - 10 - 20 * static_cast<double>(periods.size() - 1);
+  for (const Period period : periods) {
+    const PeriodLook& look = LookOf(period);
+    const DayScene::Period& times = TimesOf(scene, period);
+    DrawPart(*picture, times.segment, look.colour, palette::kWhite);
+    const std::string name = periods.size() == 1 ? std::string(look.name) + " " : "";
+    Write(*picture, name + times.times, {kFoot.x, line}, Alignment::Centre, 14, look.colour, true);
+    line += 20;
+  }
+  picture->items.emplace_back(
+      forms::Outline{Path().MoveTo({20, kFoot.y}).LineTo({kWidth - 20, kFoot.y}),
+                     forms::kTransparent,
+                     {palette::kQuiet, 1}});
+  Write(*picture, scene.sunrise, {36, 184}, Alignment::Left, 12.5, palette::kInk);
+  Write(*picture, scene.sunset, {kWidth - 36, 184}, Alignment::Right, 12.5, palette::kInk);
+  Write(*picture, foundation::WeekdayName(foundation::WeekdayOf(Day())) + ", 5-3-2011, Delhi",
+        {kFoot.x, 204}, Alignment::Centre, 12.5, palette::kQuiet);
+  return picture;
+}
+
+forms::PicturePtr WeekdayTable(const std::vector<Period>& periods) {
+  auto picture = Blank(kRowHeight * static_cast<double>(periods.size() + 1));
+  const auto middle = [](int weekday) { return kNameWidth + kColumn * (weekday - 0.5); };
+  for (int weekday = 1; weekday <= kDays; ++weekday) {
+    Write(*picture, foundation::FirstCharacters(foundation::WeekdayName(weekday), 3),
+          {middle(weekday), 20}, Alignment::Centre, 12.5, palette::kQuiet);
+  }
+  double top = kRowHeight;
+  for (const Period period : periods) {
+    const PeriodLook& look = LookOf(period);
+    picture->items.emplace_back(forms::Outline{
+        Path().MoveTo({0, top}).LineTo({kWidth, top}), forms::kTransparent, {palette::kRule, 1}});
+    Write(*picture, look.name, {0, top + 20}, Alignment::Left, 14, look.colour, true);
+    for (int weekday = 1; weekday <= kDays; ++weekday) {
+      Write(*picture, foundation::NumberText(look.segment(weekday)), {middle(weekday), top + 20},
+            Alignment::Centre, 14, palette::kInk, true);
+    }
+    top += kRowHeight;
+  }
+  return picture;
+}
+
+}  // namespace screens

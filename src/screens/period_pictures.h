@@ -1,0 +1,22 @@
+// Pictures that explain the periods: a sample day in eight parts, and the parts by weekday.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/picture.h"
+
+namespace screens {
+
+enum class Period { Durvela, Gulik, Yum };
+
+// The daylight of 5 March 2011 in Delhi as an arc of eight, the part of each period in its colour
+// with its times. 328 by 208.
+forms::PicturePtr SampleDay(const std::vector<Period>& periods);
+
+// Which of the eight parts each period takes from Sunday to Saturday. 328 wide, 30 a row and as
+// much for the weekdays.
+forms::PicturePtr WeekdayTable(const std::vector<Period>& periods);
+
+}  // namespace screens

@@ -1,0 +1,72 @@
+#include "screens/qt/button_widget.h"
+
+#include <utility>
+
+#include "screens/palette.h"
+#include "screens/qt/qt_painting.h"
+
+namespace screens::qt {
+namespace {
+
+QString NameOf(forms::Look look) {
+  switch (look) {
+    case forms::Look::Primary:
+      return QStringLiteral("primary");
+    case forms::Look::OnEarth:
+      return QStringLiteral("onEarth");
+    default:
+      return QStringLiteral("plain");
+  }
+}
+
+}  // namespace
+
+ButtonWidget::ButtonWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
+    : QPushButton(parent), ControlView(control, std::move(dispatch)) {
+  setAutoDefault(true);  // Enter presses it while it has the focus
+  setProperty("look", NameOf(control.look));
+  connect(this, &QPushButton::clicked, this, [this] { dispatch_(control_.onClick); });
+  shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
+  Mirror();
+}
+
+void ButtonWidget::Mirror() {
+  const forms::Properties& now = control_;
+  if (now == shown_) return;
+  Dress(*this, control_, PlaceInPixels(control_));
+  setFont(ToQt(now.font));
+  if (const QString caption = ToQt(now.caption); caption != text()) setText(caption);
+  setAccessibleName(text().remove(u'&'));
+  shown_ = now;
+}
+
+QString ButtonStyle() {
+  const auto name = [](forms::Colour colour) { return ToQt(colour).name(); };
+  return QStringLiteral(
+             "QPushButton { background: transparent; color: %1; border: 1px solid %2;"
+             " border-radius: 10px; padding: 0 8px; }"
+             "QPushButton:hover { background: %3; }"
+             "QPushButton:pressed { background: %4; }"
+             "QPushButton:focus { border: 2px solid %5; }"
+             "QPushButton:disabled { color: %6; border-color: %4; }"
+             "QPushButton[look=primary] { background: %7; color: %8; border-color: %7; }"
+             "QPushButton[look=primary]:hover { background: %9; }"
+             "QPushButton[look=primary]:pressed { background: %1; }")
+             .arg(name(palette::kInk), name(palette::kQuiet), name(palette::kPaper),
+                  name(palette::kRule), name(palette::kFocus), name(palette::kQuiet),
+                  name(palette::kDurvelaOnPaper), name(palette::kCream),
+                  name(palette::kDurvelaPressed)) +
+         QStringLiteral(
+             "QPushButton[look=primary]:focus { border: 2px solid %1; }"
+             "QPushButton[look=primary]:disabled { background: %2; color: %3;"
+             " border-color: %2; }"
+             "QPushButton[look=onEarth] { color: %4; border-color: %5; }"
+             "QPushButton[look=onEarth]:hover { background: %6; }"
+             "QPushButton[look=onEarth]:pressed { background: %7; }"
+             "QPushButton[look=onEarth]:focus { border: 2px solid %1; }")
+             .arg(name(palette::kGold), name(palette::kRule), name(palette::kQuiet),
+                  name(palette::kCream), name(palette::kFaintOnEarth), name(palette::kHill),
+                  name(palette::kNight));
+}
+
+}  // namespace screens::qt

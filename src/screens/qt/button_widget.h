@@ -1,0 +1,26 @@
+// A button.
+#pragma once
+
+#include <QPushButton>
+
+#include "screens/qt/control_view.h"
+
+namespace screens::qt {
+
+class ButtonWidget : public QPushButton, public ControlView {
+  Q_OBJECT
+
+ public:
+  ButtonWidget(forms::Control& control, Dispatch dispatch, QWidget* parent);
+
+  QWidget& Widget() override { return *this; }
+  void Mirror() override;
+
+ private:
+  forms::Properties shown_;
+};
+
+// The style sheet of all buttons, by their look.
+QString ButtonStyle();
+
+}  // namespace screens::qt

@@ -1,0 +1,29 @@
+// A picker of a date, with a calendar to drop down, or of a time of day.
+#pragma once
+
+#include <QDateTimeEdit>
+
+#include "screens/qt/control_view.h"
+
+namespace screens::qt {
+
+class PickerWidget : public QDateTimeEdit, public ControlView {
+  Q_OBJECT
+
+ public:
+  PickerWidget(forms::Control& control, Dispatch dispatch, QWidget* parent);
+
+  QWidget& Widget() override { return *this; }
+  void Mirror() override;
+
+ protected:
+  void wheelEvent(QWheelEvent*) override;
+
+ private:
+  foundation::DateTime Picked() const;
+
+  forms::Properties shown_;
+  bool mirroring_ = false;
+};
+
+}  // namespace screens::qt

@@ -1,0 +1,29 @@
+#include "screens/qt/scroll_bar_widget.h"
+
+#include <utility>
+
+namespace screens::qt {
+
+ScrollBarWidget::ScrollBarWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
+    : QScrollBar(Qt::Vertical, parent), ControlView(control, std::move(dispatch)) {
+  connect(this, &QScrollBar::valueChanged, this, [this](int value) {
+    if (!mirroring_) dispatch_([this, value] { forms::SetScroll(control_, value); });
+  });
+  shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
+  Mirror();
+}
+
+void ScrollBarWidget::Mirror() {
+  const forms::Properties& now = control_;
+  if (now == shown_) return;
+  Dress(*this, control_, PlaceInPixels(control_));
+  mirroring_ = true;
+  setRange(now.scroll.minimum, now.scroll.maximum);
+  setSingleStep(now.scroll.smallChange);
+  setPageStep(now.scroll.largeChange);
+  setValue(now.scroll.value);
+  mirroring_ = false;
+  shown_ = now;
+}
+
+}  // namespace screens::qt

@@ -1,0 +1,135 @@
+// The whole program: what the dashboard's menu opens, and the timetable in its window.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDateTimeEdit>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include "screens/qt/application.h"
+#include "screens/timetable.h"
+
+namespace screens::qt {
+namespace {
+
+// The visible windows of forms but for the dashboard's.
+FormWindow* OtherWindow() {
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    auto* window = qobject_cast<FormWindow*>(widget);
+    if (window != nullptr && window->isVisible() && window->objectName() != u"frmMain") {
+      return window;
+    }
+  }
+  return nullptr;
+}
+
+class WholeProgram : public testing::Test {
+ protected:
+  WholeProgram() { QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_.path()); }
+
+  QTemporaryDir folder_;  // of the settings
+};
+
+TEST_F(WholeProgram, OpensEveryMenuItemAndClosesItByEscape) {
+  Program program;
+  program.Start();
+  const char* titles[] = {"What is Durvela",        "Durvela",    "About Durvela",
+                          "Calculation of Durvela", "Products",   "Sitara Desk",
+                          "Yama Ghantak",           "Gulika Kaal"};
+  for (int i = 0; i < frmMain::kMenuItems; ++i) {
+    QString seen;
+    const auto close = [&] {
+      FormWindow* window = OtherWindow();
+      if (window == nullptr) return;
+      seen = window->windowTitle();
+      QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+      QApplication::sendEvent(window, &escape);
+    };
+    QTimer::singleShot(0, close);  // while a modal one holds up the click
+    program.dashboard.PIC_Click(i);
+    if (seen.isEmpty()) close();
+    EXPECT_EQ(seen, QString::fromUtf8(titles[i]));
+    EXPECT_EQ(OtherWindow(), nullptr);
+  }
+}
+
+TEST_F(WholeProgram, ShowsASavedPlaceOnTheDashboard) {
+  Program program;
+  program.Start();
+  program.host.Show(program.Timetable());
+  program.Timetable().lblCity.caption = "Ujjain(Madhya Pradesh)";
+  QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
+  program.host.WindowOf(program.Timetable())
+      .findChild<QPushButton*>(QStringLiteral("cmdSave"))
+      ->click();
+  program.dashboard.Timer1_Timer();
+  EXPECT_EQ(program.dashboard.lblCity.caption, "Ujjain(Madhya Pradesh)");
+}
+
+struct RecordingHost : QtHost {
+  support::RecordingTarget target;
+  forms::DrawingTarget& TargetOf(forms::Control&) override { return target; }
+};
+
+TEST(TimetableWindow, DrawsTheRangeThatItsPickersShow) {
+  Timetable fakes;
+  RecordingHost host;
+  frmDurvela form{
+      Services{fakes.clock, fakes.settings, fakes.session, fakes.boxes, fakes.browser, host},
+      fakes.dashboard, [&]() -> frmCity& { return fakes.picker.form; }};
+  host.Show(form);
+  FormWindow& window = host.WindowOf(form);
+  const auto picker = [&](const char* name) {
+    return window.findChild<QDateTimeEdit*>(QString::fromLatin1(name));
+  };
+  EXPECT_EQ(picker("DT2")->date(), QDate(2011, 4, 5));
+  EXPECT_EQ(picker("dtTime")->time(), QTime(12, 0));
+  picker("DT2")->setDate(QDate(2011, 3, 8));
+  host.target.calls.clear();
+  window.findChild<QPushButton*>(QStringLiteral("cmdShow"))->click();
+
+  std::vector<std::string> rows;
+  for (const std::string& call : host.target.calls) {
+    if (call.starts_with("Print")) rows.push_back(call);
+  }
+  ASSERT_EQ(rows.size(), 15U);  // three days
+  EXPECT_EQ(rows[0], "Print 200 0 5-3-2011");
+  EXPECT_EQ(rows[11], "Print 1700 680 Monday");
+  EXPECT_EQ(rows[14], "Print 4900 680 09:36:45");
+  host.Unload(form);
+}
+
+// What is drawn is seen, and a move of the form moves its window.
+TEST(TimetableWindow, ShowsItsPageAndMoves) {
+  Timetable fakes;
+  QtHost host;
+  frmDurvela form{
+      Services{fakes.clock, fakes.settings, fakes.session, fakes.boxes, fakes.browser, host},
+      fakes.dashboard, [&]() -> frmCity& { return fakes.picker.form; }};
+  host.Show(form);
+  FormWindow& window = host.WindowOf(form);
+  const auto inkOnPage = [&] {
+    const QImage page = window.findChild<QWidget*>(QStringLiteral("picRes"))->grab().toImage();
+    int dark = 0;
+    for (int y = 0; y < page.height(); ++y) {
+      for (int x = 0; x < page.width(); ++x) dark += page.pixelColor(x, y).lightness() < 128;
+    }
+    return dark;
+  };
+  const int month = inkOnPage();
+  EXPECT_GT(month, 1000);
+  window.findChild<QDateTimeEdit*>(QStringLiteral("DT2"))->setDate(QDate(2011, 3, 6));
+  window.findChild<QPushButton*>(QStringLiteral("cmdShow"))->click();
+  EXPECT_LT(inkOnPage(), month / 10);
+  form.left += 300;
+  window.Mirror();
+  EXPECT_EQ(window.x(), ToPixels(form.left));
+  host.Unload(form);
+}
+
+}  // namespace
+}  // namespace screens::qt
