@@ -2,17 +2,16 @@
 
 #include <algorithm>
 #include <fstream>
+#include <utility>
 
 #include "foundation/error.h"
+#include "foundation/files.h"
 #include "foundation/modFileFx.h"
 #include "foundation/text.h"
 
 namespace atlas {
-namespace {
 
 namespace fs = std::filesystem;
-
-}  // namespace
 
 fs::path CityFile(std::string_view country) {
   if (country.find('/') != std::string_view::npos) {
@@ -39,13 +38,29 @@ std::vector<std::string> Countries() {
   return names;
 }
 
-foundation::ByteText TakeItem(std::string_view& rest) {
-  rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
-  const std::size_t end = std::min(rest.find_first_of(",\r\n"), rest.size());
-  foundation::ByteText item{std::string(rest.substr(0, end))};
-  rest.remove_prefix(end);
-  rest.remove_prefix(rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, rest.size()));
-  return item;
+CityReader::CityReader(fs::path file)
+    : file_(std::move(file)), bytes_(foundation::ReadFile(file_)) {}
+
+bool CityReader::AtEnd() {
+  if (at_ == bytes_.size()) ReadWhatWasAppended();
+  return at_ == bytes_.size() && !behindComma_;
+}
+
+foundation::ByteText CityReader::Item() {
+  const std::string_view rest = std::string_view(bytes_).substr(at_);
+  const std::size_t begin = std::min(rest.find_first_not_of(' '), rest.size());
+  const std::size_t end = std::min(rest.find_first_of(",\r\n", begin), rest.size());
+  const std::string_view behind = rest.substr(end);
+  behindComma_ = behind.starts_with(',');
+  at_ += end + (behind.starts_with("\r\n") ? 2 : behind.empty() ? 0 : 1);
+  return foundation::ByteText(std::string(rest.substr(begin, end - begin)));
+}
+
+void CityReader::ReadWhatWasAppended() {
+  std::error_code unknown;
+  const auto size = fs::file_size(file_, unknown);
+  if (unknown || size <= bytes_.size()) return;
+  bytes_ += foundation::ReadFile(file_).substr(bytes_.size());
 }
 
 void WriteLines(const fs::path& file, Writing writing,

@@ -18,9 +18,24 @@ std::filesystem::path CityFile(std::string_view country);
 // The countries that have a file, sorted by name, case aside.
 std::vector<std::string> Countries();
 
-// Takes the next item off the front of a file's text: up to a comma or a line's end, without the
-// blanks before it.
-foundation::ByteText TakeItem(std::string_view& rest);
+// A file read item by item: an item goes up to a comma or a line's end, without the blanks before
+// it. Behind a comma there is always one more.
+class CityReader {
+ public:
+  // Errors as of foundation::ReadFile.
+  explicit CityReader(std::filesystem::path file);
+
+  bool AtEnd();
+  foundation::ByteText Item();
+
+ private:
+  void ReadWhatWasAppended();
+
+  std::filesystem::path file_;
+  std::string bytes_;
+  std::size_t at_ = 0;
+  bool behindComma_ = false;
+};
 
 // Replaces or extends a file by lines. FileAccess where it cannot be written.
 enum class Writing { FromStart, AtEnd };

@@ -5,7 +5,6 @@
 #include "atlas/city_file.h"
 #include "atlas/modEncDec.h"
 #include "foundation/error.h"
-#include "foundation/files.h"
 
 namespace atlas {
 namespace {
@@ -37,6 +36,7 @@ std::array<std::string, 8> FieldsOf(const ByteText& line) {
   return fields;
 }
 
+// InvalidCall where a field holds what a city file cannot.
 ByteText Scrambled(std::string_view country, const PlaceRecord& r) {
   std::string record = r.Place;
   for (const std::string_view field :
@@ -44,28 +44,31 @@ ByteText Scrambled(std::string_view country, const PlaceRecord& r) {
         std::string_view(r.Latsign), std::string_view(r.Longitude), std::string_view(r.Longsign)}) {
     record.append(",").append(field);
   }
-  return EncodeText(foundation::ToBytes(record), kAtlasKey);
+  const ByteText bytes = foundation::ToBytes(record);
+  if (foundation::FromBytes(bytes) != record) {
+    throw foundation::Error(foundation::ErrorKind::InvalidCall);
+  }
+  return EncodeText(bytes, kAtlasKey);
 }
 
 }  // namespace
 
-// A file being read item by item, until someone closes all files.
+// A city file being read, until someone closes all files.
 class clsAtlas::OpenFile {
  public:
   OpenFile(const clsAtlas& atlas, const std::filesystem::path& file)
-      : atlas_(atlas), openedAt_(atlas.closings_), bytes_(foundation::ReadFile(file)) {}
+      : atlas_(atlas), openedAt_(atlas.closings_), reader_(file) {}
 
-  bool AtEnd() const {
+  bool AtEnd() {
     if (atlas_.closings_ != openedAt_) throw foundation::Error(foundation::ErrorKind::FileAccess);
-    return rest_.empty();
+    return reader_.AtEnd();
   }
-  ByteText ReadItem() { return TakeItem(rest_); }
+  ByteText ReadItem() { return reader_.Item(); }
 
  private:
   const clsAtlas& atlas_;
   unsigned openedAt_;
-  std::string bytes_;
-  std::string_view rest_ = bytes_;
+  CityReader reader_;
 };
 
 template <typename Operation>

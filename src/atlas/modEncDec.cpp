@@ -1,5 +1,6 @@
 #include "atlas/modEncDec.h"
 
+#include <cstdint>
 #include <limits>
 #include <string>
 

@@ -52,7 +52,10 @@ void SetScroll(Control& scrollBar, int value) {
 }
 
 void Select(Control& list, int index) {
-  if (index >= 0 && list.items->ListIndex() == index) return;
+  if (index < 0 || list.items->ListIndex() != index) Choose(list, index);
+}
+
+void Choose(Control& list, int index) {
   list.items->SetListIndex(index);
   if (list.onClick) list.onClick();
 }

@@ -135,4 +135,7 @@ void SetMoment(Control& picker, foundation::DateTime moment);
 void SetScroll(Control& scrollBar, int value);  // brought into the bar's range
 void Select(Control& list, int index);
 
+// The user's choice from a list: onClick, also for the entry that is selected already.
+void Choose(Control& list, int index);
+
 }  // namespace forms

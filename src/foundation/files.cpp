@@ -1,6 +1,8 @@
 #include "foundation/files.h"
 
 #include <fstream>
+#include <new>
+#include <stdexcept>
 
 #include "foundation/error.h"
 
@@ -12,10 +14,16 @@ std::string ReadFile(const std::filesystem::path& file) {
   const auto size = std::filesystem::file_size(file, failure);  // fails for a folder
   std::ifstream stream(file, std::ios::binary);
   if (failure || !stream) throw Error(ErrorKind::FileAccess);
-  std::string bytes(size, '\0');
-  stream.read(bytes.data(), static_cast<std::streamsize>(size));
-  if (!stream) throw Error(ErrorKind::FileAccess);
-  return bytes;
+  try {
+    std::string bytes(size, '\0');
+    stream.read(bytes.data(), static_cast<std::streamsize>(size));
+    if (!stream) throw Error(ErrorKind::FileAccess);
+    return bytes;
+  } catch (const std::bad_alloc&) {
+    throw Error(ErrorKind::FileAccess);  // more than memory holds
+  } catch (const std::length_error&) {
+    throw Error(ErrorKind::FileAccess);
+  }
 }
 
 std::string_view TakeLine(std::string_view& text) {

@@ -12,7 +12,8 @@ namespace {
 namespace fs = std::filesystem;
 
 fs::path& Folder() {
-  static fs::path folder = fs::read_symlink("/proc/self/exe").parent_path();
+  std::error_code unknown;
+  static fs::path folder = fs::read_symlink("/proc/self/exe", unknown).parent_path();
   return folder;
 }
 
@@ -33,7 +34,7 @@ fs::path LanguageFile(std::int32_t language) {
 }  // namespace
 
 fs::path AppFolder() {
-  return Folder();
+  return Folder() / "";
 }
 
 void SetAppFolder(fs::path folder) {

@@ -10,7 +10,8 @@
 
 namespace foundation {
 
-// The program's own folder, from the start; or the one that was set.
+// The program's own folder, from the start; or the one that was set. This and all others end in a
+// separator.
 std::filesystem::path AppFolder();
 void SetAppFolder(std::filesystem::path folder);
 
@@ -20,7 +21,7 @@ std::filesystem::path BackgroundFolder();  // page backgrounds
 
 // The phrase for a key, case aside, in a language: 0 (or -1) English, 1 Hindi, 2 Marathi,
 // 3 Malayalam, 4 Kannada. The key itself where the language's file has no such entry.
-// FileNotFound without a file, FileAccess for any other number.
+// FileNotFound or FileAccess without such a file, as for any other number.
 std::string LanguagePhrase(std::string_view key, std::int32_t language);
 // In the current language.
 std::string LanguagePhrase(std::string_view key, const SessionTable& session);

@@ -17,8 +17,7 @@ std::string_view LastCharacter(std::string_view text);
 // The first `count` characters, or the whole text if it is shorter. InvalidCall below 0.
 std::string_view FirstCharacters(std::string_view text, int count);
 
-// The text with case taken away, for comparison: Latin, Greek, Cyrillic and
-// Armenian letters.
+// The text with case taken away, for comparison: Latin, Greek, Cyrillic and Armenian letters.
 std::string FoldCase(std::string_view text);
 
 // Whether the text begins with the other one, case (as FoldCase takes it away) aside.

@@ -26,7 +26,7 @@ frmCity::frmCity(forms::FormHost& host, atlas::clsAtlas& atlas)
   lstCity.onDoubleClick = [this] { lstCity_DblClick(); };
 
   atlas_.LoadCountry(*cmbCountry.items);
-  ShowCount();
+  ShowRemarks();
 }
 
 void frmCity::Load(std::string_view Country, std::string_view City, forms::Form& RetForm) {
@@ -36,6 +36,8 @@ void frmCity::Load(std::string_view Country, std::string_view City, forms::Form&
   SetText(txtCity, City);
   FindInList(City, lstCity);
   lstCity.emphasis = City;
+  searched_ = false;  // by nobody who types
+  ShowRemarks();
 }
 
 void frmCity::Form_Load() {
@@ -63,20 +65,19 @@ void frmCity::Form_KeyDown(forms::KeyPress& press) {
 }
 
 void frmCity::cmbCountry_Click() {
-  txtCity.trailing = "loading…";
-  lstCity.placeholder.clear();
+  searched_ = false;
+  ++loading_;
+  ShowRemarks();
   atlas_.LoadCities(cmbCountry.items->List(cmbCountry.items->ListIndex()), lstCity.items.get());
-  ShowCount();
+  --loading_;
+  ShowRemarks();
 }
 
 void frmCity::txtCity_Change() {
   FindInList(txtCity.caption, lstCity);
   lstCity.emphasis = txtCity.caption;
-  ShowCount();
-  const forms::ItemList& places = *lstCity.items;
-  const bool found = places.ListIndex() >= 0 &&
-                     foundation::BeginsWith(places.List(places.ListIndex()), txtCity.caption);
-  if (!found && places.ListCount() > 0) txtCity.trailing = "no match";
+  searched_ = true;
+  ShowRemarks();
 }
 
 void frmCity::txtCity_KeyDown(forms::KeyPress& press) {
@@ -114,12 +115,22 @@ forms::Control& frmCity::Result(std::string_view label) {
   return RetForm_->ControlNamed(label);
 }
 
-void frmCity::ShowCount() {
+// Whether the search has led to an entry.
+bool frmCity::Found() const {
+  const forms::ItemList& places = *lstCity.items;
+  return places.ListIndex() >= 0 &&
+         foundation::BeginsWith(places.List(places.ListIndex()), txtCity.caption);
+}
+
+void frmCity::ShowRemarks() {
   const int places = lstCity.items->ListCount();
-  txtCity.trailing = places == 0   ? ""
-                     : places == 1 ? "1 place"
-                                   : foundation::GroupedText(places) + " places";
-  lstCity.placeholder = cmbCountry.items->ListCount() == 0    ? "The atlas holds no countries."
+  txtCity.trailing = loading_ > 0            ? "loading…"
+                     : places == 0           ? ""
+                     : searched_ && !Found() ? "no match"
+                     : places == 1           ? "1 place"
+                                             : foundation::GroupedText(places) + " places";
+  lstCity.placeholder = loading_ > 0                          ? ""
+                        : cmbCountry.items->ListCount() == 0  ? "The atlas holds no countries."
                         : cmbCountry.items->ListIndex() == -1 ? "Choose a country."
                                                               : "No places here.";
 }

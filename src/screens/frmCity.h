@@ -41,13 +41,16 @@ class frmCity : public forms::Form {
 
  private:
   void Accept();
-  void ShowCount();
+  bool Found() const;
+  void ShowRemarks();
   forms::Control& Result(std::string_view label);
 
   forms::FormHost& host_;
   atlas::clsAtlas& atlas_;
   forms::clsVSZ sizes_;
   forms::Form* RetForm_ = nullptr;
+  int loading_ = 0;  // loads that run, one inside another
+  bool searched_ = false;
 };
 
 }  // namespace screens

@@ -31,7 +31,8 @@ inline Properties CountryCaption() {
           .caption = "Country",
           .font = {.name = "Arial", .size = 8.25F},
           .foreColour = palette::kCream,
-          .alignment = forms::Alignment::Centre};
+          .alignment = forms::Alignment::Centre,
+          .tabIndex = 3};
 }
 
 inline Properties SearchText() {
@@ -39,7 +40,7 @@ inline Properties SearchText() {
           .caption = "Delhi",
           .font = {.name = "Arial", .size = 11.25F},
           .spokenName = "City",
-          .placeholder = "Type the name of a place",
+          .placeholder = "Name of a place",
           .foreColour = palette::kInk,
           .backColour = palette::kPaper,
           .tabStop = true,
@@ -50,7 +51,8 @@ inline Properties CityCaption() {
   return {.place = {150, 480, 345, 240},
           .caption = "City",
           .font = {.name = "Arial", .size = 9.75F},
-          .foreColour = palette::kCream};
+          .foreColour = palette::kCream,
+          .tabIndex = 4};
 }
 
 inline Properties Cities() {

@@ -62,6 +62,7 @@ frmDurvela::frmDurvela(Services services, forms::Form& dashboard, std::function<
 void frmDurvela::Form_Load() {
   sizes_.SaveFirstSizes(*this);
   activeControl = &DT1;
+  picking_ = false;
 
   FillFromDefaults();
   foundation::InitSessionRecord(services_.session, services_.clock.Now());
@@ -122,10 +123,13 @@ void frmDurvela::cmdSave_Click() {
                        foundation::MessageIcon::Information);
 }
 
+// A second click while the places are still being read opens nothing twice.
 void frmDurvela::cmdEditPlace_Click() {
+  if (std::exchange(picking_, true)) return;
   frmCity& picker = picker_();
   picker.Load(lblCountry.caption, lblCity.caption, *this);
   services_.host.ShowModal(picker, *this);
+  picking_ = false;
 }
 
 void frmDurvela::cmdClose_Click() {

@@ -88,6 +88,7 @@ class frmDurvela : public forms::Form {
   forms::Form& dashboard_;
   std::function<frmCity&()> picker_;
   forms::clsVSZ sizes_;
+  bool picking_ = false;  // the picker is opening, or open
   bool moving_ = false;
   float pressedX_ = 0, pressedY_ = 0;
   float slideTo_ = 0;

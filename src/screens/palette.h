@@ -24,8 +24,9 @@ inline constexpr auto kCream = Rgb(0xFFF6E5);  // text on sky and earth
 inline constexpr auto kFaintCream = Rgb(0xF3E3CF);
 inline constexpr auto kFaintOnEarth = Rgb(0xA99BB8);
 inline constexpr auto kWhite = Rgb(0xFFFFFF);
-inline constexpr auto kGold = Rgb(0xFFD166);   // the sun, the focus ring, what is chosen
-inline constexpr auto kFocus = Rgb(0xC98A00);  // the gold ring where it stands on paper
+inline constexpr auto kGold = Rgb(0xFFD166);         // the sun, the focus ring, what is chosen
+inline constexpr auto kGoldOnPaper = Rgb(0xFFECC4);  // at 30 per cent
+inline constexpr auto kFocus = Rgb(0xC98A00);        // the gold ring where it stands on paper
 inline constexpr auto kSun = Rgb(0xFFE08A);
 
 // The three periods, everywhere the same; the paper ones are text on paper or fields below cream.

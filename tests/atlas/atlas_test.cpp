@@ -158,6 +158,9 @@ TEST_F(Atlas, CopiesTheLineBeforeOverADeletedOne) {
 TEST_F(Atlas, AppendsToAFileAndMakesOne) {
   folder_.Write("atlas/India.txt", "");  // the folder, no more
   atlas_.AddPlace("India", kBombay);
+  PlaceRecord devanagari = kAgra;
+  devanagari.City = "आगरा";
+  atlas_.AddPlace("India", devanagari);  // not without loss
   PlaceRecord accented = kAgra;
   accented.City = "Évora";
   atlas_.AddPlace("India", accented);
@@ -191,12 +194,17 @@ TEST_F(Atlas, HoldsTheCountryChosenLast) {
   EXPECT_EQ(atlas_.getLength(), 1);
 
   // And so does an edit that was still reading.
-  yielder_.turns = 0;
-  yielder_.between = [&](int turn) {
-    if (turn == 1) atlas_.LoadCities("Nowhere", &list_);
-  };
+  yielder_.between = [&](int) { atlas_.LoadCities("Nowhere", &list_); };
   atlas_.EditPlace("India", kBombay, kAgra);
   EXPECT_EQ(Lines("India"), "|" + kDelhiLine + "|" + kBombayLine + "|" + kAgraLine);
+
+  // What is added meanwhile is read too.
+  yielder_.turns = 0;
+  yielder_.between = [&](int turn) {
+    if (turn == 1) atlas_.AddPlace("India", kBombay);
+  };
+  atlas_.EditPlace("India", kBombay, kAgra);
+  EXPECT_EQ(Lines("India"), "|" + kDelhiLine + "|" + kAgraLine + "|" + kAgraLine + "|" + kAgraLine);
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ namespace foundation {
 namespace {
 
 TEST(Folders, LieUnderThePrograms) {
-  EXPECT_EQ(AppFolder().filename(), "foundation");
+  EXPECT_EQ(AppFolder().parent_path().filename(), "foundation");
   const support::AppFolderScope folder;
   EXPECT_EQ(AtlasFolder(), folder.path / "atlas" / "");
   EXPECT_EQ(BackgroundFolder(), folder.path / "BG" / "");

@@ -33,7 +33,9 @@ TEST_F(CityPicker, OpensOnTheCallersPlace) {
   picker_.form.Load("India", "Nowhere", picker_.caller);
   EXPECT_EQ(picker_.yielder.turns, turns);  // the country is there already
   EXPECT_EQ(picker_.Chosen(), "Delhi, Delhi, India");
-  EXPECT_EQ(Form().txtCity.trailing, "no match");
+  EXPECT_EQ(Form().txtCity.trailing, "4 places");
+  forms::Choose(Form().cmbCountry, 2);
+  EXPECT_GT(picker_.yielder.turns, turns);  // the user's own choice
 }
 
 TEST_F(CityPicker, FollowsWhatIsTypedAndTheArrows) {
@@ -47,6 +49,7 @@ TEST_F(CityPicker, FollowsWhatIsTypedAndTheArrows) {
     SetText(Form().txtCity, text);
     EXPECT_EQ(picker_.Chosen(), chosen) << text;
     EXPECT_EQ(Form().lstCity.emphasis, text);
+    EXPECT_EQ(Form().txtCity.trailing, text == "ujx" ? "no match" : "4 places");
   }
   Press(forms::Key::Down);
   EXPECT_EQ(picker_.Chosen(), "Ujjain, Madhya Pradesh, India");
@@ -103,12 +106,15 @@ TEST_F(CityPicker, CannotAcceptWithoutAChoice) {
 TEST_F(CityPicker, HoldsTheCountryChosenLastWhateverComesInBetween) {
   picker_.yielder.between = [&](int turn) {
     EXPECT_EQ(Form().txtCity.trailing, "loading…");
+    SetText(Form().txtCity, turn % 2 == 0 ? "N" : "Nad");
+    EXPECT_EQ(Form().txtCity.trailing, "loading…");
     if (turn != 2) return;
     Press(forms::Key::Escape);
     Choose("Fiji");
   };
   Form().Load("India", "Nad", picker_.caller);
   EXPECT_EQ(Form().lstCity.items->ListCount(), 1);
+  EXPECT_EQ(Form().txtCity.trailing, "1 place");
   EXPECT_EQ(Form().cmbCountry.items->List(Form().cmbCountry.items->ListIndex()), "Fiji");
   Press(forms::Key::Enter);
   EXPECT_EQ(picker_.caller.lblCity.caption, "Nadi(Western)");

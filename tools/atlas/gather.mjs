@@ -101,9 +101,12 @@ const atMinute = (place) =>
 const largest = (places) =>
   places.reduce((a, b) => (Number(b.population) > Number(a.population) ? b : a));
 
+// A question mark stands for letters that were lost on the way into the gazetteer.
+const isDamaged = ({ name }) => name.includes('?');
+
 function gather() {
   const world = placesOfTheWorld();
-  const all = [...world, ...furtherPlacesOfIndia(world)];
+  const all = [...world, ...furtherPlacesOfIndia(world)].filter((place) => !isDamaged(place));
   const used = all
     .filter((place) => !isGone(place) && countries.get(place.iso).use !== 'left out')
     .map((place) => ({ ...place, file: fileName(place), state: stateOf(place, false) }));

@@ -1,6 +1,7 @@
 // Writes the city files of the atlas: the places of a country's table become the scrambled records
 // of <country>.city.
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -44,6 +45,11 @@ std::string DegreesAndMinutes(std::int32_t minutes) {
   return std::to_string(minutes / 60) + (pastDegrees.size() < 2 ? ".0" : ".") + pastDegrees;
 }
 
+// Under which name a place is searched: nobody types the mark before "'Aiea".
+std::string_view SearchName(std::string_view place) {
+  return place.substr(std::min(place.find_first_not_of("'`"), place.size() - 1));
+}
+
 // The record of a table's line: place, state, latitude, longitude; what stands behind is not for
 // the city file.
 std::string Record(std::string_view line, const std::string& country) {
@@ -56,7 +62,7 @@ std::string Record(std::string_view line, const std::string& country) {
   for (const unsigned char c : place + state) {
     if (c < ' ' || c > '~' || c == ',') throw std::runtime_error("a name with a comma or no ASCII");
   }
-  return place + ',' + place + ',' + state + ',' + country + ',' +
+  return std::string(SearchName(place)) + ',' + place + ',' + state + ',' + country + ',' +
          DegreesAndMinutes(LatitudeMinutes(latitude)) + (latitude < 0 ? ",S," : ",N,") +
          DegreesAndMinutes(LongitudeMinutes(longitude)) + (longitude < 0 ? ",W" : ",E");
 }

@@ -24,16 +24,19 @@ QString InputStyle() {
   return QStringLiteral(
              "screens--qt--TextBoxWidget, QComboBox { background: %1; color: %2; border: 1px solid "
              "%3;"
-             " border-radius: 5px; padding: 0 6px; selection-background-color: %4; }"
+             " border-radius: 10px; padding: 0 6px; selection-background-color: %4; }"
              "screens--qt--TextBoxWidget:focus, QComboBox:focus, QListView:focus { border: 2px "
              "solid %4; }"
              "screens--qt--TextBoxWidget:focus, QComboBox:focus { padding: 0 5px; }"
              "QComboBox { combobox-popup: 0; }"
+             "QComboBox QAbstractItemView { selection-background-color: %5; }"
+             "QComboBox QAbstractItemView::item { min-height: 28px; }"
              "QComboBox::drop-down { border: none; width: 22px; }"
              "QListView { background: %1; color: %2; border: none; padding: 2px;"
              " selection-background-color: %4; selection-color: %2; }"
              "QListView:focus { padding: 0; }")
-      .arg(Name(palette::kPaper), Name(palette::kInk), Name(palette::kRule), Name(palette::kGold));
+      .arg(Name(palette::kPaper), Name(palette::kInk), Name(palette::kRule), Name(palette::kGold),
+           Name(palette::kGoldOnPaper));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPointer>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 #include <utility>
 
@@ -19,11 +20,12 @@ constexpr int kArrowInset = 14;  // pixels from the right edge to its middle
 ComboBoxWidget::ComboBoxWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
     : QComboBox(parent), ControlView(control, std::move(dispatch)) {
   setMaxVisibleItems(kEntriesShown);
+  setItemDelegate(new QStyledItemDelegate(this));  // takes the rows' height from the style sheet
   control_.items->onEntriesChanged = [self = QPointer(this)] {
     if (self) self->entriesChanged_ = true;
   };
   connect(this, &QComboBox::activated, this,
-          [this](int index) { dispatch_([this, index] { forms::Select(control_, index); }); });
+          [this](int index) { dispatch_([this, index] { forms::Choose(control_, index); }); });
   shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
   Mirror();
 }

@@ -238,8 +238,10 @@ void FormWindow::ActivationChanged() {
       Qt::QueuedConnection);
 }
 
+// A control's key has been through the event filter already.
 void FormWindow::keyPressEvent(QKeyEvent* event) {
-  if (!PressKey(*event, nullptr)) QWidget::keyPressEvent(event);
+  const bool seen = ViewOf(focusWidget()) != nullptr;
+  if (seen || !PressKey(*event, nullptr)) QWidget::keyPressEvent(event);
 }
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <algorithm>
 #include <cstdlib>
@@ -59,7 +60,7 @@ class RowDelegate : public QStyledItemDelegate {
   static int Draw(QPainter& painter, const QFont& font, const QRect& room, const QString& text) {
     painter.setFont(font);
     const QFontMetrics metrics(font);
-    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter,
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      metrics.elidedText(text, Qt::ElideRight, room.width()));
     return metrics.horizontalAdvance(text);
   }
@@ -112,11 +113,7 @@ void ListBoxWidget::TakeNoteOfChange() {
 
 void ListBoxWidget::Mirror() {
   mirroring_ = true;
-  if (std::exchange(entriesChanged_, false)) {
-    soon_.stop();
-    model_.Recount();
-    if (control_.items->ListIndex() < 0) scrollToTop();
-  }
+  if (std::exchange(entriesChanged_, false)) MirrorEntries();
   MirrorSelection();
   mirroring_ = false;
   const forms::Properties& now = control_;
@@ -125,6 +122,19 @@ void ListBoxWidget::Mirror() {
   setFont(ToQt(now.font));
   shown_ = now;
   viewport()->update();
+}
+
+// While entries come in, the user may look through those that are there.
+void ListBoxWidget::MirrorEntries() {
+  soon_.stop();
+  const int before = model_.rowCount(), scrolled = verticalScrollBar()->value();
+  const bool chosen = currentIndex().isValid();
+  model_.Recount();
+  if (model_.rowCount() < before) return;
+  if (chosen && control_.items->ListIndex() >= 0) {
+    setCurrentIndex(model_.index(control_.items->ListIndex()));
+  }
+  verticalScrollBar()->setValue(scrolled);
 }
 
 // A neighbour comes into view by one row; any other entry goes to the top, what follows it below.
@@ -154,6 +164,12 @@ void ListBoxWidget::focusInEvent(QFocusEvent* event) {
   } else {
     QAbstractScrollArea::focusInEvent(event);
   }
+}
+
+// What is chosen stays so until something else is.
+QItemSelectionModel::SelectionFlags ListBoxWidget::selectionCommand(const QModelIndex& index,
+                                                                    const QEvent*) const {
+  return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
 void ListBoxWidget::selectionChanged(const QItemSelection& selected, const QItemSelection& former) {

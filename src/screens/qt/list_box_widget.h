@@ -38,10 +38,13 @@ class ListBoxWidget : public QListView, public ControlView {
  protected:
   void paintEvent(QPaintEvent*) override;
   void focusInEvent(QFocusEvent*) override;
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& former) override;
 
  private:
   void TakeNoteOfChange();
+  void MirrorEntries();
   void MirrorSelection();
 
   EntriesModel model_;

@@ -2,6 +2,7 @@
 
 #include <QEventLoop>
 #include <QPointer>
+#include <QScreen>
 #include <QWindow>
 #include <cstdlib>
 
@@ -47,6 +48,7 @@ void QtHost::ShowModal(forms::Form& form, forms::Form& owner) {
   window->setWindowModality(Qt::ApplicationModal);
   window->winId();  // makes the native window, which alone is told its owner
   window->windowHandle()->setTransientParent(WindowOf(owner).windowHandle());
+  CentreOn(WindowOf(owner), *window);
   QEventLoop until;
   QObject::connect(window, &FormWindow::Hidden, &until, &QEventLoop::quit);
   QObject::connect(window, &QObject::destroyed, &until, &QEventLoop::quit);
@@ -58,6 +60,17 @@ void QtHost::ShowModal(forms::Form& form, forms::Form& owner) {
   } else {
     until.exec();
   }
+}
+
+void QtHost::CentreOn(const FormWindow& owner, FormWindow& window) {
+  QRect place(QPoint(), window.size());
+  place.moveCenter(owner.geometry().center());
+  const QRect screen = owner.screen()->availableGeometry();
+  place.moveLeft(
+      qBound(screen.left(), place.left(), qMax(screen.left(), screen.right() - place.width())));
+  place.moveTop(
+      qBound(screen.top(), place.top(), qMax(screen.top(), screen.bottom() - place.height())));
+  window.move(place.topLeft());
 }
 
 void QtHost::Hide(forms::Form& form) {

@@ -29,6 +29,8 @@ class QtHost : public forms::FormHost {
   FormWindow& WindowOf(forms::Form& form);
 
  private:
+  static void CentreOn(const FormWindow& owner, FormWindow& window);
+
   std::map<forms::Form*, FormWindow*> windows_;
   std::map<forms::Control*, forms::PicturePage> pages_;
   QtTextMeasure measure_;

@@ -76,11 +76,19 @@ TEST_F(PickerWindow, ShowsTheCountryThatIsChosenWithoutAChoiceOfAPlace) {
   EXPECT_EQ(picker_.Chosen(), "Nadi, Western, Fiji");
 }
 
-TEST_F(PickerWindow, StaysForItsOwnDropDownAlone) {
-  countries_->showPopup();
-  Turn();
+TEST_F(PickerWindow, KeepsItsChoiceVisible) {
+  QKeyEvent toggle(QEvent::KeyPress, Qt::Key_Space, Qt::ControlModifier);
+  QApplication::sendEvent(list_, &toggle);
+  EXPECT_TRUE(list_->selectionModel()->isSelected(list_->currentIndex()));
+}
+
+TEST_F(PickerWindow, IsNotAnsweredByAKeyHeldDown) {
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+  QApplication::sendEvent(text_, &held);
   EXPECT_TRUE(picker_.host.calls.empty());
-  countries_->hidePopup();
+}
+
+TEST_F(PickerWindow, HidesBehindAnotherWindow) {
   host_.Show(picker_.caller);
   for (int turns = 0; turns < 1000 && picker_.host.calls.empty(); ++turns) Turn();
   EXPECT_EQ(picker_.host.calls, std::vector<std::string>{"Hide frmCity"});
