@@ -1,64 +1,11 @@
 #include "engine/clsPP.h"
 
-#include <cmath>
-
-#include "foundation/checked.h"
-#include "foundation/text.h"
+#include "engine/ayanamsa.h"
+#include "engine/moon.h"
+#include "engine/nodes.h"
+#include "engine/planets.h"
 
 namespace engine {
-namespace {
-
-using foundation::Finite;
-using foundation::LastCharacter;
-using foundation::LeadingNumber;
-using foundation::NumberText;
-
-// "28.40N" as "28N4": the number at the start, written shortest, its point replaced by the letter.
-// A text that ends in neither letter stays as it is.
-std::string LetterForPoint(std::string_view text, std::string_view positive,
-                           std::string_view negative) {
-  const std::string_view letter = LastCharacter(text);
-  if (letter != positive && letter != negative) return std::string(text);
-  std::string number = NumberText(LeadingNumber(text));
-  if (const std::size_t point = number.find('.'); point != std::string::npos) {
-    number.replace(point, 1, letter);
-  }
-  return number;
-}
-
-double Decimal(const LatLongParts& parts, std::string_view negative) {
-  const double degrees = Finite(parts.minutes / 60 + parts.degrees);
-  return parts.hemisphere == negative ? -degrees : degrees;
-}
-
-}  // namespace
-
-LatLongParts clsPP::SepLatLong(std::string_view text) {
-  LatLongParts parts;
-  std::string digits;
-  for (const std::string_view character : foundation::Characters(text)) {
-    if (character >= "0" && character <= "9") {
-      digits += character;
-    } else {
-      parts.hemisphere = character;
-      parts.degrees = LeadingNumber(digits);
-      digits.clear();
-    }
-  }
-  if (digits.size() < 2) digits += '0';
-  parts.minutes = LeadingNumber(digits);
-  return parts;
-}
-
-void clsPP::DecodeZone(std::string_view zone) {
-  const double number = LeadingNumber(zone);
-  const double degrees = std::floor(number);
-  const double minutes = foundation::RoundToInt16(100 * (number - degrees));
-  const double sign = LastCharacter(zone) == "W" ? -1 : 1;
-  ppZoneDegrees = sign * (minutes / 60 + degrees);
-  ppZoneHours = ppZoneDegrees / 15;
-  ppStdLongitude = ppZoneDegrees;
-}
 
 void clsPP::GenHoro(double day, double month, double year, double hour, double minute,
                     double second, std::string_view Longitude, std::string_view Lattitude,
@@ -69,13 +16,12 @@ void clsPP::GenHoro(double day, double month, double year, double hour, double m
   ppZoneText = zone;
   WarTimeCorrection = warTimeCorrection;
 
-  std::string latitude = LetterForPoint(Lattitude, "N", "S");
-  // A latitude whose letter went with its point gets it back; a longitude does not.
-  if (latitude.find_first_of("NS") == std::string::npos) latitude += LastCharacter(Lattitude);
-  const LatLongParts latitudeParts = SepLatLong(latitude);
-  const LatLongParts longitudeParts = SepLatLong(LetterForPoint(Longitude, "E", "W"));
+  const LatLongParts latitude = LatitudeParts(Lattitude);
+  const LatLongParts longitude = LongitudeParts(Longitude);
 
-  DecodeZone(zone);
+  ppZoneDegrees = ZoneDegrees(zone);
+  ppZoneHours = ppZoneDegrees / 15;
+  ppStdLongitude = ppZoneDegrees;
 
   ppDay = foundation::RoundToInt16(day);
   ppMonth = foundation::RoundToInt16(month);
@@ -87,8 +33,107 @@ void clsPP::GenHoro(double day, double month, double year, double hour, double m
   nodeModeA_ = blnRahuKetu;
   nodeModeB_ = blnRahuKetu;
 
-  ppLongitude = Decimal(longitudeParts, "W");
-  ppLatitude = Decimal(latitudeParts, "S");
+  ppLongitude = DecimalDegrees(longitude, "W");
+  ppLatitude = DecimalDegrees(latitude, "S");
+
+  Reckon();
+  Publish();
+}
+
+// What stands in the sky. The positions are whole once they are wrapped; all that follows reads
+// them as they are then.
+void clsPP::Reckon() {
+  const double hours = ppHour + ppMin / 60.0 + ppSec / 3600;
+  const TimeBase time =
+      TimeBaseOf(DayNumber(ppDay, ppMonth, ppYear), hours, ppZoneHours, WarTimeCorrection);
+  const Perturbations perturbations = CalcPerturbations(time.TimeT);
+  civilDate_ = CivilDate(ppDay, ppMonth, ppYear);
+  positions_[Ayanamsa] = CalcAyanamsa(civilDate_);
+
+  PlaceBodies(time.TimeT, 0, perturbations);
+  const double anHourLater = time.TimeT + kHourInCenturies;
+  PlaceBodies(anHourLater, kHourLater, perturbations);
+  ApplyAyanMode(ayanMode_, nodeModeA_, civilDate_, positions_);
+  WrapPositions();
+
+  const double T = anHourLater - kHourInCenturies;  // as it comes back, rounding and all
+  ppSidTime = LocalSiderealTime({time.DayPart, T}, ppLongitude);
+  houses_ = CalcHouses(ppSidTime, ppLatitude, T, positions_[Ayanamsa]);
+  divTable_ = FillDivTable(houses_.Cusps[1], positions_);
+  vargaTable_ = FillVargaTable(houses_.Cusps[1], positions_);
+  maitri_ = Maitri(divTable_);
+}
+
+// One moment's longitudes, `later` places on. The Sun comes first: every planet is seen from where
+// it puts the Earth.
+void clsPP::PlaceBodies(double TimeT, int later, const Perturbations& perturbations) {
+  const PlanetTime at = {TimeT, positions_[Ayanamsa], perturbations};
+  SunPlace sun;
+  const auto place = [&](Body body) { positions_[body + later] = PlanetLongitude(body, at, sun); };
+  for (const Body body : {Sun, Mercury, Venus, Mars, Jupiter, Saturn}) place(body);
+  PlaceMoon(TimeT, later);
+  for (const Body body : {Uranus, Neptune, Pluto}) place(body);
+}
+
+void clsPP::PlaceMoon(double TimeT, int later) {
+  const MoonPlace moon = CalcMoon(TimeT);
+  positions_[Moon + later] = moon.longitude;
+  // The corrected node leans on the Sun of the chart's moment, an hour later as well.
+  const double rahu = nodeModeB_ == foundation::kFalse16
+                          ? moon.meanNode
+                          : CalcNode(moon.meanNode, positions_[Sun], civilDate_);
+  const double ketu = rahu + 180;
+  positions_[Rahu + later] = rahu;
+  positions_[Ketu + later] = ketu >= 360 ? ketu - 360 : ketu;
+}
+
+// Into the circle; 360 itself stays.
+void clsPP::WrapPositions() {
+  for (int i = Ayanamsa; i <= Pluto + kHourLater; ++i) {
+    double& longitude = positions_[i];
+    if (longitude > 360) longitude -= 360;
+    if (longitude < 0) longitude += 360;
+  }
+}
+
+void clsPP::Publish() {
+  pp_AYAN = pp_1 = positions_[Ayanamsa];
+  pp_ASC = pp_ASC13 = houses_.Cusps[1];
+  pp_Sun = pp_2 = positions_[Sun];
+  pp_Mercury = pp_3 = positions_[Mercury];
+  pp_Venus = pp_4 = positions_[Venus];
+  pp_Mars = pp_5 = positions_[Mars];
+  pp_Jupiter = pp_6 = positions_[Jupiter];
+  pp_Saturn = pp_7 = positions_[Saturn];
+  pp_Moon = pp_8 = positions_[Moon];
+  pp_Rahu = pp_9 = positions_[Rahu];
+  pp_Ketu = pp_10 = positions_[Ketu];
+  pp_Uranus = pp_11 = positions_[Uranus];
+  pp_Neptune = pp_12 = positions_[Neptune];
+  pp_Pluto = pp_13 = positions_[Pluto];
+  pp_14 = positions_[Ayanamsa + kHourLater];
+  pp_Sun13 = pp_15 = positions_[Sun + kHourLater];
+  pp_Mercury13 = pp_16 = positions_[Mercury + kHourLater];
+  pp_Venus13 = pp_17 = positions_[Venus + kHourLater];
+  pp_Mars13 = pp_18 = positions_[Mars + kHourLater];
+  pp_Jupiter13 = pp_19 = positions_[Jupiter + kHourLater];
+  pp_Saturn13 = pp_20 = positions_[Saturn + kHourLater];
+  pp_Moon13 = pp_21 = positions_[Moon + kHourLater];
+  pp_Rahu13 = pp_22 = positions_[Rahu + kHourLater];
+  pp_Ketu13 = pp_23 = positions_[Ketu + kHourLater];
+  pp_Uranus13 = pp_24 = positions_[Uranus + kHourLater];
+  pp_Neptune13 = pp_25 = positions_[Neptune + kHourLater];
+  pp_Pluto13 = pp_26 = positions_[Pluto + kHourLater];
+}
+
+std::string_view clsPP::getRET(std::int16_t PlanetNum) const {
+  const int body = BodyOrder[PlanetNum + 1];
+  return positions_[body + kHourLater] < positions_[body] ? "RET" : " ";
+}
+
+std::array<double, 13> clsPP::getPLNTinSeq() const {
+  return {pp_ASC,    pp_Sun,  pp_Moon, pp_Mars,   pp_Mercury, pp_Jupiter, pp_Venus,
+          pp_Saturn, pp_Rahu, pp_Ketu, pp_Uranus, pp_Neptune, pp_Pluto};
 }
 
 }  // namespace engine

@@ -1,27 +1,30 @@
 // clsPP: from a moment and a place, given as texts, to what the sky shows there.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
+#include "engine/divisions.h"
+#include "engine/houses.h"
+#include "engine/perturbations.h"
+#include "engine/place_decoding.h"
+#include "engine/positions.h"
+#include "engine/relations.h"
+#include "engine/time_base.h"
 #include "foundation/numbers.h"
 
 namespace engine {
 
-// A place text split at its letter: "28N40".
-struct LatLongParts {
-  double degrees = 0;
-  double minutes = 0;
-  std::string hemisphere;  // the last character that is no digit; empty if there is none
-};
-
-// Made afresh by each caller; a call of GenHoro overwrites everything.
+// Made afresh by each caller; a call of GenHoro overwrites everything but pp_14, no body's, which
+// gathers what the ayanamsa modes add to all.
 class clsPP {
  public:
   double ppStdLongitude = 0;   // the zone's meridian, decimal degrees, east positive
   double ppLatitude = 0;       // decimal degrees, north positive
   double ppLongitude = 0;      // decimal degrees, east positive
+  double ppSidTime = 0;        // local sidereal time, hours, 0 to below 24
   std::string ppLatitudeText;  // the place as it was given
   std::string ppLongitudeText;
   std::string ppZoneText;
@@ -35,10 +38,74 @@ class clsPP {
   double ppZoneDegrees = 0;      // as ppStdLongitude
   double WarTimeCorrection = 0;  // hours
 
-  // Decodes the place ("28.40N", "77.13E", standard meridian "82.30E") and the civil moment at
-  // its clock. nAyan chooses the ayanamsa mode, blnRahuKetu the corrected node; WarTimeCorrection
-  // is in hours. A text that begins with no number counts as 0. Overflow where a field of the
-  // moment does not fit its 16 or 32 bits.
+  // Longitudes in degrees, 0 to 360 with both ends, of the sidereal zodiac (of the tropical one in
+  // ayanamsa mode 6).
+  double pp_AYAN = 0;  // the ayanamsa
+  double pp_ASC = 0;   // the ascendant
+  double pp_Sun = 0;
+  double pp_Moon = 0;
+  double pp_Mars = 0;
+  double pp_Mercury = 0;
+  double pp_Jupiter = 0;
+  double pp_Venus = 0;
+  double pp_Saturn = 0;
+  double pp_Rahu = 0;
+  double pp_Ketu = 0;
+  double pp_Uranus = 0;
+  double pp_Neptune = 0;
+  double pp_Pluto = 0;
+
+  // The same an hour later; the ascendant stays that of the moment.
+  double pp_ASC13 = 0;
+  double pp_Sun13 = 0;
+  double pp_Moon13 = 0;
+  double pp_Mars13 = 0;
+  double pp_Mercury13 = 0;
+  double pp_Jupiter13 = 0;
+  double pp_Venus13 = 0;
+  double pp_Saturn13 = 0;
+  double pp_Rahu13 = 0;
+  double pp_Ketu13 = 0;
+  double pp_Uranus13 = 0;
+  double pp_Neptune13 = 0;
+  double pp_Pluto13 = 0;
+
+  // The positions in their own order (see Body), an hour later from 15 on.
+  double pp_1 = 0;
+  double pp_2 = 0;
+  double pp_3 = 0;
+  double pp_4 = 0;
+  double pp_5 = 0;
+  double pp_6 = 0;
+  double pp_7 = 0;
+  double pp_8 = 0;
+  double pp_9 = 0;
+  double pp_10 = 0;
+  double pp_11 = 0;
+  double pp_12 = 0;
+  double pp_13 = 0;
+  double pp_14 = 0;
+  double pp_15 = 0;
+  double pp_16 = 0;
+  double pp_17 = 0;
+  double pp_18 = 0;
+  double pp_19 = 0;
+  double pp_20 = 0;
+  double pp_21 = 0;
+  double pp_22 = 0;
+  double pp_23 = 0;
+  double pp_24 = 0;
+  double pp_25 = 0;
+  double pp_26 = 0;
+
+  // Works out the chart of a civil moment at the clock of a place ("28.40N", "77.13E", standard
+  // meridian "82.30E"). nAyan is the ayanamsa mode (see ApplyAyanMode), blnRahuKetu chooses the
+  // corrected node over the mean one, WarTimeCorrection is hours added to the clock. A text that
+  // begins with no number counts as 0.
+  //
+  // Overflow where a field of the moment, or nAyan, does not fit its 16 or 32 bits; TypeMismatch
+  // for a date that does not exist, InvalidCall for a month that does not; Subscript in modes 8 and
+  // 9. After an error the object is as far as it got.
   //
   // A longitude of whole degrees ("77.00E") loses its point on the way and is read as so many
   // minutes, east; a latitude of whole degrees is not. That is how places are read here, and it
@@ -47,16 +114,40 @@ class clsPP {
                std::string_view Longitude, std::string_view Lattitude, std::string_view zone,
                std::int32_t nAyan, foundation::Boolean16 blnRahuKetu, double warTimeCorrection);
 
-  // Splits a text at characters that are no digits; the last of them wins. The digits behind it
-  // are the minutes, a single one being the tens: "28N4" is 28 degrees 40 minutes.
-  static LatLongParts SepLatLong(std::string_view text);
+  // Splits a place text at its letter; see place_decoding.h.
+  static LatLongParts SepLatLong(std::string_view text) { return engine::SepLatLong(text); }
+
+  // "RET" where a body stands lower an hour later, else a blank; a body that goes forward over 0 in
+  // that hour counts as going back. 0 is the slot of the ayanamsa, which has no later value, 1 the
+  // Sun, and so on as in BodyOrder; Subscript from 13 on.
+  std::string_view getRET(std::int16_t PlanetNum) const;
+
+  Positions getPLNT() const { return positions_; }
+  std::array<double, 13> getPLNTinSeq() const;  // the ascendant, then the Sun to Pluto as above
+  VargaTable getVarga() const { return vargaTable_; }
+  DivTable getaDiv() const { return divTable_; }
+  RelationTable getaMaitri() const { return maitri_; }
+  DivNames getcDiv() const { return DivName; }
+  HouseTable getBhavF2() const { return houses_.Cusps; }    // cusps
+  HouseTable getBhavF3() const { return houses_.Sandhis; }  // junctions between houses
+  double getSidTime() const { return ppSidTime; }
 
  private:
-  void DecodeZone(std::string_view zone);
+  void Reckon();
+  void PlaceBodies(double TimeT, int later, const Perturbations& perturbations);
+  void PlaceMoon(double TimeT, int later);
+  void WrapPositions();
+  void Publish();
 
   std::int16_t ayanMode_ = 0;
-  foundation::Boolean16 nodeModeA_ = foundation::kFalse16;
-  foundation::Boolean16 nodeModeB_ = foundation::kFalse16;
+  foundation::Boolean16 nodeModeA_ = foundation::kFalse16;  // for the fixed corrections
+  foundation::Boolean16 nodeModeB_ = foundation::kFalse16;  // for the node itself
+  foundation::DateTime civilDate_ = 0;
+  Positions positions_;
+  Houses houses_;
+  DivTable divTable_;
+  VargaTable vargaTable_;
+  RelationTable maitri_;
 };
 
 }  // namespace engine

@@ -1,5 +1,7 @@
 #include "foundation/text.h"
 
+#include <algorithm>
+
 #include "foundation/error.h"
 
 namespace foundation {
@@ -70,8 +72,12 @@ std::vector<std::string_view> Characters(std::string_view text) {
 }
 
 std::string_view LastCharacter(std::string_view text) {
-  const auto characters = Characters(text);
-  return characters.empty() ? std::string_view() : characters.back();
+  // The longest character that ends the text and is one whole.
+  for (std::size_t length = std::min<std::size_t>(4, text.size()); length > 1; --length) {
+    const std::string_view end = text.substr(text.size() - length);
+    if (CharacterLength(end) == length) return end;
+  }
+  return text.substr(text.empty() ? 0 : text.size() - 1);
 }
 
 std::string_view FirstCharacters(std::string_view text, int count) {

@@ -11,6 +11,9 @@ TEST(Text, GoesByCharactersNotBytes) {
   EXPECT_EQ(Characters("8°4").size(), 3U);
   EXPECT_EQ(LastCharacter("28°"), "°");
   EXPECT_EQ(LastCharacter(""), "");
+  EXPECT_EQ(LastCharacter("77.13E"), "E");
+  EXPECT_EQ(LastCharacter("वि"), "ि");
+  EXPECT_EQ(LastCharacter("a\x80"), "\x80");
   EXPECT_EQ(FirstCharacters("शनिवार", 3), "शनि");
   EXPECT_EQ(FirstCharacters("ab", 3), "ab");
   EXPECT_ERROR(InvalidCall, FirstCharacters("ab", -1));

@@ -85,10 +85,10 @@ TEST(Timetable, NamesWeekdaysInTheUsersLanguage) {
 TEST(Timetable, EndsItsListWithoutAWordWhereARowFails) {
   Timetable timetable;
   timetable.form.Form_Load();
-  timetable.form.DT1.moment = DateFromParts(9999, 12, 31);
-  timetable.form.DT2.moment = DateFromParts(9999, 12, 31) + 5;
+  timetable.form.DT1.moment = DateFromParts(9998, 12, 30);
+  timetable.form.DT2.moment = DateFromParts(9999, 12, 31);
   timetable.form.cmdShow_Click();
-  EXPECT_EQ(timetable.Drawn().size(), 7U);  // its last day is the calendar's
+  EXPECT_EQ(timetable.Drawn().size(), 12U);  // the node has no year after 9999
   EXPECT_TRUE(timetable.boxes.shown.empty());
 }
 

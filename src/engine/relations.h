@@ -1,0 +1,21 @@
+// How the bodies of a chart stand to each other: friend, neutral, enemy.
+#pragma once
+
+#include "engine/divisions.h"
+#include "foundation/bounded_array.h"
+
+namespace engine {
+
+// Cells of one character by layer 1 to 3, body and other body, both 1 to 9 in the order Sun, Moon,
+// Mars, Mercury, Jupiter, Venus, Saturn, Rahu, Ketu; a body's cell with itself holds none ('\0').
+//   layer 1, natural: '2' friend, '1' neutral, '0' enemy
+//   layer 2, temporal: '2' friend, '0' enemy, by the signs between them
+//   layer 3, compound: '3' great friend, '2' friend, '1' neutral, '0' enemy, '4' great enemy
+using RelationRow = foundation::BoundedArray<char, 1, 9>;
+using RelationLayer = foundation::BoundedArray<RelationRow, 1, 9>;
+using RelationTable = foundation::BoundedArray<RelationLayer, 1, 3>;
+
+// From the rashi column of the wide divisions.
+RelationTable Maitri(const DivTable& divisions);
+
+}  // namespace engine

@@ -1,0 +1,176 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <iterator>
+
+#include "engine/angles.h"
+#include "engine/ayanamsa.h"
+#include "engine/clsPP.h"
+#include "engine/moon.h"
+#include "engine/moon_terms.h"
+#include "engine/nodes.h"
+#include "engine/orbit.h"
+#include "engine/perturbation_terms.h"
+#include "engine/planets.h"
+#include "engine/time_base.h"
+#include "support/errors.h"
+
+namespace engine {
+namespace {
+
+using foundation::DateFromParts;
+using foundation::kFalse16;
+using foundation::kTrue16;
+
+clsPP ChartOf(double day, double month, double year, double hour, std::int32_t mode,
+              foundation::Boolean16 correctedNode = kFalse16) {
+  clsPP pp;
+  pp.GenHoro(day, month, year, hour, 0, 0, "77.13E", "28.40N", "0.0E", mode, correctedNode, 0);
+  return pp;
+}
+
+TEST(TimeBase, CountsDays) {
+  // Julian Days at midnight (Meeus, Astronomical Algorithms), less 1720994.5.
+  EXPECT_EQ(DayNumber(31, 12, 1899), 694025);
+  EXPECT_EQ(DayNumber(1, 1, 1900), 694026);
+  EXPECT_EQ(DayNumber(1, 1, 2000), 730550);
+  EXPECT_EQ(DayNumber(29, 2, 2000), 730609);
+  EXPECT_EQ(DayNumber(1, 3, 2000), 730610);
+  EXPECT_EQ(DayNumber(15, 10, 1582), 578166);
+  EXPECT_EQ(DayNumber(14, 10, 1582), 578165);
+  const TimeBase noon = TimeBaseOf(DayNumber(31, 12, 1899), 17.5, 5.5, 0);
+  EXPECT_EQ(noon.DayPart, 0);
+  EXPECT_EQ(noon.TimeT, 0);
+  EXPECT_EQ(TimeBaseOf(694025, 17.5, 5.5, -1).DayPart, -1 / 24.0);
+  EXPECT_EQ(FracPart(-0.25), 0.75);
+}
+
+TEST(Series, AreWhole) {
+  namespace p = perturbation;
+  EXPECT_EQ(std::size(kMoonTerms), 37u);
+  EXPECT_EQ(std::size(p::JupDL), 7u);
+  EXPECT_EQ(std::size(p::JupDP), 12u);
+  EXPECT_EQ(std::size(p::JupDE), 20u);
+  EXPECT_EQ(std::size(p::JupDA), 10u);
+  EXPECT_EQ(std::size(p::SatDL), 16u);
+  EXPECT_EQ(std::size(p::SatDP), 19u);
+  EXPECT_EQ(std::size(p::SatDE), 33u);
+  EXPECT_EQ(std::size(p::SatDA), 32u);
+  for (const MoonTerm& term : kMoonTerms) {
+    EXPECT_LE(std::abs(term.anomaly), 3);
+    EXPECT_LE(std::abs(term.sunAnomaly), 2);
+    EXPECT_LE(std::abs(term.elongation), 4);
+    EXPECT_LE(std::abs(term.latitude), 2);
+    EXPECT_LE(std::abs(term.node), 1);
+  }
+}
+
+TEST(Orbit, OfACircleGivesItsMeanLongitude) {
+  for (const double L : {0.0, 45.0, 133.0, 200.0, 300.0, 359.0}) {
+    SunPlace sun;
+    EXPECT_NEAR(OrbitLongitude({L, 20, 0, 0, 0, 1}, Sun, sun), L, 1e-9);
+  }
+  SunPlace sun;
+  EXPECT_ERROR(InvalidCall, OrbitLongitude({10, 20, 0, 1.5, 0, 1}, Sun, sun));
+}
+
+TEST(MeanPlaces, AtTheEpoch) {
+  EXPECT_DOUBLE_EQ(MeanElementsOf(Sun).At(0).L, 257.238);
+  EXPECT_DOUBLE_EQ(MeanElementsOf(Jupiter).At(0).L, 215.5896);
+  EXPECT_DOUBLE_EQ(MeanElementsOf(Pluto).At(0).L, 69.9624);
+  EXPECT_DOUBLE_EQ(CalcMoon(0).meanNode, 236.7216);
+  // No mode of that number: the positions as the theories leave them.
+  EXPECT_DOUBLE_EQ(ChartOf(31, 12, 1899, 12, 10).pp_Rahu, 236.7216);
+  EXPECT_DOUBLE_EQ(ChartOf(31, 12, 1899, 12, 10).pp_Ketu, 56.7216);
+}
+
+TEST(CorrectedNode, FollowsItsTables) {
+  const struct {
+    double node, sun;
+    int month, day;
+    double minutes;  // by hand
+  } kCases[] = {
+      {100, 100, 1, 3, 0},          // both tables at 0
+      {100, 145, 1, 3, 98},         // the middle of the quadrant
+      {100, 146.5, 1, 3, 98},       //
+      {100, 101.5, 1, 3, 5},        // between rows 0 and 1
+      {100, 188.5, 1, 3, 5},        // and back from the end
+      {100, 191.5, 1, 3, -5},       // the next quadrant
+      {100, 20, 1, 3, -100 / 3.0},  // 80 degrees behind
+      {100, 100, 1, 1, 1 / 3.0},    // from the row of the year before
+      {100, 100, 12, 31, 0.5},      // to the row of the year after
+      {100, 100, 3, 11, -8.5},      // midway
+  };
+  for (const auto& [node, sun, month, day, minutes] : kCases) {
+    EXPECT_NEAR(CalcNode(node, sun, DateFromParts(2011, month, day)), node + minutes / 60, 1e-9)
+        << sun << ' ' << month;
+  }
+  // A sum below 0 is folded, not wrapped.
+  EXPECT_NEAR(CalcNode(0.05, 0.05, DateFromParts(2011, 3, 29)), 0.1, 1e-9);
+  EXPECT_ERROR(Subscript, CalcNode(10, 100, DateFromParts(2011, 3, 5)));
+  EXPECT_ERROR(TypeMismatch, CalcNode(100, 100, DateFromParts(100, 3, 5)));
+  EXPECT_ERROR(TypeMismatch, CalcNode(100, 100, DateFromParts(9999, 3, 5)));
+}
+
+TEST(AyanamsaModes, CorrectTheBodies) {
+  const struct {
+    Body body;
+    double first, later;  // seconds of arc
+  } kMeanNode[] = {
+      {Sun, -29, -29},       {Moon, 17, 17},       {Mars, -49, -49},    {Mercury, -40, -40},
+      {Jupiter, -100, -100}, {Venus, -48, -48},    {Saturn, 48, 108},   {Rahu, 5, 65},
+      {Ketu, 5, 5},          {Uranus, -421, -421}, {Neptune, 238, 238}, {Pluto, 415, 415},
+  };
+  const Positions plain = ChartOf(5, 3, 2011, 6, 10).getPLNT();
+  const Positions lahiri = ChartOf(5, 3, 2011, 6, 0).getPLNT();
+  const Positions tropical = ChartOf(5, 3, 2011, 6, 6).getPLNT();
+  for (const auto& [body, first, later] : kMeanNode) {
+    EXPECT_NEAR(3600 * (lahiri[body] - plain[body]), first, 1e-6) << body;
+    EXPECT_NEAR(3600 * (lahiri[body + 13] - plain[body + 13]), later, 1e-6) << body;
+    EXPECT_NEAR(std::remainder(tropical[body] - plain[body] - plain[Ayanamsa], 360), 0, 1e-9);
+  }
+  EXPECT_EQ(tropical[Ayanamsa], 0);
+  const Positions plainNode = ChartOf(5, 3, 2011, 6, 10, kTrue16).getPLNT();
+  const Positions correctedNode = ChartOf(5, 3, 2011, 6, 0, kTrue16).getPLNT();
+  for (const int body : {9, 10, 22, 23}) {
+    EXPECT_NEAR(3600 * (correctedNode[body] - plainNode[body]), 1045, 1e-6) << body;
+  }
+}
+
+TEST(AyanamsaModes, ReadTheirRows) {
+  EXPECT_NEAR(CalcAyanamsa(DateFromParts(2006, 9, 1)), 23.9502777777778 - 17 / 3600.0, 1e-12);
+  EXPECT_EQ(AyanamsaAt(0, DateFromParts(2006, 9, 1)), 23.9502777778);
+  EXPECT_ERROR(Subscript, ChartOf(5, 3, 2011, 6, 8));
+  EXPECT_ERROR(Subscript, ChartOf(5, 3, 2011, 6, 9));
+  EXPECT_EQ(ChartOf(5, 3, 2011, 6, -1).pp_Sun, ChartOf(5, 3, 2011, 6, 10).pp_Sun);
+}
+
+TEST(Houses, OfTheEquator) {
+  const RisingFrame frame = {23.45, 24};
+  EXPECT_EQ(AscendantAt(0, 0, frame), 90);  // with no ayanamsa off
+  EXPECT_NEAR(AscendantAt(6, 0, frame), 156, 1e-9);
+  EXPECT_NEAR(AscendantAt(12, 0, frame), 246, 1e-9);
+  EXPECT_NEAR(AscendantAt(18, 0, {23.45, 0}), 0, 1e-9);
+}
+
+TEST(Motion, IsThatOfOneHourWithoutTheWrap) {
+  // The Sun stands at 359.71 at 0:30 and comes to 0 some seven hours later.
+  EXPECT_EQ(ChartOf(14, 4, 2011, 5, 0).getRET(1), " ");
+  EXPECT_EQ(ChartOf(14, 4, 2011, 7, 0).getRET(1), "RET");
+  EXPECT_EQ(ChartOf(14, 4, 2011, 9, 0).getRET(1), " ");
+  EXPECT_ERROR(Subscript, ChartOf(14, 4, 2011, 9, 0).getRET(13));
+}
+
+TEST(Charts, NeedDates) {
+  EXPECT_ERROR(TypeMismatch, ChartOf(31, 4, 2011, 6, 0));
+  EXPECT_ERROR(TypeMismatch, ChartOf(29, 2, 2011, 6, 0));
+  EXPECT_ERROR(TypeMismatch, ChartOf(1, 1, 10000, 6, 0));
+  EXPECT_ERROR(InvalidCall, ChartOf(1, 13, 2011, 6, 0));
+  EXPECT_EQ(ChartOf(31, 12, 9999, 6, 0).ppYear, 9999);
+  EXPECT_EQ(CivilDate(5, 3, 99), DateFromParts(1999, 3, 5));
+  EXPECT_EQ(CivilDate(29, 2, 2012), DateFromParts(2012, 2, 29));
+}
+
+}  // namespace
+}  // namespace engine
