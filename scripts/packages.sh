@@ -5,6 +5,7 @@ run_packages=(cmake g++ ninja-build qt6-base-dev qt6-wayland fonts-noto-core
 display_packages=(xvfb xauth)
 test_packages=(libgtest-dev locales)
 bench_packages=(libbenchmark-dev libswe-dev)
+fuzz_packages=(clang-14 libclang-rt-14-dev)
 
 # install_missing PACKAGE...: one apt-get call for those that are not installed, none if all are.
 install_missing() {
@@ -28,12 +29,14 @@ install_missing() {
     apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }
 
-# build PRESET: configures and builds, silent unless something fails.
+# build PRESET [OPTION...]: configures and builds, silent unless something fails.
 build() {
-  echo "Building ($1)"
+  local preset=$1
+  shift
+  echo "Building ($preset)"
   mkdir -p build
-  local log=build/$1.log
-  { cmake --preset "$1" && cmake --build --preset "$1"; } >"$log" 2>&1 || {
+  local log=build/$preset.log
+  { cmake --preset "$preset" && cmake --build --preset "$preset" "$@"; } >"$log" 2>&1 || {
     tail -n 60 "$log"
     echo "The build failed; its whole log is $log." >&2
     return 1

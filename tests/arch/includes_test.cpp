@@ -19,6 +19,7 @@ const std::map<std::string, Rooms> kArrows = {
     {"foundation", {}},
     {"forms", {"foundation"}},
     {"engine", {"foundation"}},
+    {"pdf", {"foundation"}},
     {"atlas", {"foundation", "forms"}},
     {"dayperiods", {"foundation", "engine"}},
     {"screens", {"foundation", "forms", "engine", "atlas", "dayperiods"}},

@@ -1,0 +1,35 @@
+// The links of all pages.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <vector>
+
+#include "foundation/byte_text.h"
+
+namespace pdf {
+
+// Points, the origin at the bottom left of the page; y is the upper edge.
+struct LinkRecord {
+  double x = 0, y = 0, width = 0, height = 0;
+  std::optional<foundation::ByteText> address;  // nothing where the target is no text
+};
+
+class LinkTable {
+ public:
+  static constexpr int kPages = 1000;
+  static constexpr int kLinksOfPage = 1000;
+
+  void Clear();
+  // The links that follow count from 1 again.
+  void BeginPage() { count_ = 0; }
+  // Subscript for a page that is not 1 to 1000, or beyond the thousandth link of a page.
+  void Add(int page, LinkRecord link);
+  const std::vector<LinkRecord>& Of(int page) const;
+
+ private:
+  std::map<int, std::vector<LinkRecord>> pages_;
+  int count_ = 0;
+};
+
+}  // namespace pdf

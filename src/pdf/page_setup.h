@@ -1,0 +1,43 @@
+// User units, margins and page formats.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace pdf {
+
+inline constexpr double kPointsPerInch = 72;
+inline constexpr double kMillimetres = kPointsPerInch / 25.4;  // points in each unit
+inline constexpr double kCentimetres = kPointsPerInch / 2.54;
+inline constexpr double kTwips = kPointsPerInch / 1440;
+
+// Points, never scaled.
+struct PageFormat {
+  double width = 0;
+  double height = 0;
+};
+
+// By their codes: A4, A3, A5, Letter, Legal.
+inline constexpr PageFormat kPageFormats[] = {
+    {595.28, 841.89}, {841.89, 1190.55}, {420.94, 595.28}, {612, 792}, {612, 1008}};
+
+// A user point has its origin at the top left of the page; points of the file have it at the
+// bottom left.
+struct PageSetup {
+  double scale = kCentimetres;  // points per user unit
+
+  // Whole user units; the cell margin stands in the units of the values that cells add it to.
+  std::int16_t leftMargin = 1, topMargin = 1, rightMargin = 1, bottomMargin = 1;
+  std::int16_t cellMargin = 3;
+
+  // A page each, the one being drawn or set up last.
+  std::vector<PageFormat> formats = {kPageFormats[0]};
+
+  PageFormat& Format() { return formats.back(); }
+  const PageFormat& Format() const { return formats.back(); }
+
+  double Across(double x) const { return x * scale; }
+  double Up(double y) const { return Format().height - y * scale; }
+};
+
+}  // namespace pdf

@@ -1,0 +1,207 @@
+// Lines, rectangles, ellipses and polygons. The order of the operators is what counts, also where
+// a width comes behind the painting that it no longer affects.
+
+#include <algorithm>
+#include <cmath>
+
+#include "foundation/error.h"
+#include "foundation/numbers.h"
+#include "pdf/PDFPrinter.h"
+#include "pdf/tokens.h"
+
+namespace pdf {
+namespace {
+
+using foundation::FloorToInt32;
+
+constexpr double kWhite = 16777215;
+
+// How far the control points of a quarter of an ellipse lie from its middle, along an axis.
+double Control(double axis) {
+  return axis / 2 * 11 / 20;
+}
+
+std::string_view Paint(DrawMode mode, std::string_view filled) {
+  switch (mode) {
+    case DrawMode::Fill:
+      return filled;
+    case DrawMode::Both:
+      return "B";
+    default:
+      return "s";
+  }
+}
+
+}  // namespace
+
+std::string PDFPrinter::ColourOperator(const Argument& colour, std::string_view colourOperator) {
+  if (const auto* parts = colour.List()) {
+    if (parts->size() < 3) throw foundation::Error(foundation::ErrorKind::Subscript);
+    return PDFColorString({(*parts)[0], (*parts)[1], (*parts)[2]}, colourOperator);
+  }
+  if (const auto* number = colour.Number()) {
+    return PDFColorString(PDFColorFromLong(foundation::RoundToInt32(*number)), colourOperator);
+  }
+  const auto html = PDFColorFromHtml(*colour.Text());
+  if (!html) {
+    Complain("Couleur HTMl", "Code couleur HTMl invalide " + colour.Shown() +
+                                 ".\r\nLa couleur utilisée sera le noir.");
+  }
+  return PDFColorString(html.value_or(Rgb{}), colourOperator);
+}
+
+void PDFPrinter::PDFSetTextColor(const Argument& colour) {
+  pen_.textColour = ColourOperator(colour, "rg");
+}
+
+void PDFPrinter::PDFSetLineColor(const Argument& colour) {
+  pen_.lineColour = ColourOperator(colour, "RG");
+}
+
+void PDFPrinter::PDFSetDrawColor(const Argument& colour) {
+  pen_.fillColour = ColourOperator(colour, "rg");
+}
+
+void PDFPrinter::PDFSetLineStyle(std::int32_t style) {
+  pen_.lineStyle = PDFDashString(style);
+}
+
+std::string PDFPrinter::PDFDashString(std::int32_t style) {
+  const auto length = [this](double units) {
+    return std::to_string(FloorToInt32(units * page_.scale)) + " ";
+  };
+  switch (style) {
+    case 0:
+      return "[] 0 d";
+    case 1:
+      return "[" + length(16) + length(8) + "] 0 d";
+    case 2:
+      return "[" + length(8) + length(7) + length(2) + length(7) + "] 0 d";
+    case 3:
+      return "[" + length(8) + length(4) + length(2) + length(4) + length(2) + length(4) + "] 0 d";
+    default:
+      Complain("Style de Ligne", "Code style de ligne incorrect : " + std::to_string(style) +
+                                     ".\r\nLe style de ligne utilisé sera pSolid.");
+      return "[] 0 d";
+  }
+}
+
+// The message for a wrong code names another mode than the one that is then used.
+void PDFPrinter::PDFSetDrawMode(std::int32_t mode) {
+  constexpr DrawMode kModes[] = {DrawMode::Outline, DrawMode::Fill, DrawMode::Both};
+  if (mode >= 0 && mode < std::int32_t{std::size(kModes)}) {
+    pen_.drawMode = kModes[mode];
+    return;
+  }
+  Complain("Objet Rectangle", "Code type de traçage incorrect : " + std::to_string(mode) +
+                                  ".\r\nLe type de traçage utilisé sera bordure et remplissage.");
+  pen_.drawMode = DrawMode::Outline;
+}
+
+void PDFPrinter::FillWithLineColour() {
+  pen_.fillColour = FillOperatorOf(pen_.lineColour);
+}
+
+void PDFPrinter::ModeColours() {
+  if (pen_.drawMode != DrawMode::Outline) Line({pen_.fillColour});
+  if (pen_.drawMode != DrawMode::Fill) Line({pen_.lineColour});
+}
+
+std::string PDFPrinter::Width() const {
+  return PDFFormatNumber(pen_.lineWidth * page_.scale, 2) + " w";
+}
+
+void PDFPrinter::StrokeLine(double x1, double y1, double x2, double y2) {
+  Line({pen_.lineStyle});
+  Line({Point(x1, y1), " m"});
+  Line({Point(x2, y2), " l"});
+  Line({pen_.lineColour});
+  Line({Width(), " S"});
+}
+
+void PDFPrinter::PDFDrawLineHor(double x, double y, double length) {
+  FillWithLineColour();
+  Line({"%DEBUT_LNH/%"});
+  StrokeLine(x, y, x + length, y);
+  Line({"%FIN_LNH/%"});
+  x_ = x + length;
+  y_ = y;
+}
+
+void PDFPrinter::PDFDrawLineVer(double x, double y, double length) {
+  FillWithLineColour();
+  Line({"%DEBUT_LNV/%"});
+  StrokeLine(x, y, x, y + length);
+  Line({"%FIN_LNV/%"});
+  x_ = x;
+  y_ = y + length;
+}
+
+void PDFPrinter::PDFDrawLine(double x1, double y1, double x2, double y2) {
+  Line({"%DEBUT_LN/%"});
+  StrokeLine(x1, y1, x2, y2);
+  Line({"%FIN_LN/%"});
+  x_ = std::max(x1, x2);
+  y_ = std::max(y1, y2);
+}
+
+void PDFPrinter::PDFDrawRectangle(double x, double y, double w, double h, const Argument& link) {
+  Line({"%DEBUT_RECT/%"});
+  ModeColours();
+  Line({pen_.lineStyle});
+  Line({Point(x, y), " ", JoinedNumbers({page_.Across(w), page_.Across(-h)}), " re ",
+        Paint(pen_.drawMode, "f")});
+  Line({Width(), " S"});
+  PDFSetTextColor(kWhite);
+  linked_.text = ByteText("LINK");
+  linked_.kind = LinkKind::Rectangle;
+  linked_.width = foundation::RoundToInt32(w);
+  PDFAttachLink(link, LinkKind::Rectangle, std::floor(x + 5), std::floor(h / 2 + y));
+  Line({"%FIN_RECT/%"});
+  x_ = x;
+  y_ = y + h;
+}
+
+void PDFPrinter::PDFDrawEllipse(double x, double y, double w, double h, const Argument& link) {
+  if (h == 0) h = w;
+  const double cx = x + w / 2, cy = y + h / 2;
+  const double dx = Control(w), dy = Control(h);
+  ModeColours();
+  Line({pen_.lineStyle});
+  Line({Point(x, h / 2 + y), " m"});
+  PDFCurveTo(x, cy - dy, cx - dx, y, cx, y);
+  PDFCurveTo(cx + dx, y, x + w, cy - dy, x + w, cy);
+  PDFCurveTo(x + w, cy + dy, cx + dx, y + h, cx, y + h);
+  PDFCurveTo(cx - dx, y + h, x, cy + dy, x, cy);
+  Line({Width(), " ", Paint(pen_.drawMode, "h f")});
+  PDFSetTextColor(kWhite);
+  linked_.text = ByteText("LINK");
+  linked_.kind = LinkKind::Ellipse;
+  PDFAttachLink(link, LinkKind::Ellipse, std::floor(x - w / 2), std::floor(cy - dy));
+  linked_.kind = LinkKind::None;
+  x_ = x;
+  y_ = cy;
+}
+
+void PDFPrinter::PDFCurveTo(double x1, double y1, double x2, double y2, double x3, double y3) {
+  Line({Point(x1, y1), " ", Point(x2, y2), " ", Point(x3, y3), " c"});
+}
+
+void PDFPrinter::PDFDrawPolygon(const std::vector<double>& points) {
+  const auto corner = [&](std::size_t number) {
+    if (2 * number > points.size()) throw foundation::Error(foundation::ErrorKind::Subscript);
+    return Point(points[2 * number - 2], points[2 * number - 1]);
+  };
+  const auto corners =
+      static_cast<std::size_t>(foundation::RoundToInt32(static_cast<double>(points.size()) / 2));
+  ModeColours();
+  Line({"%DEBUT_POLY/%"});
+  Line({pen_.lineStyle});
+  Line({corner(1), " m"});
+  for (std::size_t number = 2; number <= corners; ++number) Line({corner(number), " l"});
+  Line({corner(1), " l"});
+  Line({Width(), " ", Paint(pen_.drawMode, "h f")});
+  Line({"%FIN_POLY/%"});
+}
+
+}  // namespace pdf

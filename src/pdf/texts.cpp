@@ -1,0 +1,103 @@
+// Texts placed on the page.
+
+#include <algorithm>
+#include <cmath>
+
+#include "foundation/numbers.h"
+#include "pdf/PDFPrinter.h"
+#include "pdf/tokens.h"
+
+namespace pdf {
+
+using foundation::RoundToInt16;
+using foundation::RoundToInt32;
+
+void PDFPrinter::Line(std::initializer_list<std::string_view> parts) {
+  PDFAddLine(content_, parts);
+}
+
+// User coordinates as two numbers of the file.
+std::string PDFPrinter::Point(double x, double y) const {
+  return JoinedNumbers({page_.Across(x), page_.Up(y)});
+}
+
+int PDFPrinter::BeginText() {
+  if (font_.size == 0) font_.size = 10;
+  return fonts_.NumberOf(font_.name);
+}
+
+void PDFPrinter::PDFTextOut(std::string_view text, double x, double y) {
+  TextOut(Encoded(text), x, y);
+}
+
+void PDFPrinter::TextOut(const ByteText& text, double x, double y) {
+  if (x == 0) x = x_;
+  if (y == 0) y = y_;
+  const int font = BeginText();
+  Line({"q ", pen_.textColour, " "});
+  std::string underline;
+  if (font_.underline) underline = PDFUnderlineOp(false, text, page_.Across(x), page_.Across(y));
+  Line({"%DEBUT_TEXT/%\r\nBT"});
+  if (pen_.rotation != 0) {
+    Line({PDFRotationMatrix(pen_.rotation, x, y)});
+    pen_.rotation = 0;
+  } else {
+    Line({Point(page_.leftMargin + x, y), " Td"});
+  }
+  Line({"/F", std::to_string(font), " ", PDFFormatNumber(font_.size, 2), " Tf"});
+  content_ += '(';
+  AppendEscaped(content_, text);
+  Line({") Tj\r\nET"});
+  if (font_.underline) Line({underline});
+  Line({"Q\r\n%FIN_TEXT/%"});
+  font_.underline = false;
+  x_ = x + StringWidth(text, font_.size);
+  y_ = y + font_.size;
+}
+
+// A filled rectangle below a text at a point of the page, in points; y from the top of the page,
+// for a cell from the bottom.
+std::string PDFPrinter::PDFUnderlineOp(bool forCell, const ByteText& text, double x, double y) {
+  const std::int32_t up = RoundToInt32(StringWidth(ByteText("up"), font_.size));
+  const double blank = StringWidth(ByteText(" "), font_.size);
+  const std::string& bytes = text.Bytes();
+  const auto blanks = static_cast<std::int32_t>(std::count(bytes.begin(), bytes.end(), ' '));
+
+  double w = blanks * blank + StringWidth(text, font_.size) + blanks * cell_.wordSpacing;
+  if (cell_.wordSpacing != 0) w -= static_cast<double>(blanks + 1) * page_.cellMargin;
+  const double thickness = w * (-2.0 / 1000);
+  if (forCell) return JoinedNumbers({x, y - 3, w - font_.size, thickness}) + " re f";
+  const std::int16_t left = RoundToInt16(page_.leftMargin * page_.scale + x);
+  const double top = page_.Format().height - (y - up / 1000.0 * font_.size);
+  return JoinedNumbers({static_cast<double>(left), top, w, thickness}) + " re f";
+}
+
+std::string PDFPrinter::PDFRotationMatrix(double angle, double x, double y) const {
+  const double radians = angle * 3.1416 / 180;
+  const double cosine = std::cos(radians), sine = std::sin(radians);
+  return JoinedNumbers({cosine, -sine, sine, cosine}, 5) + " " + Point(x, y) + " Tm";
+}
+
+void PDFPrinter::PDFRotatedText(const ByteText& text, double x, double y) {
+  PDFSetRotation(45);
+  TextOut(text, x, y);
+  PDFSetRotation(0);
+}
+
+void PDFPrinter::PDFFiligran(std::string_view watermark) {
+  watermark_ = {true, Encoded(watermark)};
+}
+
+// The place comes from the sine and cosine of 45 radians and from points taken as user units: it
+// is right only as it stands.
+void PDFPrinter::PDFDrawWatermark() {
+  if (!watermark_.isOn) return;
+  PDFSetFont(2, 50, 0);
+  PDFSetTextColor({255, 192, 203});
+  const double width = StringWidth(watermark_.text, 50);
+  const PageFormat& format = page_.Format();
+  PDFRotatedText(watermark_.text, (format.width - std::cos(45.0) * width) / 2.75,
+                 (std::sin(45.0) * width + format.height) / 2.15);
+}
+
+}  // namespace pdf

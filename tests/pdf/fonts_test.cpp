@@ -1,0 +1,95 @@
+// The fonts of a folder and their widths.
+
+#include <gtest/gtest.h>
+
+#include "paper.h"
+#include "support/errors.h"
+
+namespace pdf {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(Fonts, AreNamedByFamilyAndStyle) {
+  struct Row {
+    int font, style;
+    std::string_view width;  // of "Durvela" in thousandths of the size, added up from the files
+  };
+  const Row rows[] = {{0, 0, "3445"}, {1, 0, "4200"}, {2, 0, "3221"}, {0, 12, "3668"},
+                      {2, 2, "3444"}, {2, 1, "3277"}, {2, 12, "3333"}};
+  Paper paper;
+  paper.printer.PDFLoadAfm(METRICS_FOLDER);
+  EXPECT_EQ(paper.printer.PDFGetStringWidth("A", "Helvetica", 10), 6.67);
+  EXPECT_EQ(paper.printer.PDFGetStringWidth("", "Helvetica", 10), 0);
+  // The files know another encoding, in which the byte is that of "Ø".
+  EXPECT_EQ(paper.printer.PDFGetStringWidth("é", "Helvetica", 10), 7.78);
+  for (const Row& row : rows) {
+    paper.printer.PDFSetFont(row.font, 10, row.style);
+    EXPECT_EQ(foundation::NumberText(paper.printer.PDFGetStringWidth("Durvela", "", 1000)),
+              row.width);
+  }
+  paper.printer.PDFSetFont(9, 10, 0);
+  EXPECT_ERROR(FileNotFound, paper.printer.PDFGetStringWidth("", "", 10));
+}
+
+TEST(FontFolders, GrowFromTheStart) {
+  const MetricsScope folder;
+  FontFolder fonts;
+  fonts.PDFLoadAfm(folder.path);
+  EXPECT_EQ(fonts.Names(), (std::vector<std::string>{"Courier", "Helvetica", "Times-Roman"}));
+  folder.Write("more/Zapf.AFM", "");
+  folder.Write("more/courier-x.afm", "");
+  folder.Write("more/notes.txt", "");
+  fonts.PDFLoadAfm(folder.path / "more");
+  EXPECT_EQ(fonts.Names(), (std::vector<std::string>{"courier-x", "Zapf", "Times-Roman"}));
+  EXPECT_EQ(fonts.NumberOf("Zapf"), 2);
+  EXPECT_EQ(fonts.NumberOf("Helvetica"), 0);
+  EXPECT_EQ(fonts.NumberOf(""), 1);
+  EXPECT_ERROR(FileNotFound, fonts.PDFLoadAfm(folder.path / "none"));
+  EXPECT_ERROR(Subscript, FontFolder().Widths(""));
+}
+
+TEST(FontFolders, SeeAChangedFileOnTheNextPage) {
+  Paper paper;
+  const auto width = [&] { return paper.printer.PDFGetStringWidth("A", "Courier", 10); };
+  EXPECT_EQ(width(), 5);
+  paper.folder.Write("Courier.afm", "StartCharMetrics 1\nC 65 ; WX 900 ;\nEndCharMetrics\n");
+  EXPECT_EQ(width(), 5);
+  paper.printer.PDFEndPage();
+  paper.printer.PDFNewPage();
+  EXPECT_EQ(width(), 9);
+  fs::remove(paper.folder.path / "Courier.afm");
+  paper.printer.PDFEndPage();
+  paper.printer.PDFNewPage();
+  EXPECT_ERROR(FileNotFound, width());
+}
+
+TEST(Metrics, ReadTheNumberedCharacters) {
+  const WidthTable widths = ReadWidths(
+      "C 65 ; WX 1 ;\nStartCharMetrics 4\r\n C 66 ; WX 700.9 ; N B ;\nC 68 ; WX -0.5 ;\n"
+      "C 67 ; WX 5 ;\nC -1 ; WX 9 ; N x ;\nC 69 ; WX 9 ;\n");
+  EXPECT_EQ(widths[65], 0);
+  EXPECT_EQ(widths[66], 700);
+  EXPECT_EQ(widths[67], 5);
+  EXPECT_EQ(widths[68], 0);  // above the last one
+  EXPECT_EQ(widths[69], 0);
+  EXPECT_EQ(ReadWidths("StartCharMetrics\nC 66 ; WX 700 ;\n")[66], 0);
+  EXPECT_EQ(ReadWidths("")[66], 0);
+}
+
+TEST(Metrics, FailWhereTheyAreNone) {
+  const auto read = [](std::string_view line) {
+    return ReadWidths("StartCharMetrics 1\n" + std::string(line));
+  };
+  EXPECT_ERROR(FileAccess, read(""));
+  for (const auto line : {"C 65", "C ; WX 5 ;", "C 65 ; WX", "C 0 ; WX 5", "C 256 ; WX 5", "\n"}) {
+    EXPECT_ERROR(Subscript, read(line));
+  }
+  for (const auto line : {"C x ; WX 5 ;", "C 65 ; WX  5", "C 65 ; WX 5x"}) {
+    EXPECT_ERROR(TypeMismatch, read(line));
+  }
+  EXPECT_ERROR(Overflow, read("C 65 ; WX 3e9 ;"));
+}
+
+}  // namespace
+}  // namespace pdf
