@@ -3,7 +3,9 @@
 #include <benchmark/benchmark.h>
 
 #include "dayperiods/clsUtilities.h"
+#include "forms/picture_page.h"
 #include "screens/dashboard.h"
+#include "screens/quick_view.h"
 
 namespace {
 
@@ -35,6 +37,26 @@ void OneTick(benchmark::State& state) {
   }
 }
 BENCHMARK(OneTick)->Unit(benchmark::kMicrosecond);
+
+struct PlainMeasure : forms::TextMeasure {
+  double TextWidth(std::string_view text, const forms::Font&) const override {
+    return 100.0 * static_cast<double>(text.size());
+  }
+  double LineHeight(const forms::Font&) const override { return 350; }
+  double Ascent(const forms::Font&) const override { return 280; }
+};
+
+// A year on the timetable's page.
+void OneYearsQuickView(benchmark::State& state) {
+  screens::Dashboard dashboard;
+  screens::Tick(Noon(), dashboard.settings, dashboard.session, dashboard.form);
+  const PlainMeasure measure;
+  forms::PicturePage page(dashboard.form.PIC[0], measure);
+  for (auto _ : state) {
+    screens::DrawQuickView(page, Noon(), Noon() + 365, dashboard.session);
+  }
+}
+BENCHMARK(OneYearsQuickView)->Unit(benchmark::kMillisecond);
 
 // The texts and the sky, as the timer runs them.
 void OneTimerEvent(benchmark::State& state) {

@@ -27,6 +27,7 @@ enum class Kind {
   ComboBox,
   DatePicker,
   TimePicker,
+  HScrollBar,
   VScrollBar
 };
 
@@ -54,6 +55,7 @@ enum class Look {
   Tile,     // an item of a picture menu: picture above, room for a caption, lit when hot or pressed
   Primary,  // of a form's buttons, the one that it is there for
   OnEarth,  // a button on a dark ground
+  Flat,     // a button without an edge
 };
 
 enum class Key { Up, Down, Enter, Escape, Other };
@@ -94,6 +96,7 @@ struct Properties {
   int tabIndex = 0;      // controls are reached from the lowest up
   bool sorted = false;   // a list
   bool handCursor = false;
+  bool grabCursor = false;  // what lies under it is being moved
   bool dragHandle = false;  // moves the form where only the screen can move windows
   bool hot = false;         // under the mouse, as far as the form says so
   bool pressed = false;
@@ -119,6 +122,7 @@ struct Control : Properties {
   std::function<void(Point)> onMouseUp;
   std::function<void(Point)> onMouseMove;
   std::function<void(int)> onMouseWheel;  // steps, up above 0
+  std::function<void(int)> onHover;       // of a list: the place under the mouse, -1 for none
   std::function<void()> onTimer;
 };
 

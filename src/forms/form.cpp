@@ -43,4 +43,8 @@ Control& Form::ControlNamed(std::string_view controlName) {
   throw foundation::Error(foundation::ErrorKind::NoSuchMember);
 }
 
+void Form::PrintForm() {
+  throw foundation::Error(foundation::ErrorKind::NoSuchMember);
+}
+
 }  // namespace forms

@@ -53,6 +53,9 @@ class Form {
 
   Control* activeControl = nullptr;  // has, or gets, the keyboard's focus
 
+  // Printing of its own; NoSuchMember for a form that has none.
+  virtual void PrintForm();
+
   // Events, raised by the host.
   virtual void Form_Load() {}
   virtual void Form_Resize() {}

@@ -1,6 +1,7 @@
-// A picture of outlines and texts, crisp at any size.
+// A picture of outlines and texts, crisp at any size, and of pictures made of dots.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <variant>
@@ -48,7 +49,7 @@ struct Outline {
 
 enum class Alignment { Left, Right, Centre };
 
-// One line of text in the interface's own face.
+// One line of text.
 struct Lettering {
   std::string text;  // UTF-8
   Point at;          // on the baseline, at the left end, right end or middle
@@ -56,16 +57,43 @@ struct Lettering {
   double size = 12;  // in units of the picture
   bool bold = false;
   Colour colour;
+  std::string face = {};  // the interface's own where it is empty
+  bool italic = false;
+  bool underline = false;
+  bool strikethrough = false;
   friend bool operator==(const Lettering&, const Lettering&) = default;
+};
+
+struct Picture;
+using PicturePtr = std::shared_ptr<const Picture>;
+
+// Another picture, stretched.
+struct Inset {
+  PicturePtr picture;
+  Point at;
+  double width = 0, height = 0;
+  friend bool operator==(const Inset&, const Inset&) = default;
+};
+
+// Dots from the top left, three bytes each: red, green, blue.
+struct Raster {
+  int width = 0, height = 0;
+  std::vector<std::uint8_t> rgb;
+  double dotsPerInch = 96;
+};
+using RasterPtr = std::shared_ptr<const Raster>;
+
+// Dots that fill the whole picture.
+struct Dots {
+  RasterPtr raster;
+  friend bool operator==(const Dots&, const Dots&) = default;
 };
 
 // Drawn first to last. Units are the picture's own; whoever shows it stretches width and height.
 struct Picture {
   double width = 0, height = 0;
-  std::vector<std::variant<Outline, Lettering>> items;
+  std::vector<std::variant<Outline, Lettering, Inset, Dots>> items;
   friend bool operator==(const Picture&, const Picture&) = default;
 };
-
-using PicturePtr = std::shared_ptr<const Picture>;
 
 }  // namespace forms

@@ -1,5 +1,7 @@
 #include "forms/picture_page.h"
 
+#include <utility>
+
 #include "forms/units.h"
 
 namespace forms {
@@ -25,6 +27,26 @@ void PicturePage::Cls() {
   x_ = y_ = 0;
 }
 
+void PicturePage::Line(double x1, double y1, double x2, double y2, Colour colour, LineStyle style) {
+  Outline outline;
+  if (style == LineStyle::Straight) {
+    outline.path.MoveTo({x1, y1}).LineTo({x2, y2});
+  } else {
+    outline.path = Path::Box({x1, y1}, x2 - x1, y2 - y1);
+  }
+  if (style == LineStyle::FilledBox) {
+    outline.fill = colour;
+  } else {
+    outline.stroke = {colour, lineWidth_ * kTwipsPerPixel};
+  }
+  Editable().items.push_back(std::move(outline));
+}
+
+void PicturePage::PaintPicture(const PicturePtr& picture, double x, double y, double width,
+                               double height) {
+  if (picture) Editable().items.push_back(Inset{picture, {x, y}, width, height});
+}
+
 void PicturePage::Print(std::string_view text) {
   Picture& picture = Editable();
   if (y_ < picture.height) {
@@ -32,7 +54,11 @@ void PicturePage::Print(std::string_view text) {
                                       .at = {x_, y_ + measure_.Ascent(font_)},
                                       .size = font_.size * kTwipsPerPoint,
                                       .bold = font_.bold,
-                                      .colour = colour_});
+                                      .colour = colour_,
+                                      .face = font_.name,
+                                      .italic = font_.italic,
+                                      .underline = font_.underline,
+                                      .strikethrough = font_.strikethrough});
   }
   x_ = 0;
   y_ += TextHeight(text);

@@ -15,6 +15,7 @@ class FormHost {
   // Returns when the form is hidden or unloaded; timers of all forms go on meanwhile.
   virtual void ShowModal(Form& form, Form& owner) = 0;
   virtual void Hide(Form& form) = 0;
+  virtual bool IsShown(const Form& form) const = 0;
   virtual void Unload(Form& form) = 0;
   // At once, with no clean-up; does not return.
   virtual void EndProgram() = 0;
@@ -22,13 +23,21 @@ class FormHost {
   virtual DrawingTarget& TargetOf(Control& pictureBox) = 0;
 };
 
+// Turns pictures into dots as the screen shows them.
+class Rasteriser {
+ public:
+  virtual ~Rasteriser() = default;
+  // Of a picture whose units are twips.
+  virtual Raster Render(const Picture& picture) const = 0;
+};
+
 enum class Orientation { Portrait = 1, Landscape = 2 };
 
 // Pages of a printer, drawn like any target.
 class Printer : public DrawingTarget {
  public:
-  // False when the user cancels the dialog.
-  virtual bool AskUser() = 0;
+  // The system's dialog. Cancelled when the user cancels it.
+  virtual void AskUser() = 0;
   virtual void SetOrientation(Orientation orientation) = 0;
   virtual void NewPage() = 0;
   virtual void EndDoc() = 0;

@@ -22,6 +22,8 @@ const char* Error::what() const noexcept {
       return "Object variable not set";
     case ErrorKind::NoSuchMember:
       return "Object doesn't support this property or method";
+    case ErrorKind::Cancelled:
+      return "Cancel was selected";
   }
   return "Unknown error";
 }

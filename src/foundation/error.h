@@ -15,6 +15,7 @@ enum class ErrorKind : int {
   FileAccess = 75,
   ObjectNotSet = 91,
   NoSuchMember = 438,  // an object that has no such property or operation
+  Cancelled = 32755,   // a dialog, by the user
 };
 
 class Error : public std::exception {

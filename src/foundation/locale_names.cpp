@@ -75,4 +75,15 @@ const std::string& WeekdayName(int weekday) {
   return NameAt(UserNames().weekdays, weekday);
 }
 
+std::string ShortWeekdayName(int weekday) {
+  const std::string& full = WeekdayName(weekday);
+  const std::string& name = UserNames().shortWeekdays[static_cast<std::size_t>(weekday - 1)];
+  return name.empty() ? std::string(FirstCharacters(full, 3)) : name;
+}
+
+const std::string& WeekdayNameOfWeek(int day) {
+  if (day < 1 || day > 7) throw Error(ErrorKind::InvalidCall);
+  return WeekdayName((UserNames().firstWeekday - 1 + day - 1) % 7 + 1);
+}
+
 }  // namespace foundation

@@ -9,8 +9,10 @@
 namespace foundation {
 
 struct LocaleNames {
-  std::array<std::string, 12> months;   // January first, full names, UTF-8
-  std::array<std::string, 7> weekdays;  // Sunday first, full names, UTF-8
+  std::array<std::string, 12> months;             // January first, full names, UTF-8
+  std::array<std::string, 7> weekdays;            // Sunday first, full names, UTF-8
+  std::array<std::string, 7> shortWeekdays = {};  // Sunday first; empty: the full names cut short
+  int firstWeekday = 1;                           // with which the week begins, 1 = Sunday
 };
 
 const LocaleNames& EnglishNames();
@@ -34,5 +36,12 @@ MonthMatch MonthAtStart(std::string_view text);
 
 // The full name of weekday 1 (Sunday) to 7 (Saturday). InvalidCall for any other.
 const std::string& WeekdayName(int weekday);
+
+// The same in short, as a table's head has it.
+std::string ShortWeekdayName(int weekday);
+
+// The name of day 1 to 7 of the user's week, whichever weekday that begins with. InvalidCall for
+// any other.
+const std::string& WeekdayNameOfWeek(int day);
 
 }  // namespace foundation

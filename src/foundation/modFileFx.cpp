@@ -1,6 +1,7 @@
 #include "foundation/modFileFx.h"
 
 #include <array>
+#include <cstdlib>
 #include <utility>
 
 #include "foundation/files.h"
@@ -47,6 +48,17 @@ fs::path AtlasFolder() {
 
 fs::path BackgroundFolder() {
   return AppFolder() / "BG" / "";
+}
+
+fs::path TempFolder() {
+  std::error_code unknown;
+  if (!fs::exists(AppFolder() / "shared", unknown)) return AppFolder() / "temp" / "";
+  const char* cache = std::getenv("XDG_CACHE_HOME");
+  const char* home = std::getenv("HOME");
+  const fs::path folder = cache != nullptr && *cache != '\0' ? fs::path(cache)
+                          : home != nullptr                  ? fs::path(home) / ".cache"
+                                                             : fs::temp_directory_path(unknown);
+  return folder / "Durvela" / "temp" / "";
 }
 
 std::string LanguagePhrase(std::string_view key, std::int32_t language) {

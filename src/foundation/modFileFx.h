@@ -19,6 +19,10 @@ void SetAppFolder(std::filesystem::path folder);
 std::filesystem::path AtlasFolder();       // city files
 std::filesystem::path BackgroundFolder();  // page backgrounds
 
+// Where the pages of a report are kept: under the program's folder; or, where the program was
+// installed for several users, which the file "shared" beside it says, in the user's cache folder.
+std::filesystem::path TempFolder();
+
 // The phrase for a key, case aside, in a language: 0 (or -1) English, 1 Hindi, 2 Marathi,
 // 3 Malayalam, 4 Kannada. The key itself where the language's file has no such entry.
 // FileNotFound or FileAccess without such a file, as for any other number.

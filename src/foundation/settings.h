@@ -20,6 +20,7 @@ class Settings {
 };
 
 inline constexpr std::string_view kPlaceSection = "settings";
+inline constexpr std::string_view kFooterSection = "Setting";  // lines of a report's foot
 
 struct PlaceSetting {
   std::string_view key;

@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "dayperiods/clsBirthDetails.h"
 #include "dayperiods/clsUtilities.h"
+#include "dayperiods/sunrise_at.h"
 #include "engine/clsPP.h"
 #include "foundation/checked.h"
 #include "foundation/date_text.h"
@@ -57,16 +57,6 @@ DateTimeFields ShownMoment(const frmMain& labels) {
   return moment;
 }
 
-dayperiods::SunriseRows SunriseAt(const DateTimeFields& moment, const engine::clsPP& place) {
-  double latitude = place.ppLatitude, longitude = place.ppLongitude, zone = place.ppZoneHours;
-  auto day = foundation::RoundToInt16(moment.day), month = foundation::RoundToInt16(moment.month),
-       year = foundation::RoundToInt16(moment.year), hour = foundation::RoundToInt16(moment.hour),
-       minute = foundation::RoundToInt16(moment.minute),
-       second = foundation::RoundToInt16(moment.second);
-  return dayperiods::clsBirthDetails().Sunrise(latitude, longitude, zone, day, month, year, hour,
-                                               minute, second);
-}
-
 }  // namespace
 
 void Tick(foundation::DateTime now, foundation::Settings& settings,
@@ -84,7 +74,7 @@ void Tick(foundation::DateTime now, foundation::Settings& settings,
                   record.RahuKetuFlag, record.WarTimeCorrection);
   });
   std::optional<dayperiods::SunriseRows> sun;
-  Resume([&] { sun = SunriseAt(at, place); });
+  Resume([&] { sun = dayperiods::SunriseAt(place, at); });
   Resume([&] { labels.lblSR.caption = DecimalToTimeText(Filled(sun).clockRise); });
   Resume([&] { labels.lblSS.caption = DecimalToTimeText(Filled(sun).clockSet); });
 

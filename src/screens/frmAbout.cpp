@@ -29,6 +29,8 @@ frmAbout::frmAbout(Services services)
 
 void frmAbout::Form_Load() {
   sizes_.SaveFirstSizes(*this);
+  activeControl = &cmdOK;
+  Timer1.enabled = true;
 }
 
 void frmAbout::Form_Resize() {

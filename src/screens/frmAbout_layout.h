@@ -45,7 +45,7 @@ inline Properties Version() {
 
 inline Properties CreditsWindow() {
   return {.place = {24 * kTwipsPerPixel, 120 * kTwipsPerPixel, 472 * kTwipsPerPixel, kCreditsTop},
-          .backColour = palette::kWhite,
+          .backColour = palette::kPaper,
           .borderColour = palette::kRule};
 }
 

@@ -1,6 +1,7 @@
 #include "screens/frmDurvela.h"
 
 #include <algorithm>
+#include <string>
 #include <utility>
 
 #include "foundation/error.h"
@@ -25,18 +26,18 @@ constexpr float kSlideStep = 10 * kTwips;
 
 }  // namespace
 
-frmDurvela::frmDurvela(Services services, forms::Form& dashboard, std::function<frmCity&()> picker)
+frmDurvela::frmDurvela(Services services, forms::Form& dashboard, Ways ways)
     : Form("frmDurvela", "Durvela", timetable_layout::kWidth * kTwips,
            timetable_layout::kHeight * kTwips),
       services_(services),
       dashboard_(dashboard),
-      picker_(std::move(picker)) {
+      ways_(std::move(ways)) {
   minimumWidth = kSmallest * scaleWidth;
   minimumHeight = kSmallest * scaleHeight;
   backColour = palette::kPaper;
-  cmdPreview.enabled = false;
 
   cmdShow.onClick = [this] { cmdShow_Click(); };
+  cmdPreview.onClick = [this] { cmdPreview_Click(); };
   cmdSave.onClick = [this] { cmdSave_Click(); };
   cmdEditPlace.onClick = [this] { cmdEditPlace_Click(); };
   cmdClose.onClick = [this] { cmdClose_Click(); };
@@ -62,7 +63,7 @@ frmDurvela::frmDurvela(Services services, forms::Form& dashboard, std::function<
 void frmDurvela::Form_Load() {
   sizes_.SaveFirstSizes(*this);
   activeControl = &DT1;
-  picking_ = false;
+  moving_ = false;
 
   FillFromDefaults();
   foundation::InitSessionRecord(services_.session, services_.clock.Now());
@@ -80,8 +81,10 @@ void frmDurvela::FillFromDefaults() {
 }
 
 void frmDurvela::Form_Resize() {
+  const float slid = slideTo_ > 0 ? picSlide.place.left / slideTo_ : 1;
   sizes_.ResizeControls(*this, foundation::kFalse16);
   slideTo_ = picSlide.place.left;
+  picSlide.place.left = slid * slideTo_;
   FitPage();
 }
 
@@ -89,11 +92,14 @@ void frmDurvela::Form_Resize() {
 void frmDurvela::FitPage() {
   const float width = frRes.place.width - VScroll1.place.width - kMargin;
   const float shape = timetable_layout::kPageHeight / timetable_layout::kPageWidth;
+  const float scrolled =
+      picRes.place.height > 0 ? (kMargin - picRes.place.top) / picRes.place.height : 0;
   picRes.place = {kMargin, kMargin, width, width * shape};
   const float below = picRes.place.height + 2 * kMargin - frRes.place.height;
   VScroll1.scroll = {.maximum = static_cast<int>(std::max(0.0F, below)),
                      .smallChange = static_cast<int>(kScrollStep * width),
                      .largeChange = static_cast<int>(frRes.place.height)};
+  SetScroll(VScroll1, static_cast<int>(scrolled * picRes.place.height));
 }
 
 void frmDurvela::Form_KeyDown(forms::KeyPress& press) {
@@ -110,13 +116,28 @@ void frmDurvela::cmdShow_Click() {
         DT1.moment + foundation::TimeFromParts(time.hour, time.minute, time.second);
     DrawQuickView(services_.host.TargetOf(picRes), start, DT2.moment, services_.session);
   });
+  SetScroll(VScroll1, 0);  // a list begins at its first row
+}
+
+void frmDurvela::cmdPreview_Click() {
+  ways_.report({.DT1 = DT1.moment,
+                .DT2 = DT2.moment,
+                .dtTime = dtTime.moment,
+                .latitude = lblLat.caption,
+                .longitude = lblLong.caption,
+                .zoneMeridian = lblZone.caption,
+                .zoneTime = lblZoneTime.caption,
+                .city = lblCity.caption,
+                .country = lblCountry.caption,
+                .lblStatus = lblStatus});
 }
 
 void frmDurvela::cmdSave_Click() {
   try {
     SaveDefaultPlace(services_.settings, PlaceLabelsOf(*this));
   } catch (const foundation::Error& error) {
-    services_.boxes.Show(error.what(), foundation::MessageIcon::Critical);
+    services_.boxes.Show(std::string("The place was not saved: ") + error.what(),
+                         foundation::MessageIcon::Critical);
     return;
   }
   services_.boxes.Show("Place saved as default. It will load automatically next time",
@@ -126,9 +147,10 @@ void frmDurvela::cmdSave_Click() {
 // A second click while the places are still being read opens nothing twice.
 void frmDurvela::cmdEditPlace_Click() {
   if (std::exchange(picking_, true)) return;
-  frmCity& picker = picker_();
+  frmCity& picker = ways_.picker();
   picker.Load(lblCountry.caption, lblCity.caption, *this);
-  services_.host.ShowModal(picker, *this);
+  // Closed by the user while the places were being read.
+  if (services_.host.IsShown(*this)) services_.host.ShowModal(picker, *this);
   picking_ = false;
 }
 
@@ -152,8 +174,9 @@ void frmDurvela::lblTitle_MouseDown(forms::Point at) {
   pressedY_ = static_cast<float>(at.y);
 }
 
+// A window that fills the screen stays where it is.
 void frmDurvela::lblTitle_MouseMove(forms::Point at) {
-  if (!moving_) return;
+  if (!moving_ || windowState != forms::WindowState::Normal) return;
   left = left - pressedX_ + static_cast<float>(at.x);
   top = top - pressedY_ + static_cast<float>(at.y);
 }

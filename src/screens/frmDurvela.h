@@ -5,6 +5,7 @@
 
 #include "forms/clsVSZ.h"
 #include "forms/form.h"
+#include "report/make_report.h"
 #include "screens/contact.h"
 #include "screens/frmDurvela_layout.h"
 #include "screens/services.h"
@@ -15,9 +16,14 @@ class frmCity;
 
 class frmDurvela : public forms::Form {
  public:
-  // The dashboard, which closing goes back to, outlives the form; the picker is asked for when a
-  // place is edited.
-  frmDurvela(Services services, forms::Form& dashboard, std::function<frmCity&()> picker);
+  // What the form leads to: the picker, asked for when a place is edited, and the report.
+  struct Ways {
+    std::function<frmCity&()> picker;
+    std::function<void(const report::ReportInput&)> report;
+  };
+
+  // The dashboard, which closing goes back to, outlives the form.
+  frmDurvela(Services services, forms::Form& dashboard, Ways ways);
 
   // The table of controls, lowest first.
   CONTROL(Shape, Head, timetable_layout::Head());
@@ -69,6 +75,7 @@ class frmDurvela : public forms::Form {
   void Form_KeyDown(forms::KeyPress& press) override;
 
   void cmdShow_Click();  // Quick View
+  void cmdPreview_Click();
   void cmdSave_Click();
   void cmdEditPlace_Click();
   void cmdClose_Click();
@@ -86,7 +93,7 @@ class frmDurvela : public forms::Form {
 
   Services services_;
   forms::Form& dashboard_;
-  std::function<frmCity&()> picker_;
+  Ways ways_;
   forms::clsVSZ sizes_;
   bool picking_ = false;  // the picker is opening, or open
   bool moving_ = false;

@@ -52,7 +52,7 @@ inline Properties HeadButton(float left, std::string_view caption, int tabIndex)
 
 inline Properties Card(float top, float height) {
   return {.place = At(24, top, 336, height),
-          .backColour = palette::kWhite,
+          .backColour = palette::kPaper,
           .borderColour = palette::kRule,
           .cornerRadius = 14 * kTwipsPerPixel};
 }
@@ -98,7 +98,7 @@ inline Properties Button(float left, float top, float width, std::string_view ca
 
 inline Properties Frame() {
   return {.place = At(kFrameLeft, kFrameTop, kFrameWidth, kFrameHeight),
-          .backColour = palette::kWhite,
+          .backColour = palette::kPaper,
           .borderColour = palette::kRule};
 }
 

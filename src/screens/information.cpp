@@ -9,7 +9,6 @@ namespace screens {
 namespace {
 
 using layout::At;
-using layout::Properties;
 
 // Logical pixels.
 constexpr float kWidth = 760, kHeight = 520;
@@ -121,7 +120,8 @@ const InformationPage& CalculatePage() {
        "2. The daylight from sunrise to sunset is cut into eight equal parts.",
        "3. The weekday chooses the part of each period, as the table shows.",
        "Before sunrise the sun of the day before counts, with the weekday of the calendar. Beyond "
-       "63 degrees of latitude the day is not divided, and all times read 00:00:00."},
+       "63 degrees of latitude the day is not divided: its times read 00:00:00, or there are "
+       "none."},
       {Period::Durvela, Period::Gulik, Period::Yum}};
   return kPage;
 }

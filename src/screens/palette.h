@@ -1,41 +1,10 @@
-// The colours that every screen shares.
+// The colours of every form, under the screens' own roof.
 #pragma once
 
-#include "forms/colour.h"
+#include "forms/palette.h"
 
-namespace screens::palette {
+namespace screens {
 
-using forms::Rgb;
+namespace palette = forms::palette;
 
-// The sky from its top to the horizon; text stands on the first three or on a scrim.
-inline constexpr auto kNight = Rgb(0x1B1E45);
-inline constexpr auto kDusk = Rgb(0x3F2F5E);
-inline constexpr auto kPlum = Rgb(0x7A4560);
-inline constexpr auto kEmber = Rgb(0xB5605A);
-inline constexpr auto kDawn = Rgb(0xF2B263);
-
-inline constexpr auto kEarth = Rgb(0x221C33);  // below the horizon, tool bars, desks
-inline constexpr auto kHill = Rgb(0x3A2B4C);
-inline constexpr auto kPaper = Rgb(0xFFF8EC);  // cards, pages, lists
-inline constexpr auto kRule = Rgb(0xE6D8C3);   // lines on paper
-inline constexpr auto kInk = Rgb(0x2A2238);    // text on paper
-inline constexpr auto kQuiet = Rgb(0x6B5F78);  // captions on paper
-inline constexpr auto kCream = Rgb(0xFFF6E5);  // text on sky and earth
-inline constexpr auto kFaintCream = Rgb(0xF3E3CF);
-inline constexpr auto kFaintOnEarth = Rgb(0xA99BB8);
-inline constexpr auto kWhite = Rgb(0xFFFFFF);
-inline constexpr auto kGold = Rgb(0xFFD166);         // the sun, the focus ring, what is chosen
-inline constexpr auto kGoldOnPaper = Rgb(0xFFECC4);  // at 30 per cent
-inline constexpr auto kFocus = Rgb(0xC98A00);        // the gold ring where it stands on paper
-inline constexpr auto kSun = Rgb(0xFFE08A);
-
-// The three periods, everywhere the same; the paper ones are text on paper or fields below cream.
-inline constexpr auto kDurvela = Rgb(0xE4572E);
-inline constexpr auto kDurvelaOnPaper = Rgb(0xB83A17);
-inline constexpr auto kDurvelaPressed = Rgb(0x9C2F10);
-inline constexpr auto kGulik = Rgb(0xA78BFA);
-inline constexpr auto kGulikOnPaper = Rgb(0x6B4FC9);
-inline constexpr auto kYum = Rgb(0x34B3A0);
-inline constexpr auto kYumOnPaper = Rgb(0x14776A);
-
-}  // namespace screens::palette
+}  // namespace screens

@@ -8,7 +8,6 @@
 #include "foundation/numbers.h"
 #include "foundation/session.h"
 #include "foundation/settings.h"
-#include "foundation/text.h"
 #include "screens/day_scene.h"
 #include "screens/palette.h"
 
@@ -133,8 +132,8 @@ forms::PicturePtr WeekdayTable(const std::vector<Period>& periods) {
   auto picture = Blank(kRowHeight * static_cast<double>(periods.size() + 1));
   const auto middle = [](int weekday) { return kNameWidth + kColumn * (weekday - 0.5); };
   for (int weekday = 1; weekday <= kDays; ++weekday) {
-    Write(*picture, foundation::FirstCharacters(foundation::WeekdayName(weekday), 3),
-          {middle(weekday), 20}, Alignment::Centre, 12.5, palette::kQuiet);
+    Write(*picture, foundation::ShortWeekdayName(weekday), {middle(weekday), 20}, Alignment::Centre,
+          12.5, palette::kQuiet);
   }
   double top = kRowHeight;
   for (const Period period : periods) {

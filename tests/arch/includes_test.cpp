@@ -21,9 +21,11 @@ const std::map<std::string, Rooms> kArrows = {
     {"engine", {"foundation"}},
     {"pdf", {"foundation"}},
     {"atlas", {"foundation", "forms"}},
+    {"bitmap", {"foundation", "forms"}},
     {"dayperiods", {"foundation", "engine"}},
-    {"screens", {"foundation", "forms", "engine", "atlas", "dayperiods"}},
-    {"screens/qt", {"foundation", "forms", "engine", "atlas", "dayperiods", "screens"}},
+    {"report", {"foundation", "forms", "engine", "bitmap", "dayperiods"}},
+    {"screens", {"foundation", "forms", "engine", "atlas", "dayperiods", "report"}},
+    {"screens/qt", {"foundation", "forms", "engine", "atlas", "dayperiods", "report", "screens"}},
     {"main", {"screens/qt"}},
 };
 

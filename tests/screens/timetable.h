@@ -20,9 +20,12 @@ struct Timetable {
   foundation::SessionTable session;
   Picker picker;
   support::FakeHost& host = picker.host;
+  std::vector<std::string> reports;  // their cities
   forms::Form dashboard{"Dashboard", "", 1000, 1000};
-  frmDurvela form{Services{clock, settings, session, boxes, browser, host}, dashboard,
-                  [this]() -> frmCity& { return picker.form; }};
+  frmDurvela form{Services{clock, settings, session, boxes, browser, host},
+                  dashboard,
+                  {[this]() -> frmCity& { return picker.form; },
+                   [this](const report::ReportInput& input) { reports.push_back(input.city); }}};
 
   // What the last Quick View has drawn, the moves of the pen aside.
   std::vector<std::string> Drawn() const {

@@ -119,6 +119,11 @@ TEST(Timetable, EditsItsPlaceWithThePicker) {
   timetable.picker.form.lstCity.onDoubleClick();
   EXPECT_EQ(timetable.form.lblCity.caption, "Ujjain(Madhya Pradesh)");
   EXPECT_EQ(timetable.form.lblLat.caption, "23.11N");
+  // Closed while the places are read: no picker comes up without its screen.
+  timetable.host.shown = false;
+  timetable.host.calls.clear();
+  timetable.form.cmdEditPlace.onClick();
+  EXPECT_TRUE(timetable.host.calls.empty());
 }
 
 TEST(Timetable, GoesBackToTheDashboardAndStartsAnew) {
@@ -150,6 +155,9 @@ TEST(Timetable, MovesWithTheMouseOnItsTitle) {
   timetable.form.Picture1.onMouseMove({180, 270});
   timetable.form.Picture1.onMouseUp({180, 270});
   timetable.form.Picture1.onMouseMove({0, 0});
+  timetable.form.windowState = forms::WindowState::Maximised;
+  timetable.form.lblTitle.onMouseDown({0, 0});
+  timetable.form.lblTitle.onMouseMove({50, 50});
   EXPECT_EQ(timetable.form.left, 1530);
   EXPECT_EQ(timetable.form.top, 2970);
 }
@@ -164,7 +172,15 @@ TEST(Timetable, ScrollsItsPageAndStopsItsSun) {
   EXPECT_EQ(timetable.form.picRes.place.top, top - static_cast<float>(below));
   timetable.form.picRes.onMouseWheel(1000);
   EXPECT_EQ(timetable.form.picRes.place.top, top);
+  timetable.form.picRes.onMouseWheel(-1);
+  timetable.form.cmdShow_Click();
+  EXPECT_EQ(timetable.form.picRes.place.top, top);  // a new list begins at its top
+
+  const float from = timetable.form.picSlide.place.left;
+  timetable.form.Form_Resize();
+  EXPECT_EQ(timetable.form.picSlide.place.left, from);
   for (int tick = 0; tick < 100; ++tick) timetable.form.Timer1_Timer();
+  EXPECT_GT(timetable.form.picSlide.place.left, from);
   EXPECT_EQ(timetable.form.Timer1.interval, 0);
 }
 

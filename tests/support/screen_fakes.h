@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/screen_services.h"
+#include "foundation/error.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 
@@ -51,10 +52,11 @@ class RecordingTarget : public forms::Printer {
   }
   double TextHeight(std::string_view) const override { return 240; }
 
-  bool AskUser() override {
+  void AskUser() override {
     Note("AskUser", {});
-    return true;
+    if (cancelled) throw foundation::Error(foundation::ErrorKind::Cancelled);
   }
+  bool cancelled = false;
   void SetOrientation(forms::Orientation o) override {
     Note("Orientation", {Of(static_cast<int>(o))});
   }
@@ -82,6 +84,8 @@ struct FakeHost : forms::FormHost {
     calls.push_back("ShowModal " + form.name + " of " + owner.name);
   }
   void Hide(forms::Form& form) override { calls.push_back("Hide " + form.name); }
+  bool shown = true;
+  bool IsShown(const forms::Form&) const override { return shown; }
   void Unload(forms::Form& form) override { calls.push_back("Unload " + form.name); }
   void EndProgram() override {
     calls.push_back("EndProgram");

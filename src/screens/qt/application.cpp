@@ -22,21 +22,39 @@ QString Name(forms::Colour colour) {
 // Fields to type into and choose from.
 QString InputStyle() {
   return QStringLiteral(
-             "screens--qt--TextBoxWidget, QComboBox { background: %1; color: %2; border: 1px solid "
-             "%3;"
-             " border-radius: 10px; padding: 0 6px; selection-background-color: %4; }"
-             "screens--qt--TextBoxWidget:focus, QComboBox:focus, QListView:focus { border: 2px "
-             "solid %4; }"
-             "screens--qt--TextBoxWidget:focus, QComboBox:focus { padding: 0 5px; }"
+             "screens--qt--TextBoxWidget, QComboBox, QDateTimeEdit { background: %1; color: %2;"
+             " border: 1px solid %3; border-radius: 10px; padding: 0 6px;"
+             " selection-background-color: %4; }"
+             "screens--qt--TextBoxWidget:focus, QComboBox:focus, QDateTimeEdit:focus,"
+             " QListView:focus { border: 2px solid %4; }"
+             "screens--qt--TextBoxWidget:focus, QComboBox:focus, QDateTimeEdit:focus"
+             " { padding: 0 5px; }"
+             "QDateTimeEdit QLineEdit { background: transparent; border: none; }"
+             "QDateTimeEdit::drop-down, QComboBox::drop-down,"
+             " QDateTimeEdit::up-button, QDateTimeEdit::down-button { border: none; width: 22px; }"
              "QComboBox { combobox-popup: 0; }"
              "QComboBox QAbstractItemView { selection-background-color: %5; }"
              "QComboBox QAbstractItemView::item { min-height: 28px; }"
-             "QComboBox::drop-down { border: none; width: 22px; }"
              "QListView { background: %1; color: %2; border: none; padding: 2px;"
              " selection-background-color: %4; selection-color: %2; }"
              "QListView:focus { padding: 0; }")
       .arg(Name(palette::kPaper), Name(palette::kInk), Name(palette::kRule), Name(palette::kGold),
            Name(palette::kGoldOnPaper));
+}
+
+// A groove with a darker thumb, without buttons at its ends.
+QString ScrollBarStyle() {
+  return QStringLiteral(
+             "QScrollBar { background: %1; border: none; margin: 0; }"
+             "QScrollBar:vertical { width: 14px; } QScrollBar:horizontal { height: 14px; }"
+             "QScrollBar::handle { background: %2; border-radius: 5px; margin: 2px; }"
+             "QScrollBar::handle:vertical { min-height: 28px; }"
+             "QScrollBar::handle:horizontal { min-width: 28px; }"
+             "QScrollBar::handle:hover { background: %3; }"
+             "QScrollBar::handle:disabled { background: transparent; }"
+             "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }"
+             "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }")
+      .arg(Name(palette::kGroove), Name(palette::kThumb), Name(palette::kQuiet));
 }
 
 }  // namespace
@@ -66,7 +84,7 @@ void DressApplication() {
   colours.setColor(QPalette::ToolTipBase, ToQt(palette::kPaper));
   colours.setColor(QPalette::PlaceholderText, ToQt(palette::kQuiet));
   QApplication::setPalette(colours);
-  qApp->setStyleSheet(InputStyle() + ButtonStyle());
+  qApp->setStyleSheet(InputStyle() + ScrollBarStyle() + ButtonStyle());
 
   InstallAccessibility();
   foundation::SetUserNames(SystemNames());
@@ -94,7 +112,11 @@ void Program::FillMenu() {
 
 frmDurvela& Program::Timetable() {
   if (!timetable_) {
-    timetable_.emplace(GiveServices(), dashboard, [this]() -> frmCity& { return Picker(); });
+    timetable_.emplace(GiveServices(), dashboard,
+                       frmDurvela::Ways{[this]() -> frmCity& { return Picker(); },
+                                        [this](const report::ReportInput& input) {
+                                          MakeReport(input, Preview(), GiveReportServices());
+                                        }});
   }
   return *timetable_;
 }
@@ -107,6 +129,11 @@ frmAbout& Program::About() {
 frmCity& Program::Picker() {
   if (!picker_) picker_.emplace(host, atlas_);
   return *picker_;
+}
+
+report::frmSPkun& Program::Preview() {
+  if (!preview_) preview_.emplace(GiveReportServices());
+  return *preview_;
 }
 
 InformationScreen& Program::Information(const InformationPage& page) {

@@ -13,6 +13,7 @@
 #include "screens/information.h"
 #include "screens/qt/qt_host.h"
 #include "screens/qt/qt_machine.h"
+#include "screens/qt/qt_printer.h"
 #include "screens/qt/qt_settings.h"
 
 namespace screens::qt {
@@ -33,10 +34,14 @@ class Program {
   frmDurvela& Timetable();
   frmAbout& About();
   frmCity& Picker();
+  report::frmSPkun& Preview();
   InformationScreen& Information(const InformationPage& page);
 
  private:
   Services GiveServices() { return {*now_, settings_, session_, boxes_, browser_, host}; }
+  report::Services GiveReportServices() {
+    return {settings_, session_, boxes_, yielder_, host, rasteriser_, printer_};
+  }
   void FillMenu();
 
   QtClock clock_;
@@ -44,12 +49,15 @@ class Program {
   QtMessageBoxes boxes_;
   QtBrowser browser_;
   QtYielder yielder_;
+  QtRasteriser rasteriser_;
+  QtPrinter printer_;
   foundation::SessionTable session_;
   atlas::clsAtlas atlas_{yielder_};
   const foundation::Clock* now_;
   std::optional<frmDurvela> timetable_;
   std::optional<frmAbout> about_;
   std::optional<frmCity> picker_;
+  std::optional<report::frmSPkun> preview_;
   std::map<const InformationPage*, InformationScreen> information_;
 
  public:

@@ -8,12 +8,16 @@
 namespace screens::qt {
 namespace {
 
+constexpr int kPadding = 6;  // pixels between edge and caption
+
 QString NameOf(forms::Look look) {
   switch (look) {
     case forms::Look::Primary:
       return QStringLiteral("primary");
     case forms::Look::OnEarth:
       return QStringLiteral("onEarth");
+    case forms::Look::Flat:
+      return QStringLiteral("flat");
     default:
       return QStringLiteral("plain");
   }
@@ -34,9 +38,10 @@ void ButtonWidget::Mirror() {
   const forms::Properties& now = control_;
   if (now == shown_) return;
   Dress(*this, control_, PlaceInPixels(control_));
-  setFont(ToQt(now.font));
+  const QString face = ToQt(now.caption).remove(u'&');
+  setFont(Fitted(ToQt(now.font), face, width() - 2 * kPadding));
   if (const QString caption = ToQt(now.caption); caption != text()) setText(caption);
-  setAccessibleName(text().remove(u'&'));
+  setAccessibleName(face);
   shown_ = now;
 }
 
@@ -44,7 +49,7 @@ QString ButtonStyle() {
   const auto name = [](forms::Colour colour) { return ToQt(colour).name(); };
   return QStringLiteral(
              "QPushButton { background: transparent; color: %1; border: 1px solid %2;"
-             " border-radius: 10px; padding: 0 8px; }"
+             " border-radius: 10px; padding: 0 4px; }"
              "QPushButton:hover { background: %3; }"
              "QPushButton:pressed { background: %4; }"
              "QPushButton:focus { border: 2px solid %5; }"
@@ -63,7 +68,8 @@ QString ButtonStyle() {
              "QPushButton[look=onEarth] { color: %4; border-color: %5; }"
              "QPushButton[look=onEarth]:hover { background: %6; }"
              "QPushButton[look=onEarth]:pressed { background: %7; }"
-             "QPushButton[look=onEarth]:focus { border: 2px solid %1; }")
+             "QPushButton[look=onEarth]:focus { border: 2px solid %1; }"
+             "QPushButton[look=flat] { border: none; }")
              .arg(name(palette::kGold), name(palette::kRule), name(palette::kQuiet),
                   name(palette::kCream), name(palette::kFaintOnEarth), name(palette::kHill),
                   name(palette::kNight));

@@ -6,7 +6,6 @@
 #include <QWheelEvent>
 #include <utility>
 
-#include "screens/palette.h"
 #include "screens/qt/qt_painting.h"
 
 namespace screens::qt {
@@ -47,11 +46,7 @@ void ComboBoxWidget::Mirror() {
 void ComboBoxWidget::paintEvent(QPaintEvent* event) {
   QComboBox::paintEvent(event);
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(ToQt(palette::kQuiet), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  const QPointF middle(width() - kArrowInset, height() / 2.0 + 1);
-  painter.drawPolyline(
-      QPolygonF{middle + QPointF(-4, -2), middle + QPointF(0, 2), middle + QPointF(4, -2)});
+  PaintArrow(painter, {width() - static_cast<double>(kArrowInset), height() / 2.0 + 1}, 1);
 }
 
 // A wheel turned over it on the way down a page chooses nothing.

@@ -24,6 +24,7 @@ ControlView* MakeView(forms::Control& control, const Dispatch& dispatch, QWidget
     case forms::Kind::DatePicker:
     case forms::Kind::TimePicker:
       return new PickerWidget(control, dispatch, parent);
+    case forms::Kind::HScrollBar:
     case forms::Kind::VScrollBar:
       return new ScrollBarWidget(control, dispatch, parent);
     default:

@@ -50,31 +50,18 @@ Qt::Alignment ToQt(forms::Alignment alignment) {
   return Qt::AlignLeft;
 }
 
-// A font in which the text fits, down to the smallest that can be read; a wrapped one with its
-// longest word.
-QFont Fitted(QFont font, const QString& text, bool wrapped, double width) {
-  const QFontMetricsF metrics(font);
-  double wanted = 0;
-  for (const QString& line : wrapped ? text.simplified().split(u' ') : QStringList{text}) {
-    wanted = std::max(wanted, metrics.horizontalAdvance(line));
-  }
-  if (wanted > width) {
-    const double size = std::max(forms::kSmallestText, font.pixelSize() * width / wanted);
-    font.setPixelSize(std::min(font.pixelSize(), static_cast<int>(size)));
-  }
-  return font;
-}
-
 }  // namespace
 
 ControlWidget::ControlWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
     : QWidget(parent), ControlView(control, std::move(dispatch)) {
   setMouseTracking(true);
   setAttribute(Qt::WA_NoSystemBackground);
-  // A label without a click of its own lets the mouse through to what lies below it.
+  // A label without a click of its own lets the mouse through to what lies below it. What may hold
+  // other controls does not: the mouse would pass them by too.
   const bool deaf =
       !control.onClick && !control.onMouseMove && !control.onMouseDown && !control.onMouseWheel;
-  setAttribute(Qt::WA_TransparentForMouseEvents, deaf && control.toolTip.empty());
+  setAttribute(Qt::WA_TransparentForMouseEvents,
+               deaf && control.toolTip.empty() && control.kind != forms::Kind::PictureBox);
   shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
   Mirror();
 }
@@ -83,7 +70,9 @@ void ControlWidget::Mirror() {
   const forms::Properties& now = control_;
   if (now == shown_) return;
   Dress(*this, control_, Geometry(control_));
-  setCursor(now.handCursor && now.enabled ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  setCursor(now.grabCursor                  ? Qt::ClosedHandCursor
+            : now.handCursor && now.enabled ? Qt::PointingHandCursor
+                                            : Qt::ArrowCursor);
   if (now.picture != shown_.picture) rendered_ = QPixmap();
   shown_ = now;
   update();
@@ -114,11 +103,11 @@ void ControlWidget::paintEvent(QPaintEvent*) {
 
 // An image stretches its picture; a picture box keeps its shape.
 QRectF ControlWidget::PlaceOfPicture() const {
-  if (control_.kind == forms::Kind::Image) return rect();
+  if (control_.kind == forms::Kind::Image) return Body();
   QSizeF size(control_.picture->width, control_.picture->height);
-  size.scale(this->size(), Qt::KeepAspectRatio);
+  size.scale(Body().size(), Qt::KeepAspectRatio);
   QRectF place(QPointF(), size);
-  place.moveCenter(QRectF(rect()).center());
+  place.moveCenter(Body().center());
   return place;
 }
 
@@ -191,7 +180,8 @@ void ControlWidget::PaintCaption(QPainter& painter) {
   const QString text = screens::qt::ToQt(control_.caption);
   const double width = Body().width();
   const QFont font = screens::qt::ToQt(control_.font);
-  painter.setFont(Fitted(font, text, control_.wordWrap, width));
+  painter.setFont(control_.wordWrap ? FittedInto(font, text, Body().size())
+                                    : Fitted(font, text, width));
   painter.setPen(screens::qt::ToQt(control_.foreColour));
   const Qt::Alignment alignment = ToQt(control_.alignment);
   if (control_.wordWrap) {

@@ -89,6 +89,13 @@ void FormWindow::SetTabOrder() {
   for (std::size_t i = 1; i < stops.size(); ++i) {
     setTabOrder(&stops[i - 1]->Widget(), &stops[i]->Widget());
   }
+  // The keyboard begins with the first that can be used.
+  if (form_.activeControl != nullptr) return;
+  for (const ControlView* view : stops) {
+    if (!view->Model().enabled || !view->Model().visible) continue;
+    form_.activeControl = &view->Model();
+    return;
+  }
 }
 
 void FormWindow::Mirror() {

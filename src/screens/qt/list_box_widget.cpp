@@ -1,6 +1,7 @@
 #include "screens/qt/list_box_widget.h"
 
 #include <QFocusEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QScrollBar>
@@ -164,6 +165,13 @@ void ListBoxWidget::focusInEvent(QFocusEvent* event) {
   } else {
     QAbstractScrollArea::focusInEvent(event);
   }
+}
+
+void ListBoxWidget::mouseMoveEvent(QMouseEvent* event) {
+  QListView::mouseMoveEvent(event);
+  if (!control_.onHover) return;
+  const int row = indexAt(event->position().toPoint()).row();
+  dispatch_([this, row] { control_.onHover(row); });
 }
 
 // What is chosen stays so until something else is.

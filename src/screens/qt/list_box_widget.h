@@ -38,6 +38,7 @@ class ListBoxWidget : public QListView, public ControlView {
  protected:
   void paintEvent(QPaintEvent*) override;
   void focusInEvent(QFocusEvent*) override;
+  void mouseMoveEvent(QMouseEvent*) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& former) override;

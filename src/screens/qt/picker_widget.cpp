@@ -1,13 +1,20 @@
 #include "screens/qt/picker_widget.h"
 
+#include <QCalendarWidget>
 #include <QLineEdit>
+#include <QPainter>
+#include <QTextCharFormat>
 #include <QWheelEvent>
 #include <utility>
 
+#include "screens/palette.h"
 #include "screens/qt/qt_painting.h"
 
 namespace screens::qt {
 namespace {
+
+constexpr int kButtons = 42;     // pixels for arrows and padding
+constexpr int kArrowInset = 14;  // from the right edge to the middle of an arrow
 
 const QDate kFirstDate(100, 1, 1), kLastDate(9999, 12, 31);
 
@@ -20,6 +27,13 @@ PickerWidget::PickerWidget(forms::Control& control, Dispatch dispatch, QWidget* 
   setDateRange(kFirstDate, kLastDate);
   setDisplayFormat(date ? QStringLiteral("d/MMMM/yyyy") : QStringLiteral("hh:mm AP"));
   setCalendarPopup(date);
+  if (date) {
+    QTextCharFormat plain;  // no day of the week is more than another
+    plain.setForeground(ToQt(palette::kInk));
+    for (const auto day : {Qt::Saturday, Qt::Sunday}) {
+      calendarWidget()->setWeekdayTextFormat(day, plain);
+    }
+  }
   setKeyboardTracking(false);  // half a year is none
   connect(this, &QDateTimeEdit::dateTimeChanged, this, [this] {
     if (!mirroring_) dispatch_([this] { forms::SetMoment(control_, Picked()); });
@@ -39,7 +53,8 @@ void PickerWidget::Mirror() {
   const forms::Properties& now = control_;
   if (now == shown_) return;
   Dress(*this, control_, PlaceInPixels(control_));
-  setFont(ToQt(now.font));
+  const QString longest = locale().toString(QDate(2026, 9, 30), QStringLiteral("d/MMMM/yyyy"));
+  setFont(Fitted(ToQt(now.font), longest, width() - kButtons));
   lineEdit()->setFont(font());
   mirroring_ = true;
   const foundation::DateTimeFields at = foundation::FieldsOf(now.moment);
@@ -50,6 +65,19 @@ void PickerWidget::Mirror() {
   }
   mirroring_ = false;
   shown_ = now;
+}
+
+// The style leaves the arrows to us: one that drops the calendar down, or two that step.
+void PickerWidget::paintEvent(QPaintEvent* event) {
+  QDateTimeEdit::paintEvent(event);
+  QPainter painter(this);
+  const double middle = height() / 2.0, x = width() - kArrowInset;
+  if (control_.kind == forms::Kind::DatePicker) {
+    PaintArrow(painter, {x, middle + 1}, 1);
+  } else {
+    PaintArrow(painter, {x, middle - 5}, -1);
+    PaintArrow(painter, {x, middle + 5}, 1);
+  }
 }
 
 // Turned only while it has the focus.

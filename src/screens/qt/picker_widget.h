@@ -17,6 +17,7 @@ class PickerWidget : public QDateTimeEdit, public ControlView {
   void Mirror() override;
 
  protected:
+  void paintEvent(QPaintEvent*) override;
   void wheelEvent(QWheelEvent*) override;
 
  private:

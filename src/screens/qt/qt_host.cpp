@@ -77,6 +77,11 @@ void QtHost::Hide(forms::Form& form) {
   if (const auto found = windows_.find(&form); found != windows_.end()) found->second->hide();
 }
 
+bool QtHost::IsShown(const forms::Form& form) const {
+  const auto found = windows_.find(&form);
+  return found != windows_.end() && (found->second->isVisible() || found->second->isMinimized());
+}
+
 void QtHost::Unload(forms::Form& form) {
   const auto found = windows_.find(&form);
   if (found == windows_.end()) return;

@@ -21,6 +21,7 @@ class QtHost : public forms::FormHost {
   void Show(forms::Form& form) override;
   void ShowModal(forms::Form& form, forms::Form& owner) override;
   void Hide(forms::Form& form) override;
+  bool IsShown(const forms::Form& form) const override;
   void Unload(forms::Form& form) override;
   [[noreturn]] void EndProgram() override;
   forms::DrawingTarget& TargetOf(forms::Control& pictureBox) override;
@@ -31,7 +32,7 @@ class QtHost : public forms::FormHost {
  private:
   static void CentreOn(const FormWindow& owner, FormWindow& window);
 
-  std::map<forms::Form*, FormWindow*> windows_;
+  std::map<const forms::Form*, FormWindow*> windows_;
   std::map<forms::Control*, forms::PicturePage> pages_;
   QtTextMeasure measure_;
 };

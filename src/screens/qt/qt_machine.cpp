@@ -93,7 +93,10 @@ foundation::LocaleNames SystemNames() {
   for (int weekday = 0; weekday < 7; ++weekday) {  // the toolkit's 7 is Sunday
     names.weekdays[static_cast<std::size_t>(weekday)] =
         locale.standaloneDayName(weekday == 0 ? 7 : weekday).toStdString();
+    names.shortWeekdays[static_cast<std::size_t>(weekday)] =
+        locale.standaloneDayName(weekday == 0 ? 7 : weekday, QLocale::ShortFormat).toStdString();
   }
+  names.firstWeekday = locale.firstDayOfWeek() % 7 + 1;  // the toolkit's 1 is Monday
   return names;
 }
 

@@ -1,9 +1,14 @@
 #include "screens/qt/qt_painting.h"
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QImage>
 #include <QPainterPath>
 #include <QPixmap>
+
+#include "foundation/legacy_hindi.h"
+#include "screens/palette.h"
 
 namespace screens::qt {
 namespace {
@@ -52,6 +57,9 @@ QBrush ToQt(const forms::Fill& fill) {
   return screens::qt::ToQt(std::get<forms::Colour>(fill));
 }
 
+// Dots are drawn by who knows their picture's size.
+void Paint(QPainter&, const forms::Dots&) {}
+
 void Paint(QPainter& painter, const forms::Outline& outline) {
   const QPainterPath path = ToQt(outline.path);
   painter.fillPath(path, ToQt(outline.fill));
@@ -61,10 +69,25 @@ void Paint(QPainter& painter, const forms::Outline& outline) {
   }
 }
 
+bool IsInstalled(std::string_view face) {
+  return QFontDatabase::families().contains(screens::qt::ToQt(face));
+}
+
+// A text in the encoding of a face that is not here would show as Latin letters.
+QString Readable(std::string_view text, const forms::Font& font) {
+  const bool legacy = font.name == foundation::kLegacyHindiFace && !IsInstalled(font.name);
+  return screens::qt::ToQt(legacy ? foundation::FromLegacyHindi(text) : std::string(text));
+}
+
 void Paint(QPainter& painter, const forms::Lettering& lettering) {
-  const float points = static_cast<float>(lettering.size * kTwipsPerPixel / kTwipsPerPoint);
-  const QFont font = screens::qt::ToQt(forms::Font{.size = points, .bold = lettering.bold});
-  const QString text = screens::qt::ToQt(lettering.text);
+  forms::Font face = {.size = static_cast<float>(lettering.size * kTwipsPerPixel / kTwipsPerPoint),
+                      .bold = lettering.bold,
+                      .italic = lettering.italic,
+                      .underline = lettering.underline,
+                      .strikethrough = lettering.strikethrough};
+  if (!lettering.face.empty()) face.name = lettering.face;
+  const QFont font = screens::qt::ToQt(face);
+  const QString text = Readable(lettering.text, face);
   const double width = QFontMetricsF(font).horizontalAdvance(text);
   QPointF at = ToQt(lettering.at);
   if (lettering.alignment == forms::Alignment::Right) at.rx() -= width;
@@ -74,9 +97,18 @@ void Paint(QPainter& painter, const forms::Lettering& lettering) {
   painter.drawText(at, text);
 }
 
+void Paint(QPainter& painter, const forms::Inset& inset) {
+  PaintPicture(painter, *inset.picture, QRectF(inset.at.x, inset.at.y, inset.width, inset.height));
+}
+
+QImage ImageOf(const forms::Raster& raster) {
+  return QImage(raster.rgb.data(), raster.width, raster.height, 3 * raster.width,
+                QImage::Format_RGB888);
+}
+
 // Faces that forms name and the program's own stands in for.
 bool HasOpenStandIn(std::string_view face) {
-  return face == "Arial" || face == "Tahoma";
+  return face == "Arial" || face == "Tahoma" || face == foundation::kLegacyHindiFace;
 }
 
 }  // namespace
@@ -106,6 +138,25 @@ QFont ToQt(const forms::Font& font) {
   return result;
 }
 
+QFont Fitted(QFont font, const QString& text, double width) {
+  const double wanted = QFontMetricsF(font).horizontalAdvance(text);
+  if (wanted > width) {
+    const double size = qMax(forms::kSmallestText, font.pixelSize() * width / wanted);
+    font.setPixelSize(qMin(font.pixelSize(), static_cast<int>(size)));
+  }
+  return font;
+}
+
+QFont FittedInto(QFont font, const QString& text, QSizeF box) {
+  const QRectF room(QPointF(), QSizeF(box.width(), 1e6));
+  while (font.pixelSize() > forms::kSmallestText) {
+    const QRectF wanted = QFontMetricsF(font).boundingRect(room, Qt::TextWordWrap, text.trimmed());
+    if (wanted.height() <= box.height() && wanted.width() <= box.width()) break;
+    font.setPixelSize(font.pixelSize() - 1);
+  }
+  return font;
+}
+
 double QtTextMeasure::TextWidth(std::string_view text, const forms::Font& font) const {
   return QFontMetricsF(ToQt(font)).horizontalAdvance(ToQt(text)) * kTwipsPerPixel;
 }
@@ -125,9 +176,39 @@ void PaintPicture(QPainter& painter, const forms::Picture& picture, const QRectF
   painter.translate(into.topLeft());
   painter.scale(into.width() / picture.width, into.height() / picture.height);
   for (const auto& item : picture.items) {
-    std::visit([&](const auto& drawn) { Paint(painter, drawn); }, item);
+    if (const auto* dots = std::get_if<forms::Dots>(&item)) {
+      painter.setRenderHint(QPainter::SmoothPixmapTransform);
+      painter.drawImage(QRectF(0, 0, picture.width, picture.height), ImageOf(*dots->raster));
+    } else {
+      std::visit([&](const auto& drawn) { Paint(painter, drawn); }, item);
+    }
   }
   painter.restore();
+}
+
+void PaintArrow(QPainter& painter, QPointF middle, int direction) {
+  const double reach = 2.0 * direction;
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(ToQt(palette::kQuiet), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(QPolygonF{middle + QPointF(-4, -reach), middle + QPointF(0, reach),
+                                 middle + QPointF(4, -reach)});
+}
+
+forms::Raster Rasterise(const forms::Picture& picture, QSize size) {
+  QImage image(size, QImage::Format_RGB888);
+  image.fill(Qt::white);
+  {
+    QPainter painter(&image);
+    PaintPicture(painter, picture, QRectF(QPointF(), QSizeF(size)));
+  }
+  forms::Raster raster = {.width = size.width(), .height = size.height()};
+  const auto row = static_cast<std::size_t>(3 * size.width());
+  raster.rgb.reserve(row * static_cast<std::size_t>(size.height()));
+  for (int y = 0; y < size.height(); ++y) {
+    const uchar* line = image.constScanLine(y);
+    raster.rgb.insert(raster.rgb.end(), line, line + row);
+  }
+  return raster;
 }
 
 QIcon ToIcon(const forms::Picture& picture) {

@@ -27,6 +27,11 @@ QString ToQt(std::string_view utf8);
 // shown in the program's own.
 QFont ToQt(const forms::Font& font);
 
+// The font, or as much smaller as lets the text fit, down to the smallest that can be read: on one
+// line, or wrapped into a box.
+QFont Fitted(QFont font, const QString& text, double width);
+QFont FittedInto(QFont font, const QString& text, QSizeF box);
+
 // By the metrics of the toolkit's fonts.
 class QtTextMeasure : public forms::TextMeasure {
  public:
@@ -37,6 +42,12 @@ class QtTextMeasure : public forms::TextMeasure {
 
 // The picture stretched to the rectangle.
 void PaintPicture(QPainter& painter, const forms::Picture& picture, const QRectF& into);
+
+// A small arrow of a field's own, 1 down or -1 up.
+void PaintArrow(QPainter& painter, QPointF middle, int direction);
+
+// The picture in dots, on white.
+forms::Raster Rasterise(const forms::Picture& picture, QSize size);
 
 QIcon ToIcon(const forms::Picture& picture);
 

@@ -5,7 +5,8 @@
 namespace screens::qt {
 
 ScrollBarWidget::ScrollBarWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
-    : QScrollBar(Qt::Vertical, parent), ControlView(control, std::move(dispatch)) {
+    : QScrollBar(control.kind == forms::Kind::HScrollBar ? Qt::Horizontal : Qt::Vertical, parent),
+      ControlView(control, std::move(dispatch)) {
   connect(this, &QScrollBar::valueChanged, this, [this](int value) {
     if (!mirroring_) dispatch_([this, value] { forms::SetScroll(control_, value); });
   });

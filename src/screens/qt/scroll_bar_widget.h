@@ -1,4 +1,4 @@
-// An upright scroll bar.
+// A scroll bar.
 #pragma once
 
 #include <QScrollBar>

@@ -6,9 +6,11 @@
 #include <QDateTimeEdit>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QWheelEvent>
 
 #include "screens/qt/application.h"
 #include "screens/timetable.h"
@@ -81,7 +83,8 @@ TEST(TimetableWindow, DrawsTheRangeThatItsPickersShow) {
   RecordingHost host;
   frmDurvela form{
       Services{fakes.clock, fakes.settings, fakes.session, fakes.boxes, fakes.browser, host},
-      fakes.dashboard, [&]() -> frmCity& { return fakes.picker.form; }};
+      fakes.dashboard,
+      {[&]() -> frmCity& { return fakes.picker.form; }, {}}};
   host.Show(form);
   FormWindow& window = host.WindowOf(form);
   const auto picker = [&](const char* name) {
@@ -110,7 +113,8 @@ TEST(TimetableWindow, ShowsItsPageAndMoves) {
   QtHost host;
   frmDurvela form{
       Services{fakes.clock, fakes.settings, fakes.session, fakes.boxes, fakes.browser, host},
-      fakes.dashboard, [&]() -> frmCity& { return fakes.picker.form; }};
+      fakes.dashboard,
+      {[&]() -> frmCity& { return fakes.picker.form; }, {}}};
   host.Show(form);
   FormWindow& window = host.WindowOf(form);
   const auto inkOnPage = [&] {
@@ -126,6 +130,14 @@ TEST(TimetableWindow, ShowsItsPageAndMoves) {
   window.findChild<QDateTimeEdit*>(QStringLiteral("DT2"))->setDate(QDate(2011, 3, 6));
   window.findChild<QPushButton*>(QStringLiteral("cmdShow"))->click();
   EXPECT_LT(inkOnPage(), month / 10);
+  // The mouse reaches the page inside its frame.
+  EXPECT_EQ(window.childAt(600, 400)->objectName(), u"picRes");
+  const QPointF over(600, 400);
+  QWheelEvent wheel(over, over, QPoint(), QPoint(0, -240), Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+  QApplication::sendEvent(window.childAt(600, 400), &wheel);
+  EXPECT_LT(form.picRes.place.top, 0);
+  EXPECT_GT(window.findChild<QScrollBar*>(QStringLiteral("VScroll1"))->value(), 0);
   form.left += 300;
   window.Mirror();
   EXPECT_EQ(window.x(), ToPixels(form.left));

@@ -1,0 +1,325 @@
+#include "report/frmSPkun.h"
+
+#include <algorithm>
+
+#include "engine/clsPP.h"
+#include "foundation/error.h"
+#include "foundation/modFileFx.h"
+#include "foundation/numbers.h"
+#include "foundation/resume.h"
+#include "report/page_bands.h"
+#include "report/page_files.h"
+
+namespace report {
+namespace {
+
+using foundation::Resume;
+
+constexpr float kTwips = preview_layout::kTwipsPerPixel;
+constexpr int kKeyStep = 1000;                        // twips that an arrow key scrolls
+constexpr float kSlideStep = 100;                     // twips
+constexpr double kSmallStep = 0.1, kLargeStep = 0.5;  // of the whole way
+
+const std::string& Nth(const std::vector<std::string>& list, int number) {
+  if (number < 1 || number > static_cast<int>(list.size())) {
+    throw foundation::Error(foundation::ErrorKind::Subscript);
+  }
+  return list[static_cast<std::size_t>(number) - 1];
+}
+
+// A bar with nothing to scroll is taken out of use. Overflow beyond 16 bits.
+void SetRange(forms::Control& bar, float way, double largeStep) {
+  const std::int16_t maximum = foundation::RoundToInt16(std::max(way, 0.0F));
+  bar.enabled = maximum > 0;
+  bar.scroll.maximum = maximum;
+  bar.scroll.smallChange = std::max(1, foundation::RoundToInt32(kSmallStep * maximum));
+  bar.scroll.largeChange = std::max(1, foundation::RoundToInt32(largeStep * maximum));
+  forms::SetScroll(bar, bar.scroll.value);
+}
+
+}  // namespace
+
+frmSPkun::frmSPkun(Services services)
+    : Form("frmSPkun", "Durvela - Print Preview", preview_layout::kWidth * kTwips,
+           preview_layout::kHeight * kTwips),
+      services_(services) {
+  minimumWidth = scaleWidth * 0.6F;
+  minimumHeight = scaleHeight * 0.5F;
+  backColour = preview_layout::palette::kDesk;
+
+  cmbPage.onClick = [this] { cmbPage_Click(); };
+  lstPage.onClick = [this] { lstPage_Click(); };
+  lstPage.onHover = [this](int row) { lstPage_Hover(row); };
+  cmdBack.onClick = [this] { cmdback_Click(); };
+  cmdNext.onClick = [this] { cmdNext_Click(); };
+  cmdPrintPage.onClick = [this] { cmdPrintPage_Click(); };
+  cmdPrint.onClick = [this] { cmdPrint_Click(); };
+  cmdHide.onClick = [this] { cmdHide_Click(); };
+  cmdShow.onClick = [this] { cmdShow_Click(); };
+  cmdGO.onClick = [this] { cmdGO_Click(); };
+  VScroll1.onChange = [this] { VScroll1_Change(); };
+  HScroll1.onChange = [this] { HScroll1_Change(); };
+  PIC.onMouseDown = [this](forms::Point at) { PIC_MouseDown(at); };
+  PIC.onMouseMove = [this](forms::Point at) { PIC_MouseMove(at); };
+  PIC.onMouseUp = [this](forms::Point) { PIC_MouseUp(); };
+  PIC.onMouseWheel = [this](int steps) {
+    SetScroll(VScroll1, VScroll1.scroll.value - steps * VScroll1.scroll.smallChange);
+  };
+  Timer1.onTimer = [this] { Timer1_Timer(); };
+  Timer2.onTimer = [this] { Timer2_Timer(); };
+}
+
+void frmSPkun::RESET() {
+  colPageName_.clear();
+  colPageTitle_.clear();
+  lstPage.items->Clear();
+  cmbPage.items->Clear();
+  PIC.picture = nullptr;
+  directPages_ = 0;
+  KillAllTmpFile();
+}
+
+void frmSPkun::KillAllTmpFile() {
+  DeletePages();
+}
+
+void frmSPkun::CreateTMPfile(std::int16_t PageNum, const forms::Control& pictureBox) {
+  Resume([&] {
+    forms::Picture blank = {.width = pictureBox.place.width, .height = pictureBox.place.height};
+    const forms::Picture& shown = pictureBox.picture ? *pictureBox.picture : blank;
+    SavePage(PageNum, services_.rasteriser.Render(shown));
+  });
+}
+
+void frmSPkun::AddPage(std::string_view Pname, std::string_view PTitle) {
+  colPageName_.emplace_back(Pname);
+  colPageTitle_.emplace_back(PTitle);
+  for (forms::Control* list : {&cmbPage, &lstPage}) {
+    const int number = list->items->ListCount() + 1;
+    list->items->AddItem(foundation::NumberText(number) + ": " + std::string(PTitle));
+  }
+}
+
+const std::string& frmSPkun::PageName(int number) const {
+  return Nth(colPageName_, number);
+}
+
+const std::string& frmSPkun::PageTitle(int number) const {
+  return Nth(colPageTitle_, number);
+}
+
+void frmSPkun::ShowPage(std::int16_t& PageNum, std::string_view Pname, std::string_view PTitle,
+                        bool ToPrinter) {
+  const foundation::SessionRecord& record = services_.session.Current();
+  engine::clsPP().GenHoro(record.Day, record.Month, record.Year, record.Hour, record.Minute,
+                          record.Second, record.LongitudeText, record.LatitudeText,
+                          record.ZoneMeridianText, record.AyanamsaChoice, record.RahuKetuFlag,
+                          record.WarTimeCorrection);
+  if (!ToPrinter) PIC.picture = nullptr;
+  if (backgroundPath_.empty()) {
+    backgroundPath_ = (foundation::BackgroundFolder() / "default.jpg").string();
+  }
+  if (Pname != kCachePage) {
+    DrawDirectly(PageNum, ToPrinter ? services_.printer : services_.host.TargetOf(PIC));
+    return;
+  }
+  const std::size_t mark = PTitle.find('P');
+  const std::string_view number = mark == std::string_view::npos ? PTitle : PTitle.substr(mark + 1);
+  PageNum = foundation::RoundToInt16(foundation::LeadingNumber(number));
+  PIC.picture = nullptr;
+  PIC.picture = LoadPage(PageNum);
+  if (ToPrinter) {
+    services_.printer.PaintPicture(PIC.picture, 0, 0, PIC.picture->width, PIC.picture->height);
+  }
+}
+
+void frmSPkun::DrawDirectly(std::int16_t PageNum, forms::DrawingTarget& target) {
+  const frmPrintLayout layout;
+  DrawBands(layout, PageNum, services_, target);
+  const forms::Place& place = layout.lblCurrentPageNum.place;
+  target.SetCurrentX(place.left - place.width);
+  target.SetCurrentY(place.top);
+  target.Print(foundation::NumberText(PageNum));
+}
+
+void frmSPkun::setPage(forms::Form& page, double X, double Y) {
+  PaintForm(page, X, Y);
+}
+
+void frmSPkun::setPage2(forms::Form& page, double X, double Y) {
+  PaintForm(page, X, Y);
+}
+
+void frmSPkun::PaintForm(forms::Form& page, double X, double Y) {
+  ++directPages_;
+  forms::DrawingTarget& target = services_.host.TargetOf(PIC);
+  if (directPages_ == 1) {
+    PIC.place.width = page.scaleWidth;
+    PIC.place.height = page.scaleHeight;
+    target.Cls();
+  }
+  if (page.picture) target.PaintPicture(page.picture, X, Y, page.scaleWidth, page.scaleHeight);
+  for (const forms::Control& box : page.Controls()) {
+    if (box.kind != forms::Kind::PictureBox || box.tag == "no" || !box.picture) continue;
+    target.PaintPicture(box.picture, X + box.place.left, Y + box.place.top, box.place.width,
+                        box.place.height);
+  }
+}
+
+void frmSPkun::cmbPage_Click() {
+  const int index = cmbPage.items->ListIndex();
+  std::int16_t number = foundation::RoundToInt16(index + 1);
+  ShowPage(number, PageName(index + 1), PageTitle(index + 1), false);
+}
+
+void frmSPkun::lstPage_Click() {
+  Select(cmbPage, lstPage.items->ListIndex());
+}
+
+void frmSPkun::lstPage_Hover(int row) {
+  const bool onEntry = row >= 0 && row < lstPage.items->ListCount();
+  lstPage.toolTip = onEntry ? std::string(lstPage.items->List(row)) : "";
+}
+
+void frmSPkun::cmdback_Click() {
+  const int index = cmbPage.items->ListIndex() - 1;
+  if (index >= 0) Select(cmbPage, index);
+}
+
+void frmSPkun::cmdNext_Click() {
+  const int index = cmbPage.items->ListIndex() + 1;
+  if (index < cmbPage.items->ListCount()) Select(cmbPage, index);
+}
+
+// Counts from 0, as the list does.
+void frmSPkun::cmdGO_Click() {
+  int number = foundation::RoundToInt16(foundation::LeadingNumber(txtPage.caption));
+  const int pages = cmbPage.items->ListCount();
+  if (number >= pages) {
+    number = pages - 1;
+    SetText(txtPage, foundation::NumberText(number));
+  }
+  if (number < 0) {
+    number = 0;
+    SetText(txtPage, "0");
+  }
+  Select(cmbPage, number);
+}
+
+void frmSPkun::VScroll1_Change() {
+  PIC.place.top = static_cast<float>(-VScroll1.scroll.value);
+}
+
+void frmSPkun::HScroll1_Change() {
+  PIC.place.left = static_cast<float>(-HScroll1.scroll.value);
+}
+
+void frmSPkun::Form_KeyDown(forms::KeyPress& press) {
+  const int step = press.key == forms::Key::Up     ? -kKeyStep
+                   : press.key == forms::Key::Down ? kKeyStep
+                                                   : 0;
+  if (step != 0) SetScroll(VScroll1, VScroll1.scroll.value + step);
+}
+
+void frmSPkun::PIC_MouseDown(forms::Point at) {
+  Resume([&] {
+    dragX_ = foundation::RoundToInt32(at.x);
+    dragY_ = foundation::RoundToInt32(at.y);
+    dragging_ = PIC.grabCursor = true;
+  });
+}
+
+// The page follows the mouse in the directions in which there is something to scroll.
+void frmSPkun::PIC_MouseMove(forms::Point at) {
+  if (!dragging_) return;
+  const auto offset = [](const forms::Control& bar, float present, double moved) {
+    if (!bar.enabled) return present;
+    const double wanted = -(present + moved);
+    return static_cast<float>(
+        -std::clamp(wanted, double(bar.scroll.minimum), double(bar.scroll.maximum)));
+  };
+  PIC.place.top = offset(VScroll1, PIC.place.top, at.y - dragY_);
+  PIC.place.left = offset(HScroll1, PIC.place.left, at.x - dragX_);
+}
+
+void frmSPkun::PIC_MouseUp() {
+  dragging_ = PIC.grabCursor = false;
+  Resume([&] {
+    if (VScroll1.enabled) SetScroll(VScroll1, foundation::RoundToInt32(-PIC.place.top));
+    if (HScroll1.enabled) SetScroll(HScroll1, foundation::RoundToInt32(-PIC.place.left));
+  });
+}
+
+void frmSPkun::cmdHide_Click() {
+  Timer1.enabled = true;
+  cmdHide.visible = false;
+  cmdShow.visible = true;
+}
+
+void frmSPkun::cmdShow_Click() {
+  Timer2.enabled = true;
+  cmdHide.visible = true;
+  cmdShow.visible = false;
+}
+
+void frmSPkun::Timer1_Timer() {
+  ResizePanel(picLeft.place.width - kSlideStep);
+  if (picLeft.place.width > cmdHide.place.width) return;
+  Timer1.enabled = false;
+  LayOut();
+}
+
+void frmSPkun::Timer2_Timer() {
+  ResizePanel(picLeft.place.width + kSlideStep);
+  if (picLeft.place.width < lstPage.place.width) return;
+  Timer2.enabled = false;
+  LayOut();
+}
+
+// Its controls keep to its right edge.
+void frmSPkun::ResizePanel(float panelWidth) {
+  picLeft.place.width = panelWidth;
+  for (forms::Control* control : {&cmdHide, &cmdShow, &lstPage}) {
+    control->place.left = picLeft.place.width - control->place.width;
+  }
+}
+
+// Starts with the panel open, however the preview was left.
+void frmSPkun::Form_Load() {
+  scaleWidth = preview_layout::kWidth * kTwips;
+  scaleHeight = preview_layout::kHeight * kTwips;
+  windowState = forms::WindowState::Normal;
+  Timer1.enabled = Timer2.enabled = false;
+  cmdHide.visible = true;
+  cmdShow.visible = false;
+  ResizePanel(preview_layout::kPanelWidth * kTwips);
+  activeControl = &cmbPage;
+  LayOut();
+}
+
+void frmSPkun::Form_Resize() {
+  LayOut();
+}
+
+void frmSPkun::LayOut() {
+  constexpr float kBar = preview_layout::kBar * kTwips;
+  picTOOL.place.width = scaleWidth;
+  const float above = picTOOL.place.height;
+  const float below = std::max(0.0F, scaleHeight - above);
+  lblProduct.place.left = std::max(lblProduct.place.left, 0.0F);
+  picLeft.place = {0, above, picLeft.place.width, below};
+  lstPage.place.height = std::max(0.0F, below - lstPage.place.top);
+
+  const float pageLeft = picLeft.place.width + preview_layout::kPanelGap;
+  picPage.place = {pageLeft, above, std::max(0.0F, scaleWidth - pageLeft - kBar),
+                   std::max(0.0F, below - kBar)};
+  VScroll1.place = {scaleWidth - kBar, above, kBar, picPage.place.height};
+  HScroll1.place = {picLeft.place.width, scaleHeight - kBar,
+                    scaleWidth - picLeft.place.width - kBar, kBar};
+  Resume([&] {
+    SetRange(VScroll1, PIC.place.height - picPage.place.height, kLargeStep);
+    SetRange(HScroll1, PIC.place.width - picPage.place.width, kSmallStep);
+  });
+}
+
+}  // namespace report

@@ -1,0 +1,123 @@
+// frmSPkun, the print preview: the pages of a report one at a time, as pictures.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/form.h"
+#include "report/frmSPkun_layout.h"
+#include "report/report_services.h"
+
+namespace report {
+
+// A page that lives in a page file.
+inline constexpr std::string_view kCachePage = "cachepage";
+
+class frmSPkun : public forms::Form {
+ public:
+  explicit frmSPkun(Services services);
+
+  // The table of controls, lowest first.
+  CONTROL(PictureBox, picPage, preview_layout::Desk());
+  CONTROL(PictureBox, PIC, preview_layout::Page(picPage));
+  CONTROL(HScrollBar, HScroll1, preview_layout::ScrollBar("Across the page", 9));
+  CONTROL(VScrollBar, VScroll1, preview_layout::ScrollBar("Down the page", 10));
+  CONTROL(PictureBox, picLeft, preview_layout::SidePanel());
+  CONTROL(ListBox, lstPage, preview_layout::PageList(picLeft));
+  CONTROL(CommandButton, cmdHide,
+          preview_layout::PanelButton(picLeft, "«", "Close the list of pages", true));
+  CONTROL(CommandButton, cmdShow,
+          preview_layout::PanelButton(picLeft, "»", "Open the list of pages", false));
+  CONTROL(PictureBox, picTOOL, preview_layout::ToolBar());
+  CONTROL(CommandButton, cmdBack,
+          preview_layout::ToolButton(picTOOL, 16, 44, "<<", "Show previous page", 0));
+  CONTROL(ComboBox, cmbPage, preview_layout::PageSelector(picTOOL));
+  CONTROL(CommandButton, cmdNext,
+          preview_layout::ToolButton(picTOOL, 376, 44, ">>", "Show next page", 2));
+  CONTROL(CommandButton, cmdPrintPage,
+          preview_layout::ToolButton(picTOOL, 444, 136, "&Print this page",
+                                     "Prints the current page on display", 3));
+  CONTROL(CommandButton, cmdPrint,
+          preview_layout::ToolButton(picTOOL, 588, 100, "&Print All",
+                                     "Prints all the pages in preview.", 4, forms::Look::Primary));
+  CONTROL(TextBox, txtPage, preview_layout::PageNumber(picTOOL));
+  CONTROL(CommandButton, cmdGO,
+          preview_layout::ToolButton(picTOOL, 768, 64, "&Show",
+                                     "click here to jump to the page number entered", 6,
+                                     forms::Look::OnEarth, false));
+  CONTROL(CommandButton, cmdExport,
+          preview_layout::ToolButton(picTOOL, 700, 80, "&Export",
+                                     "Export pages to PDF, JPEG, BMP format and send them by email "
+                                     "or other media",
+                                     11, forms::Look::OnEarth, false));
+  CONTROL(CommandButton, cmdOptions,
+          preview_layout::ToolButton(picTOOL, 788, 80, "&Options", "", 12, forms::Look::OnEarth,
+                                     false));
+  CONTROL(Label, lblProduct, preview_layout::Slogan(picTOOL));
+  CONTROL(Timer, Timer1, {.enabled = false, .interval = preview_layout::kSlideInterval});
+  CONTROL(Timer, Timer2, {.enabled = false, .interval = preview_layout::kSlideInterval});
+
+  // Runs the form's own printing.
+  void SendToPrint(forms::Form& myObject) { myObject.PrintForm(); }
+
+  // Empties the lists of pages and deletes the page files of the report before.
+  void RESET();
+
+  // The direct path: the form's picture and its picture boxes onto PIC, moved by X and Y twips; the
+  // first page clears it and gives it its size.
+  void setPage(forms::Form& page, double X = 0, double Y = 0);
+  void setPage2(forms::Form& page, double X = 0, double Y = 0);
+
+  void KillAllTmpFile();
+  // Writes what stands on the picture box; failures are ignored.
+  void CreateTMPfile(std::int16_t PageNum, const forms::Control& pictureBox);
+  // Pname "cachepage" for a page file, whose number the title tells behind its first "P".
+  void AddPage(std::string_view Pname, std::string_view PTitle);
+
+  void cmbPage_Click();
+  void cmdback_Click();
+  void cmdHide_Click();
+  void cmdPrintPage_Click();
+
+  // A page onto PIC or the printer. PageNum takes the number that the title tells.
+  void ShowPage(std::int16_t& PageNum, std::string_view Pname, std::string_view PTitle,
+                bool ToPrinter);
+
+  void Form_Load() override;
+  void Form_Resize() override;
+  void Form_KeyDown(forms::KeyPress& press) override;
+
+  void cmdNext_Click();
+  void cmdShow_Click();
+  void cmdGO_Click();
+  void cmdPrint_Click();
+  void lstPage_Click();
+  void lstPage_Hover(int row);
+  void VScroll1_Change();
+  void HScroll1_Change();
+  void PIC_MouseDown(forms::Point at);
+  void PIC_MouseMove(forms::Point at);
+  void PIC_MouseUp();
+  void Timer1_Timer();  // the side panel closes
+  void Timer2_Timer();  // and opens
+
+ private:
+  const std::string& PageName(int number) const;  // from 1; Subscript outside
+  const std::string& PageTitle(int number) const;
+  void DrawDirectly(std::int16_t PageNum, forms::DrawingTarget& target);
+  void PaintForm(forms::Form& page, double X, double Y);
+  void ResizePanel(float width);
+  void LayOut();
+  void SetOrientation();
+
+  Services services_;
+  std::vector<std::string> colPageName_, colPageTitle_;
+  std::string backgroundPath_;
+  bool dragging_ = false;
+  int dragX_ = 0, dragY_ = 0;
+  int directPages_ = 0;
+};
+
+}  // namespace report

@@ -1,0 +1,28 @@
+// What is applied to forms when they are shown, steered by the tags of their controls.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "forms/form.h"
+
+namespace report {
+
+// The colour of the planet that a caption names, whole or by three letters, case aside; black for
+// any other.
+forms::Colour PlanetColourOf(std::string_view caption);
+
+// Labels in the colours of their planets, where the colour option is on; tags "ch", "cs" and "cs2"
+// are black.
+void ColourForm(forms::Form& form, bool colourOption);
+
+// Captions and texts in a language: the phrase of its file, in its face, larger by its step and
+// `extraSize` points unless the page keeps its sizes. Tag "n" leaves a control alone, "hhh" takes
+// one in whatever its face, "hcon" changes the face without a phrase. Failures are ignored.
+void ApplyLanguageFonts(forms::Form& form, std::int32_t language, int extraSize,
+                        bool blnDontChangePageFontSize);
+
+// Both, as a form that loads has them.
+void ApplyDisplayStyles(forms::Form& form, std::int32_t language);
+
+}  // namespace report

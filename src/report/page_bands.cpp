@@ -1,0 +1,58 @@
+#include "report/page_bands.h"
+
+#include "foundation/calendar.h"
+#include "foundation/numbers.h"
+#include "foundation/version.h"
+#include "foundation/zzVorin.h"
+#include "report/modDispRUNTIME.h"
+#include "report/modPrint.h"
+
+namespace report {
+namespace {
+
+using foundation::NumberText;
+
+constexpr float kTagGap = 50;  // twips
+
+std::string Born(const foundation::SessionRecord& record) {
+  return "Date: " + NumberText(record.Day) + "/" + NumberText(record.Month) + "/" +
+         NumberText(record.Year) + "  Time: " + foundation::PadDigits(record.Hour, 2) + ":" +
+         foundation::PadDigits(record.Minute, 2) + ":" + foundation::PadDigits(record.Second, 2) +
+         "  Place: " + record.CityName + " " + record.LatitudeText + " " + record.LongitudeText +
+         " " + record.ZoneMeridianText;
+}
+
+}  // namespace
+
+frmHeader::frmHeader(const foundation::SessionTable& session) : Form("frmHeader", "", 11250, 900) {
+  lblName.caption = session.Current().PersonName;
+  lblDOB.caption = Born(session.Current());
+  ApplyDisplayStyles(*this, session.CurrentLanguage);
+}
+
+frmFooter::frmFooter(foundation::Settings& settings) : Form("frmFooter", "", 11250, 900) {
+  const auto line = [&](std::string_view key) {
+    return settings.GetSetting(foundation::kProgramName, foundation::kFooterSection, key, "");
+  };
+  lblCompany.caption = line("company");
+  lblTag.caption = line("tag");
+  lblAddress.caption = line("address");
+  ApplyDisplayStyles(*this, 0);
+  lblCompany_Change();
+}
+
+void frmFooter::lblCompany_Change() {
+  lblTag.place.left = lblCompany.place.left + lblCompany.place.width + kTagGap;
+}
+
+void DrawBands(const frmPrintLayout& layout, int PageNum, const Services& services,
+               forms::DrawingTarget& target) {
+  if (PageNum == 0) {
+    frmHeader header(services.session);
+    DrawFormOnTarget(header, target, layout.picHead.place.left, layout.picHead.place.top);
+  }
+  frmFooter footer(services.settings);
+  DrawFormOnTarget(footer, target, layout.picFoot.place.left, layout.picFoot.place.top);
+}
+
+}  // namespace report

@@ -1,0 +1,18 @@
+#include "report/pk_Durvela.h"
+
+namespace report {
+
+// Row 0 is always written; the others begin empty.
+pk_Durvela::pk_Durvela() : Form("pk_Durvela", "", page_layout::kWidth, page_layout::kHeight) {
+  backColour = forms::Rgb(0xFFFFFF);
+  for (const forms::ControlArray* column : Columns()) {
+    for (int row = 1; row <= column->UBound(); ++row) (*column)[row].caption.clear();
+  }
+}
+
+std::array<forms::ControlArray*, 10> pk_Durvela::Columns() {
+  return {&lblDate,       &lblSR,      &lblSS,       &lblDM,    &lblDurvelaIN,
+          &lblDurvelaOut, &lblGulikIN, &lblGulikOut, &lblyumIN, &lblyumOut};
+}
+
+}  // namespace report

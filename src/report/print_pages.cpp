@@ -1,0 +1,81 @@
+// The two print commands of the preview.
+
+#include "foundation/error.h"
+#include "foundation/resume.h"
+#include "report/frmSPkun.h"
+
+namespace report {
+namespace {
+
+constexpr double kWidestPortrait = 21000;  // twips
+
+// Statement by statement: after one that fails the user says whether the next is tried.
+class AskingUser {
+ public:
+  AskingUser(foundation::MessageBoxes& boxes, forms::Printer& printer)
+      : boxes_(boxes), printer_(printer) {}
+
+  template <typename Statement>
+  void Do(Statement statement) {
+    if (stopped_) return;
+    try {
+      statement();
+    } catch (const foundation::Error& error) {
+      Ask(error);
+    }
+  }
+
+  bool Stopped() const { return stopped_; }
+
+ private:
+  void Ask(const foundation::Error& error) {
+    const auto answer =
+        boxes_.Show(std::string(error.what()) + ". Do you want to continue with the next page?",
+                    foundation::MessageIcon::Exclamation, foundation::MessageButtons::YesNo);
+    if (answer == foundation::MessageAnswer::Yes) return;
+    stopped_ = true;
+    foundation::Resume([&] { printer_.EndDoc(); });
+  }
+
+  foundation::MessageBoxes& boxes_;
+  forms::Printer& printer_;
+  bool stopped_ = false;
+};
+
+}  // namespace
+
+void frmSPkun::SetOrientation() {
+  services_.printer.SetOrientation(PIC.place.width > kWidestPortrait
+                                       ? forms::Orientation::Landscape
+                                       : forms::Orientation::Portrait);
+}
+
+void frmSPkun::cmdPrint_Click() {
+  forms::Printer& printer = services_.printer;
+  AskingUser user(services_.boxes, printer);
+  user.Do([&] { printer.AskUser(); });
+  user.Do([&] { SetOrientation(); });
+  user.Do([&] { printer.Print(""); });
+  for (std::int16_t i = 1; !user.Stopped() && i <= cmbPage.items->ListCount(); ++i) {
+    user.Do([&] { ShowPage(i, PageName(i), PageTitle(i), true); });
+    user.Do([&] { printer.NewPage(); });
+  }
+  user.Do([&] { printer.EndDoc(); });
+}
+
+void frmSPkun::cmdPrintPage_Click() {
+  forms::Printer& printer = services_.printer;
+  foundation::Resume([&] { SetOrientation(); });
+  foundation::Resume([&] { printer.Print(""); });
+  try {
+    const int number = cmbPage.items->ListIndex() + 1;
+    auto page = static_cast<std::int16_t>(number);
+    ShowPage(page, PageName(number), PageTitle(number), true);
+    printer.EndDoc();
+  } catch (const foundation::Error& error) {
+    services_.boxes.Show("Printing Cancelled: " + std::string(error.what()),
+                         foundation::MessageIcon::Exclamation);
+  }
+}
+
+}  // namespace report

@@ -1,0 +1,21 @@
+// What the report is given to work with.
+#pragma once
+
+#include "forms/screen_services.h"
+#include "foundation/machine.h"
+#include "foundation/session.h"
+#include "foundation/settings.h"
+
+namespace report {
+
+struct Services {
+  foundation::Settings& settings;
+  foundation::SessionTable& session;
+  foundation::MessageBoxes& boxes;
+  foundation::Yielder& yielder;
+  forms::FormHost& host;
+  const forms::Rasteriser& rasteriser;
+  forms::Printer& printer;
+};
+
+}  // namespace report
