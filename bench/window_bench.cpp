@@ -12,6 +12,7 @@
 #include <string>
 
 #include "foundation/numbers.h"
+#include "report/page_row.h"
 #include "screens/find_in_list.h"
 #include "screens/qt/application.h"
 
@@ -85,6 +86,36 @@ void MeasurePicker(screens::qt::Program& program) {
   Report("a keystroke's search there, ms: ", 1000 * (SecondsSinceBoot() - start));
 }
 
+// A year's report, and the turning of a page.
+void MeasureReport(screens::qt::Program& program) {
+  screens::frmDurvela& timetable = program.Timetable();
+  program.host.Show(timetable);
+  timetable.DT1.moment = foundation::DateFromParts(2011, 1, 1);
+  timetable.DT2.moment = foundation::DateFromParts(2011, 12, 31);
+  double start = SecondsSinceBoot();
+  timetable.cmdPreview_Click();
+  Report("a year's report, ms: ", 1000 * (SecondsSinceBoot() - start));
+
+  foundation::SessionTable session = {};
+  session.Current().LatitudeText = "28.40N";
+  session.Current().LongitudeText = "77.13E";
+  session.Current().ZoneMeridianText = "82.30E";
+  report::pk_Durvela page;
+  start = SecondsSinceBoot();
+  for (int day = 0; day < 365; ++day) {
+    report::FillRow(page, day % 31, timetable.DT1.moment + day + 0.5, session);
+  }
+  Report("of it the calculation, ms: ", 1000 * (SecondsSinceBoot() - start));
+
+  report::frmSPkun& preview = program.Preview();
+  RunFor(1);
+  start = SecondsSinceBoot();
+  preview.cmdNext_Click();
+  program.host.WindowOf(preview).Mirror();
+  program.host.WindowOf(preview).repaint();
+  Report("turning a page, ms: ", 1000 * (SecondsSinceBoot() - start));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -102,5 +133,6 @@ int main(int argc, char** argv) {
   Report("processor while idle, per cent: ", 100 * (ProcessorSeconds() - before) / kIdleSeconds);
 
   MeasurePicker(program);
+  MeasureReport(program);
   return 0;
 }

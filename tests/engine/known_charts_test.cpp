@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <ostream>
+#include <string>
 
 #include "engine/clsPP.h"
 
@@ -27,6 +29,10 @@ struct KnownChart {
   std::array<const char*, 3> relations;
   const char* motion;
 };
+
+void PrintTo(const KnownChart& chart, std::ostream* os) {
+  *os << chart.place.longitude << ' ' << chart.at.year;
+}
 
 const KnownChart kCharts[] = {
 #include "engine/known_charts.inc"
@@ -99,7 +105,8 @@ TEST_P(KnownCharts, TellWhoGoesBack) {
   EXPECT_EQ(motion, chart.motion);
 }
 
-INSTANTIATE_TEST_SUITE_P(Engine, KnownCharts, testing::ValuesIn(kCharts));
+INSTANTIATE_TEST_SUITE_P(Engine, KnownCharts, testing::ValuesIn(kCharts),
+                         [](const auto& row) { return "Row" + std::to_string(row.index + 1); });
 
 TEST(PublicVariables, ShowThePositions) {
   clsPP pp;

@@ -20,12 +20,16 @@ struct Timetable {
   foundation::SessionTable session;
   Picker picker;
   support::FakeHost& host = picker.host;
-  std::vector<std::string> reports;  // their cities
+  std::vector<std::string> reports;  // their places
   forms::Form dashboard{"Dashboard", "", 1000, 1000};
   frmDurvela form{Services{clock, settings, session, boxes, browser, host},
                   dashboard,
                   {[this]() -> frmCity& { return picker.form; },
-                   [this](const report::ReportInput& input) { reports.push_back(input.city); }}};
+                   [this](const report::ReportInput& input) {
+                     reports.push_back(input.city + " " + input.latitude + " " + input.longitude +
+                                       " " + input.zoneMeridian + " " + input.zoneTime + " " +
+                                       input.country);
+                   }}};
 
   // What the last Quick View has drawn, the moves of the pen aside.
   std::vector<std::string> Drawn() const {

@@ -110,6 +110,13 @@ TEST(Timetable, SavesThePlaceThatItShows) {
   EXPECT_EQ(timetable.boxes.shown[0].icon, foundation::MessageIcon::Information);
 }
 
+TEST(Timetable, HandsItsRangeAndPlaceToTheReport) {
+  Timetable timetable;
+  timetable.form.Form_Load();
+  timetable.form.cmdPreview.onClick();
+  EXPECT_EQ(timetable.reports, (Calls{"Delhi 28.40N 77.13E 82.30E -5.30 India"}));
+}
+
 TEST(Timetable, EditsItsPlaceWithThePicker) {
   Timetable timetable;
   timetable.form.Form_Load();

@@ -62,6 +62,7 @@ class Tour {
     }
     program.Picker().Load("India", "Ujjain", program.dashboard);
     TakeForm(program, program.Picker(), QStringLiteral("picker"), false);
+    TakeReport(program);
   }
 
   bool Failed() const { return failed_; }
@@ -79,6 +80,26 @@ class Tour {
       Take(window, name + QStringLiteral("-largest"));
     }
     program.host.Unload(form);
+  }
+
+  // A report of two months, as the preview shows it, and its first page whole.
+  void TakeReport(screens::qt::Program& program) {
+    screens::frmDurvela& timetable = program.Timetable();
+    program.host.Show(timetable);
+    timetable.cmdPreview_Click();
+    report::frmSPkun& preview = program.Preview();
+    FormWindow& window = program.host.WindowOf(preview);
+    window.Mirror();
+    Wait(1000);  // for the side panel
+    Take(window, QStringLiteral("preview"));
+    forms::PicturePtr page = preview.PIC.picture;
+    const QString path = folder_.filePath(QStringLiteral("page-1.png"));
+    QImage image(909, 682, QImage::Format_RGB32);
+    QPainter painter(&image);
+    screens::qt::PaintPicture(painter, *page, QRectF(image.rect()));
+    painter.end();
+    failed_ = failed_ || !image.save(path);
+    std::printf("%s\n", qPrintable(path));
   }
 
   static void Wait(int milliseconds) {

@@ -168,6 +168,7 @@ void FormWindow::Dispatch(const std::function<void()>& handler) {
   ++handlers_;
   RunHandler(handler);
   Mirror();
+  emit HandlerDone();
   --handlers_;
   if (retired_ && handlers_ == 0) deleteLater();
 }

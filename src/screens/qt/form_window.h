@@ -30,6 +30,7 @@ class FormWindow : public QWidget {
  signals:
   void ClosedByUser();  // and the form did not object
   void Hidden();        // by the program or by closing; not by minimising
+  void HandlerDone();   // which may have changed other forms too
 
  protected:
   void paintEvent(QPaintEvent*) override;

@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <QWindow>
 #include <cstdlib>
+#include <vector>
 
 namespace screens::qt {
 
@@ -19,6 +20,8 @@ FormWindow& QtHost::WindowOf(forms::Form& form) {
   auto* window = new FormWindow(form);
   windows_.emplace(&form, window);
   QObject::connect(window, &FormWindow::ClosedByUser, window, [this, &form] { Unload(form); });
+  QObject::connect(window, &FormWindow::HandlerDone, window,
+                   [this, window] { MirrorOthers(*window); });
   try {
     form.Form_Load();
   } catch (...) {
@@ -27,6 +30,15 @@ FormWindow& QtHost::WindowOf(forms::Form& form) {
   }
   window->Mirror();
   return *window;
+}
+
+// The other windows, of which any may close while it is mirrored.
+void QtHost::MirrorOthers(const FormWindow& window) {
+  std::vector<FormWindow*> others;
+  for (const auto& [form, other] : windows_) {
+    if (other != &window && other->isVisible()) others.push_back(other);
+  }
+  for (FormWindow* other : others) other->Mirror();
 }
 
 void QtHost::Show(forms::Form& form) {

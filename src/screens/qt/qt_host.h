@@ -30,6 +30,7 @@ class QtHost : public forms::FormHost {
   FormWindow& WindowOf(forms::Form& form);
 
  private:
+  void MirrorOthers(const FormWindow& window);
   static void CentreOn(const FormWindow& owner, FormWindow& window);
 
   std::map<const forms::Form*, FormWindow*> windows_;

@@ -69,13 +69,19 @@ void Paint(QPainter& painter, const forms::Outline& outline) {
   }
 }
 
-bool IsInstalled(std::string_view face) {
-  return QFontDatabase::families().contains(screens::qt::ToQt(face));
+// The measures of the legacy Hindi face, in its size, and how much smaller an open face has to be
+// to stand where it would: its letters reach further up and down.
+constexpr double kLegacyLine = 1.05, kLegacyAscent = 0.8, kLegacyScale = 0.85;
+
+bool IsStandInForLegacyHindi(const forms::Font& font) {
+  static const bool installed =
+      QFontDatabase::families().contains(screens::qt::ToQt(foundation::kLegacyHindiFace));
+  return font.name == foundation::kLegacyHindiFace && !installed;
 }
 
 // A text in the encoding of a face that is not here would show as Latin letters.
 QString Readable(std::string_view text, const forms::Font& font) {
-  const bool legacy = font.name == foundation::kLegacyHindiFace && !IsInstalled(font.name);
+  const bool legacy = IsStandInForLegacyHindi(font);
   return screens::qt::ToQt(legacy ? foundation::FromLegacyHindi(text) : std::string(text));
 }
 
@@ -130,7 +136,8 @@ QFont ToQt(const forms::Font& font) {
   if (!HasOpenStandIn(font.name)) {
     result.setFamilies(QStringList{ToQt(font.name)} + result.families());
   }
-  result.setPixelSize(qMax(1, qRound(font.size * kTwipsPerPoint / kTwipsPerPixel)));
+  const double scale = IsStandInForLegacyHindi(font) ? kLegacyScale : 1;
+  result.setPixelSize(qMax(1, qRound(scale * font.size * kTwipsPerPoint / kTwipsPerPixel)));
   result.setBold(font.bold);
   result.setItalic(font.italic);
   result.setUnderline(font.underline);
@@ -162,10 +169,12 @@ double QtTextMeasure::TextWidth(std::string_view text, const forms::Font& font) 
 }
 
 double QtTextMeasure::LineHeight(const forms::Font& font) const {
+  if (IsStandInForLegacyHindi(font)) return kLegacyLine * font.size * kTwipsPerPoint;
   return QFontMetricsF(ToQt(font)).height() * kTwipsPerPixel;
 }
 
 double QtTextMeasure::Ascent(const forms::Font& font) const {
+  if (IsStandInForLegacyHindi(font)) return kLegacyAscent * font.size * kTwipsPerPoint;
   return QFontMetricsF(ToQt(font)).ascent() * kTwipsPerPixel;
 }
 

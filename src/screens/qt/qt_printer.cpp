@@ -27,11 +27,13 @@ QPrinter& QtPrinter::Device() {
   if (!printer_) {
     printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer_->setFullPage(true);
+    if (!pdfFile_.isEmpty()) printer_->setOutputFileName(pdfFile_);
   }
   return *printer_;
 }
 
 void QtPrinter::AskUser() {
+  if (!pdfFile_.isEmpty()) return;
   QPrintDialog dialog(&Device());
   if (dialog.exec() != QDialog::Accepted) {
     throw foundation::Error(foundation::ErrorKind::Cancelled);

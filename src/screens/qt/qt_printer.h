@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPrinter>
 #include <memory>
+#include <utility>
 
 #include "forms/screen_services.h"
 #include "screens/qt/qt_painting.h"
@@ -19,6 +20,10 @@ class QtRasteriser : public forms::Rasteriser {
 // The toolkit's printer and its dialog. A page on which nothing was drawn is not printed.
 class QtPrinter : public forms::Printer {
  public:
+  QtPrinter() = default;
+  // Into a PDF file, without asking anybody.
+  explicit QtPrinter(QString pdfFile) : pdfFile_(std::move(pdfFile)) {}
+
   void AskUser() override;
   void SetOrientation(forms::Orientation orientation) override;
   // FileAccess where the printer takes no document.
@@ -32,6 +37,7 @@ class QtPrinter : public forms::Printer {
   QPrinter& Device();
   QPainter& Page();
 
+  QString pdfFile_;
   std::unique_ptr<QPrinter> printer_;
   std::unique_ptr<QPainter> painter_;  // while a document is open
   bool turnPage_ = false;              // before the next drawing

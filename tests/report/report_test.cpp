@@ -1,0 +1,161 @@
+// The report from its range of days to its page files.
+
+#include <gtest/gtest.h>
+
+#include "report/reporting.h"
+#include "support/errors.h"
+#include "support/locales.h"
+
+namespace report {
+namespace {
+
+using foundation::DateFromParts;
+
+bool Has(const std::vector<std::string>& calls, const std::string& call) {
+  return std::find(calls.begin(), calls.end(), call) != calls.end();
+}
+
+// Figures worked out independently for Delhi at noon; each at its column and row.
+TEST(ReportPage, TellsTheFiguresOfEachDay) {
+  struct Day {
+    int month, day, row;
+    const char *date, *figures[9];
+  };
+  const Day days[] = {{1,
+                       1,
+                       0,
+                       "1-Sat",
+                       {"07:14:00", "17:35:00", "10:21:00", "09:49:15", "11:06:52", "16:17:22",
+                        "17:35:00", "13:42:07", "14:59:45"}},
+                      {1,
+                       10,
+                       9,
+                       "10-Mon",
+                       {"07:15:00", "17:42:00", "10:27:00", "08:33:23", "09:51:45", "13:46:53",
+                        "15:05:15", "11:10:08", "12:28:30"}},
+                      {11,
+                       30,
+                       29,
+                       "30-Wed",
+                       {"06:55:00", "17:24:00", "10:29:00", "12:09:30", "13:28:08", "10:50:52",
+                        "12:09:30", "08:13:37", "09:32:15"}}};
+  const int columns[] = {2250, 3420, 4500, 5730, 6810, 8010, 9120, 10320, 11460};
+  for (const Day& day : days) {
+    Reporting reporting;
+    reporting.Make(DateFromParts(2011, day.month, 1), DateFromParts(2011, day.month, day.day));
+    const auto printed = reporting.Printed();
+    const int shift = day.row >= 27 ? 15 : 0, top = 1320 + 270 * day.row;
+    const auto at = [&](int column, const char* text) {
+      return "Print " + std::to_string(column - shift) + " " + std::to_string(top) + " " + text;
+    };
+    EXPECT_TRUE(Has(printed, at(1125, day.date))) << day.date;
+    for (std::size_t i = 0; i < 9; ++i) {
+      EXPECT_TRUE(Has(printed, at(columns[i], day.figures[i]))) << day.figures[i];
+    }
+  }
+}
+
+TEST(ReportPage, HasItsHeadsAndItsPlace) {
+  Reporting reporting;
+  reporting.Make(DateFromParts(2011, 3, 5), DateFromParts(2011, 3, 5));
+  const auto printed = reporting.Printed();
+  EXPECT_TRUE(Has(printed, "Print 1110 240 nqosZyk ¼ekpZ 2011½"));
+  EXPECT_TRUE(Has(printed, "Print 10770 720 ;e?kaVd dky"));
+  // 44 letters of 100 twips, to the left of 12465.
+  EXPECT_TRUE(Has(printed, "Print 8065 360 (Delhi  Long:77.13E  Lat:28.40N  Zone:-5.30)"))
+      << printed[1];
+  EXPECT_EQ(printed.size(), 2 + 3 + 10 + 1 + 10U);  // one row
+  for (const char* rule : {"PaintPicture 720 270 12150 15", "PaintPicture 720 9750 12150 15",
+                           "PaintPicture 12870 270 15 9480", "PaintPicture 2160 690 15 9060"}) {
+    EXPECT_TRUE(Has(reporting.host.target.calls, rule)) << rule;
+  }
+}
+
+TEST(ReportPage, CountsWeekdaysFromTheUsersFirst) {
+  foundation::LocaleNames names = foundation::EnglishNames();
+  names.firstWeekday = 2;
+  const support::UserNamesScope scope(names);
+  Reporting reporting;
+  reporting.Make(DateFromParts(2011, 3, 5), DateFromParts(2011, 3, 5));
+  EXPECT_TRUE(Has(reporting.Printed(), "Print 1125 1320 5-Sun"));  // a Saturday
+}
+
+TEST(Report, MakesAPageAMonth) {
+  struct Range {
+    double from, to;
+    const char* pages;
+    std::size_t lastRows;
+  };
+  const Range ranges[] = {
+      {DateFromParts(2011, 1, 28), DateFromParts(2011, 2, 2),
+       "1: Durvela January 2011 ..P1|2: Durvela February 2011 ..P2|", 2},
+      {DateFromParts(2010, 12, 31), DateFromParts(2011, 1, 31),
+       "1: Durvela December 2011 ..P1|2: Durvela January 2011 ..P2|", 31},
+      {DateFromParts(2011, 3, 6), DateFromParts(2011, 3, 5), "1: Durvela March 2011 ..P1|", 0}};
+  for (const Range& range : ranges) {
+    Reporting reporting;
+    reporting.Make(range.from, range.to);
+    EXPECT_EQ(reporting.Pages(), range.pages);
+    // Of an empty page the static heads, and row 0 as it is made.
+    const std::size_t rows = range.lastRows == 0 ? 1 : range.lastRows;
+    const std::size_t head = range.lastRows == 0 ? 14 : 16;
+    EXPECT_EQ(reporting.Printed().size(), head + 10 * rows) << range.pages;
+    EXPECT_EQ(reporting.preview.PIC.place.width, 13635);
+    EXPECT_EQ(reporting.status.caption, "");
+  }
+}
+
+TEST(Report, LeavesAFileAMonthUntilTheNext) {
+  Reporting reporting;
+  reporting.folder.Write("temp/foreign.tmp", "x");
+  reporting.folder.Write("temp/kept.txt", "x");
+  reporting.Make(DateFromParts(2011, 1, 1), DateFromParts(2011, 12, 31));
+  EXPECT_EQ(reporting.Files(), 13);  // one of them kept.txt
+  EXPECT_TRUE(std::filesystem::exists(reporting.folder.path / "temp/prv12.tmp"));
+  EXPECT_EQ(reporting.host.calls, (std::vector<std::string>{"Unload frmSPkun", "Show frmSPkun"}));
+  reporting.Make(DateFromParts(2011, 1, 1), DateFromParts(2011, 1, 2));
+  EXPECT_EQ(reporting.Files(), 2);
+}
+
+TEST(Report, KeepsItsPlaceWhateverComesInBetween) {
+  Reporting reporting;
+  reporting.yielder.between = [&](int turn) {
+    EXPECT_EQ(reporting.status.caption, turn == 1   ? "Loading.. 5 March 2011"
+                                        : turn == 2 ? "Loading.. 6 March 2011"
+                                                    : "");
+    reporting.session.Current().LatitudeText = "60.00N";
+    reporting.session.Current().CityName = "Elsewhere";
+  };
+  reporting.Make(DateFromParts(2011, 3, 5), DateFromParts(2011, 3, 6));
+  EXPECT_TRUE(Has(reporting.Printed(), "Print 2250 1590 06:42:00"));
+  EXPECT_TRUE(
+      Has(reporting.Printed(), "Print 8065 360 (Delhi  Long:77.13E  Lat:28.40N  Zone:-5.30)"));
+}
+
+TEST(Report, SurvivesASecondPress) {
+  Reporting reporting;
+  reporting.yielder.between = [&](int turn) {
+    if (turn == 2) reporting.Make(DateFromParts(2011, 5, 1), DateFromParts(2011, 5, 2));
+  };
+  reporting.Make(DateFromParts(2011, 3, 5), DateFromParts(2011, 3, 9));
+  EXPECT_EQ(reporting.Pages(), "1: Durvela May 2011 ..P1|2: Durvela March 2011 ..P1|");
+}
+
+TEST(Report, FailsWhereADayHasNoSun) {
+  Reporting reporting;
+  forms::Control status;
+  const ReportInput polar = {DateFromParts(2011, 6, 5),
+                             DateFromParts(2011, 6, 6),
+                             0.5,
+                             "70.00N",
+                             "25.30E",
+                             "30.0E",
+                             "-2",
+                             "Tromso",
+                             "Norway",
+                             status};
+  EXPECT_ANY_THROW(MakeReport(polar, reporting.preview, reporting.services));
+}
+
+}  // namespace
+}  // namespace report

@@ -1,0 +1,70 @@
+// The report on fakes, in a program folder of its own.
+#pragma once
+
+#include "report/make_report.h"
+#include "support/app_folder.h"
+#include "support/machine_fakes.h"
+#include "support/screen_fakes.h"
+
+namespace report {
+
+// Pictures come out as 2 by 1 dots.
+struct FakeRasteriser : forms::Rasteriser {
+  mutable int rendered = 0;
+  forms::Raster Render(const forms::Picture&) const override {
+    ++rendered;
+    return {.width = 2, .height = 1, .rgb = {255, 0, 0, 1, 2, 3}};
+  }
+};
+
+struct Reporting {
+  support::AppFolderScope folder;
+  support::FakeSettings settings;
+  support::FakeMessageBoxes boxes;
+  support::FakeYielder yielder;
+  support::FakeHost host;
+  support::RecordingTarget printer;
+  foundation::SessionTable session;
+  FakeRasteriser rasteriser;
+  Services services{settings, session, boxes, yielder, host, rasteriser, printer};
+  frmSPkun preview{services};
+  forms::Control status;
+
+  Reporting() { foundation::InitSessionRecord(session, foundation::DateFromParts(2011, 3, 5)); }
+
+  // From one day to another at noon in Delhi.
+  void Make(foundation::DateTime from, foundation::DateTime to) {
+    MakeReport({from, to, 0.5, "28.40N", "77.13E", "82.30E", "-5.30", "Delhi", "India", status},
+               preview, services);
+  }
+
+  // The entries of the page list, with a stroke behind each.
+  std::string Pages() const {
+    std::string pages;
+    for (int i = 0; i < preview.cmbPage.items->ListCount(); ++i) {
+      pages += std::string(preview.cmbPage.items->List(i)) + "|";
+    }
+    return pages;
+  }
+
+  int Files() const {
+    int files = 0;
+    for ([[maybe_unused]] const auto& entry :
+         std::filesystem::directory_iterator(folder.path / "temp")) {
+      ++files;
+    }
+    return files;
+  }
+
+  // Texts of the target's Print calls, of the last page drawn.
+  std::vector<std::string> Printed() const {
+    std::vector<std::string> printed;
+    for (const std::string& call : host.target.calls) {
+      if (call == "Cls") printed.clear();
+      if (call.starts_with("Print ")) printed.push_back(call);
+    }
+    return printed;
+  }
+};
+
+}  // namespace report
