@@ -39,26 +39,26 @@ void PicturePage::Line(double x1, double y1, double x2, double y2, Colour colour
   } else {
     outline.stroke = {colour, lineWidth_ * kTwipsPerPixel};
   }
-  Editable().items.push_back(std::move(outline));
+  Editable().items.emplace_back(std::move(outline));
 }
 
 void PicturePage::PaintPicture(const PicturePtr& picture, double x, double y, double width,
                                double height) {
-  if (picture) Editable().items.push_back(Inset{picture, {x, y}, width, height});
+  if (picture) Editable().items.emplace_back(Inset{picture, {x, y}, width, height});
 }
 
 void PicturePage::Print(std::string_view text) {
   Picture& picture = Editable();
   if (y_ < picture.height) {
-    picture.items.push_back(Lettering{.text = std::string(text),
-                                      .at = {x_, y_ + measure_.Ascent(font_)},
-                                      .size = font_.size * kTwipsPerPoint,
-                                      .bold = font_.bold,
-                                      .colour = colour_,
-                                      .face = font_.name,
-                                      .italic = font_.italic,
-                                      .underline = font_.underline,
-                                      .strikethrough = font_.strikethrough});
+    picture.items.emplace_back(Lettering{.text = std::string(text),
+                                         .at = {x_, y_ + measure_.Ascent(font_)},
+                                         .size = font_.size * kTwipsPerPoint,
+                                         .bold = font_.bold,
+                                         .colour = colour_,
+                                         .face = font_.name,
+                                         .italic = font_.italic,
+                                         .underline = font_.underline,
+                                         .strikethrough = font_.strikethrough});
   }
   x_ = 0;
   y_ += TextHeight(text);
