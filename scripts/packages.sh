@@ -1,6 +1,6 @@
 # What Durvela needs of a Debian 12 machine. Sourced by ./run and ./test.
 
-run_packages=(cmake g++ ninja-build qt6-base-dev qt6-wayland fonts-noto-core
+run_packages=(cmake g++ ninja-build qt6-base-dev qt6-wayland libjpeg62-turbo-dev fonts-noto-core
   fonts-lohit-deva fonts-lohit-mlym fonts-lohit-knda)
 display_packages=(xvfb xauth)
 test_packages=(libgtest-dev locales)

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "bitmap/bmp_file.h"
+#include "bitmap/raster.h"
 #include "forms/units.h"
 #include "foundation/modFileFx.h"
 #include "foundation/numbers.h"
@@ -21,42 +22,13 @@ fs::path PageFile(std::int16_t number) {
   return foundation::TempFolder() / ("prv" + std::to_string(number) + std::string(kExtension));
 }
 
-// From the bottom row up, blue first.
-bitmap::Pixels ToPixels(const forms::Raster& dots) {
-  bitmap::Pixels pixels(dots.width, dots.height);
-  const std::uint8_t* rgb = dots.rgb.data();
-  for (int y = dots.height - 1; y >= 0; --y) {
-    const auto row = pixels.Row(y);
-    for (std::size_t x = 0; x < 3 * static_cast<std::size_t>(dots.width); x += 3, rgb += 3) {
-      row[x] = rgb[2];
-      row[x + 1] = rgb[1];
-      row[x + 2] = rgb[0];
-    }
-  }
-  return pixels;
-}
-
-forms::Raster ToRaster(const bitmap::Pixels& pixels) {
-  forms::Raster dots = {.width = pixels.Width(), .height = pixels.Height()};
-  dots.rgb.resize(3 * static_cast<std::size_t>(dots.width) * static_cast<std::size_t>(dots.height));
-  std::uint8_t* rgb = dots.rgb.data();
-  for (int y = dots.height - 1; y >= 0; --y) {
-    const auto row = pixels.Row(y);
-    for (std::size_t x = 0; x < 3 * static_cast<std::size_t>(dots.width); x += 3, rgb += 3) {
-      rgb[0] = row[x + 2];
-      rgb[1] = row[x + 1];
-      rgb[2] = row[x];
-    }
-  }
-  return dots;
-}
-
 }  // namespace
 
 void SavePage(std::int16_t PageNum, const forms::Raster& dots) {
   std::error_code failure;
   fs::create_directories(foundation::TempFolder(), failure);
-  bitmap::WriteBmp(PageFile(PageNum), ToPixels(dots), foundation::RoundToInt32(dots.dotsPerInch));
+  bitmap::WriteBmp(PageFile(PageNum), bitmap::ToPixels(dots),
+                   foundation::RoundToInt32(dots.dotsPerInch));
 }
 
 forms::PicturePtr LoadPage(std::int16_t PageNum) {
@@ -67,7 +39,7 @@ forms::PicturePtr LoadPage(std::int16_t PageNum) {
   picture->width = file.pixels.Width() * twipsPerDot;
   picture->height = file.pixels.Height() * twipsPerDot;
   picture->items.emplace_back(
-      forms::Dots{std::make_shared<const forms::Raster>(ToRaster(file.pixels))});
+      forms::Dots{std::make_shared<const forms::Raster>(bitmap::ToRaster(file.pixels))});
   return picture;
 }
 
