@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "foundation/locale_names.h"
 #include "screens/qt/application.h"
 
 namespace {
@@ -120,6 +121,8 @@ int main(int argc, char** argv) {
     return EXIT_FAILURE;
   }
   screens::qt::DressApplication();
+  // The same pictures whatever the user's language.
+  foundation::SetUserNames(foundation::EnglishNames());
   const QDir folder(QString::fromLocal8Bit(argv[1]));
   if (!folder.mkpath(QStringLiteral("."))) {
     std::fprintf(stderr, "%s cannot be made\n", argv[1]);

@@ -114,7 +114,7 @@ QImage ImageOf(const forms::Raster& raster) {
 
 // Faces that forms name and the program's own stands in for.
 bool HasOpenStandIn(std::string_view face) {
-  return face == "Arial" || face == "Tahoma" || face == foundation::kLegacyHindiFace;
+  return face == "Arial" || face == "Tahoma";
 }
 
 }  // namespace
@@ -133,7 +133,9 @@ QString ToQt(std::string_view utf8) {
 
 QFont ToQt(const forms::Font& font) {
   QFont result = QApplication::font();
-  if (!HasOpenStandIn(font.name)) {
+  if (IsStandInForLegacyHindi(font)) {
+    result.setFamilies(QStringList{QStringLiteral("Lohit Devanagari")} + result.families());
+  } else if (!HasOpenStandIn(font.name)) {
     result.setFamilies(QStringList{ToQt(font.name)} + result.families());
   }
   const double scale = IsStandInForLegacyHindi(font) ? kLegacyScale : 1;
