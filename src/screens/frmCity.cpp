@@ -129,10 +129,10 @@ void frmCity::ShowRemarks() {
                      : searched_ && !Found() ? "no match"
                      : places == 1           ? "1 place"
                                              : foundation::GroupedText(places) + " places";
-  lstCity.placeholder = loading_ > 0                          ? ""
-                        : cmbCountry.items->ListCount() == 0  ? "The atlas holds no countries."
-                        : cmbCountry.items->ListIndex() == -1 ? "Choose a country."
-                                                              : "No places here.";
+  lstCity.whenEmpty = loading_ > 0                          ? ""
+                      : cmbCountry.items->ListCount() == 0  ? "The atlas holds no countries."
+                      : cmbCountry.items->ListIndex() == -1 ? "Choose a country."
+                                                            : "No places here.";
 }
 
 }  // namespace screens

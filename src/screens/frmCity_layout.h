@@ -40,7 +40,7 @@ inline Properties SearchText() {
           .caption = "Delhi",
           .font = {.name = "Arial", .size = 11.25F},
           .spokenName = "City",
-          .placeholder = "Name of a place",
+          .whenEmpty = "Name of a place",
           .foreColour = palette::kInk,
           .backColour = palette::kPaper,
           .tabStop = true,

@@ -89,7 +89,7 @@ TEST_F(CityPicker, CannotAcceptWithoutAChoice) {
   EXPECT_EQ(picker_.Chosen(), "none");
   EXPECT_ERROR(InvalidCall, Press(forms::Key::Enter));
   Choose("Void");
-  EXPECT_EQ(Form().lstCity.placeholder, "No places here.");
+  EXPECT_EQ(Form().lstCity.whenEmpty, "No places here.");
   EXPECT_EQ(Form().txtCity.trailing, "");
   EXPECT_ERROR(InvalidCall, Press(forms::Key::Enter));
   // Nor with a number that 16 bits do not hold.

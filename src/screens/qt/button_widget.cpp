@@ -30,19 +30,17 @@ ButtonWidget::ButtonWidget(forms::Control& control, Dispatch dispatch, QWidget* 
   setAutoDefault(true);  // Enter presses it while it has the focus
   setProperty("look", NameOf(control.look));
   connect(this, &QPushButton::clicked, this, [this] { dispatch_(control_.onClick); });
-  shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
   Mirror();
 }
 
 void ButtonWidget::Mirror() {
+  if (!TakeProperties()) return;
   const forms::Properties& now = control_;
-  if (now == shown_) return;
   Dress(*this, control_, PlaceInPixels(control_));
   const QString face = ToQt(now.caption).remove(u'&');
   setFont(Fitted(ToQt(now.font), face, width() - 2 * kPadding));
   if (const QString caption = ToQt(now.caption); caption != text()) setText(caption);
   setAccessibleName(face);
-  shown_ = now;
 }
 
 QString ButtonStyle() {

@@ -15,9 +15,6 @@ class ButtonWidget : public QPushButton, public ControlView {
 
   QWidget& Widget() override { return *this; }
   void Mirror() override;
-
- private:
-  forms::Properties shown_;
 };
 
 // The style sheet of all buttons, by their look.

@@ -25,7 +25,6 @@ ComboBoxWidget::ComboBoxWidget(forms::Control& control, Dispatch dispatch, QWidg
   };
   connect(this, &QComboBox::activated, this,
           [this](int index) { dispatch_([this, index] { forms::Choose(control_, index); }); });
-  shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
   Mirror();
 }
 
@@ -35,11 +34,10 @@ void ComboBoxWidget::Mirror() {
     for (int i = 0; i < control_.items->ListCount(); ++i) addItem(ToQt(control_.items->List(i)));
   }
   if (currentIndex() != control_.items->ListIndex()) setCurrentIndex(control_.items->ListIndex());
+  if (!TakeProperties()) return;
   const forms::Properties& now = control_;
-  if (now == shown_) return;
   Dress(*this, control_, PlaceInPixels(control_));
   setFont(ToQt(now.font));
-  shown_ = now;
 }
 
 // The style leaves the arrow to us.

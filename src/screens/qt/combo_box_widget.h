@@ -21,7 +21,6 @@ class ComboBoxWidget : public QComboBox, public ControlView {
   void wheelEvent(QWheelEvent*) override;
 
  private:
-  forms::Properties shown_;
   bool entriesChanged_ = true;
 };
 

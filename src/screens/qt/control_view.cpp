@@ -32,6 +32,13 @@ ControlView* MakeView(forms::Control& control, const Dispatch& dispatch, QWidget
   }
 }
 
+bool ControlView::TakeProperties() {
+  const forms::Properties& now = control_;
+  if (shown_ == now) return false;
+  shown_ = now;
+  return true;
+}
+
 QRect PlaceInPixels(const forms::Control& control) {
   const forms::Place& p = control.place;
   const int left = ToPixels(p.left), top = ToPixels(p.top);

@@ -4,6 +4,8 @@
 #include <QRect>
 #include <QWidget>
 #include <functional>
+#include <optional>
+#include <utility>
 
 #include "forms/control.h"
 
@@ -27,8 +29,12 @@ class ControlView {
   forms::Control& Model() const { return control_; }
 
  protected:
+  // Whether the control's properties differ from those taken last; takes them.
+  bool TakeProperties();
+
   forms::Control& control_;
   Dispatch dispatch_;
+  std::optional<forms::Properties> shown_;
 };
 
 // For any kind but a timer.

@@ -62,19 +62,18 @@ ControlWidget::ControlWidget(forms::Control& control, Dispatch dispatch, QWidget
       !control.onClick && !control.onMouseMove && !control.onMouseDown && !control.onMouseWheel;
   setAttribute(Qt::WA_TransparentForMouseEvents,
                deaf && control.toolTip.empty() && control.kind != forms::Kind::PictureBox);
-  shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
   Mirror();
 }
 
 void ControlWidget::Mirror() {
+  const forms::PicturePtr before = shown_ ? shown_->picture : nullptr;
+  if (!TakeProperties()) return;
   const forms::Properties& now = control_;
-  if (now == shown_) return;
   Dress(*this, control_, Geometry(control_));
   setCursor(now.grabCursor                  ? Qt::ClosedHandCursor
             : now.handCursor && now.enabled ? Qt::PointingHandCursor
                                             : Qt::ArrowCursor);
-  if (now.picture != shown_.picture) rendered_ = QPixmap();
-  shown_ = now;
+  if (now.picture != before) rendered_ = QPixmap();
   update();
 }
 

@@ -39,7 +39,6 @@ class ControlWidget : public QWidget, public ControlView {
   void PaintRendered(QPainter& painter, const QRectF& into);
   void PaintCaption(QPainter& painter);
 
-  forms::Properties shown_;
   int wheel_ = 0;     // turned, but not yet by a whole step
   QPixmap rendered_;  // the picture at the present size
 };

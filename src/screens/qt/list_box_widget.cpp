@@ -103,7 +103,6 @@ ListBoxWidget::ListBoxWidget(forms::Control& control, Dispatch dispatch, QWidget
     if (self) self->TakeNoteOfChange();
   };
   connect(this, &QListView::doubleClicked, this, [this] { dispatch_(control_.onDoubleClick); });
-  shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
   Mirror();
 }
 
@@ -117,11 +116,10 @@ void ListBoxWidget::Mirror() {
   if (std::exchange(entriesChanged_, false)) MirrorEntries();
   MirrorSelection();
   mirroring_ = false;
+  if (!TakeProperties()) return;
   const forms::Properties& now = control_;
-  if (now == shown_) return;
   Dress(*this, control_, PlaceInPixels(control_));
   setFont(ToQt(now.font));
-  shown_ = now;
   viewport()->update();
 }
 
@@ -155,7 +153,7 @@ void ListBoxWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   painter.setPen(ToQt(palette::kQuiet));
   painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
-                   ToQt(control_.placeholder));
+                   ToQt(control_.whenEmpty));
 }
 
 // The view would make its first entry the current one.

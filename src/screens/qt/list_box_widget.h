@@ -50,7 +50,6 @@ class ListBoxWidget : public QListView, public ControlView {
 
   EntriesModel model_;
   QTimer soon_;  // entries that come in one after another are shown some at a time
-  forms::Properties shown_;
   bool entriesChanged_ = true;
   bool mirroring_ = false;
 };

@@ -38,7 +38,6 @@ PickerWidget::PickerWidget(forms::Control& control, Dispatch dispatch, QWidget* 
   connect(this, &QDateTimeEdit::dateTimeChanged, this, [this] {
     if (!mirroring_) dispatch_([this] { forms::SetMoment(control_, Picked()); });
   });
-  shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
   Mirror();
 }
 
@@ -50,8 +49,8 @@ foundation::DateTime PickerWidget::Picked() const {
 }
 
 void PickerWidget::Mirror() {
+  if (!TakeProperties()) return;
   const forms::Properties& now = control_;
-  if (now == shown_) return;
   Dress(*this, control_, PlaceInPixels(control_));
   const QString longest = locale().toString(QDate(2026, 9, 30), QStringLiteral("d/MMMM/yyyy"));
   setFont(Fitted(ToQt(now.font), longest, width() - kButtons));
@@ -64,7 +63,6 @@ void PickerWidget::Mirror() {
     setTime(QTime(at.hour, at.minute, at.second));
   }
   mirroring_ = false;
-  shown_ = now;
 }
 
 // The style leaves the arrows to us: one that drops the calendar down, or two that step.

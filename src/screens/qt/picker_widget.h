@@ -23,7 +23,6 @@ class PickerWidget : public QDateTimeEdit, public ControlView {
  private:
   foundation::DateTime Picked() const;
 
-  forms::Properties shown_;
   bool mirroring_ = false;
 };
 

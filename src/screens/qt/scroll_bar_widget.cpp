@@ -10,13 +10,12 @@ ScrollBarWidget::ScrollBarWidget(forms::Control& control, Dispatch dispatch, QWi
   connect(this, &QScrollBar::valueChanged, this, [this](int value) {
     if (!mirroring_) dispatch_([this, value] { forms::SetScroll(control_, value); });
   });
-  shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
   Mirror();
 }
 
 void ScrollBarWidget::Mirror() {
+  if (!TakeProperties()) return;
   const forms::Properties& now = control_;
-  if (now == shown_) return;
   Dress(*this, control_, PlaceInPixels(control_));
   mirroring_ = true;
   setRange(now.scroll.minimum, now.scroll.maximum);
@@ -24,7 +23,6 @@ void ScrollBarWidget::Mirror() {
   setPageStep(now.scroll.largeChange);
   setValue(now.scroll.value);
   mirroring_ = false;
-  shown_ = now;
 }
 
 }  // namespace screens::qt

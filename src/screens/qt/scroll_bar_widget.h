@@ -17,7 +17,6 @@ class ScrollBarWidget : public QScrollBar, public ControlView {
   void Mirror() override;
 
  private:
-  forms::Properties shown_;
   bool mirroring_ = false;
 };
 

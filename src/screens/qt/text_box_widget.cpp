@@ -21,23 +21,21 @@ TextBoxWidget::TextBoxWidget(forms::Control& control, Dispatch dispatch, QWidget
   connect(this, &QLineEdit::textEdited, this, [this](const QString& edited) {
     dispatch_([this, text = edited.toStdString()] { forms::SetText(control_, text); });
   });
-  shown_.interval = -1;  // unlike any control, so that the first mirroring takes all
   Mirror();
 }
 
 void TextBoxWidget::Mirror() {
+  if (!TakeProperties()) return;
   const forms::Properties& now = control_;
-  if (now == shown_) return;
   Dress(*this, control_, PlaceInPixels(control_));
   setFont(ToQt(now.font));
-  setPlaceholderText(ToQt(now.placeholder));
+  setPlaceholderText(ToQt(now.whenEmpty));
   if (const QString text = ToQt(now.caption); text != this->text()) setText(text);
   const QString remark = ToQt(now.trailing);
   const int room = remark.isEmpty()
                        ? 0
                        : QFontMetrics(RemarkFont()).horizontalAdvance(remark) + 2 * kRemarkMargin;
   setTextMargins(0, 0, room, 0);
-  shown_ = now;
   update();
 }
 

@@ -24,7 +24,6 @@ class TextBoxWidget : public QLineEdit, public ControlView {
  private:
   QFont RemarkFont() const;
 
-  forms::Properties shown_;
   bool clickedInto_ = false;  // the mouse button that gave the focus is still down
 };
 

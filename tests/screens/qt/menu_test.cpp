@@ -78,15 +78,24 @@ struct RecordingHost : QtHost {
   forms::DrawingTarget& TargetOf(forms::Control&) override { return target; }
 };
 
-TEST(TimetableWindow, DrawsTheRangeThatItsPickersShow) {
+// A timetable on fakes, in a window of one host or the other.
+template <typename Host>
+struct ShownTimetable {
+  ShownTimetable() { host.Show(form); }
+  ~ShownTimetable() { host.Unload(form); }
+
   Timetable fakes;
-  RecordingHost host;
+  Host host;
   frmDurvela form{
       Services{fakes.clock, fakes.settings, fakes.session, fakes.boxes, fakes.browser, host},
       fakes.dashboard,
-      {[&]() -> frmCity& { return fakes.picker.form; }, {}}};
-  host.Show(form);
+      {[this]() -> frmCity& { return fakes.picker.form; }, {}}};
   FormWindow& window = host.WindowOf(form);
+};
+
+TEST(TimetableWindow, DrawsTheRangeThatItsPickersShow) {
+  ShownTimetable<RecordingHost> shown;
+  auto& [fakes, host, form, window] = shown;
   const auto picker = [&](const char* name) {
     return window.findChild<QDateTimeEdit*>(QString::fromLatin1(name));
   };
@@ -104,19 +113,12 @@ TEST(TimetableWindow, DrawsTheRangeThatItsPickersShow) {
   EXPECT_EQ(rows[0], "Print 200 0 5-3-2011");
   EXPECT_EQ(rows[11], "Print 1700 680 Monday");
   EXPECT_EQ(rows[14], "Print 4900 680 09:36:45");
-  host.Unload(form);
 }
 
 // What is drawn is seen, and a move of the form moves its window.
 TEST(TimetableWindow, ShowsItsPageAndMoves) {
-  Timetable fakes;
-  QtHost host;
-  frmDurvela form{
-      Services{fakes.clock, fakes.settings, fakes.session, fakes.boxes, fakes.browser, host},
-      fakes.dashboard,
-      {[&]() -> frmCity& { return fakes.picker.form; }, {}}};
-  host.Show(form);
-  FormWindow& window = host.WindowOf(form);
+  ShownTimetable<QtHost> shown;
+  auto& [fakes, host, form, window] = shown;
   const auto inkOnPage = [&] {
     const QImage page = window.findChild<QWidget*>(QStringLiteral("frRes"))->grab().toImage();
     int dark = 0;
@@ -141,7 +143,6 @@ TEST(TimetableWindow, ShowsItsPageAndMoves) {
   form.left += 300;
   window.Mirror();
   EXPECT_EQ(window.x(), ToPixels(form.left));
-  host.Unload(form);
 }
 
 }  // namespace
