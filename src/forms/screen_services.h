@@ -21,6 +21,8 @@ class FormHost {
   virtual void EndProgram() = 0;
   // Draws on a picture box. Stays good as long as the form is loaded.
   virtual DrawingTarget& TargetOf(Control& pictureBox) = 0;
+  // The next target of the box begins anew, with its present size.
+  virtual void ForgetTarget(Control& pictureBox) = 0;
 };
 
 // Turns pictures into dots as the screen shows them.

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "forms/colour.h"
+#include "foundation/bounded_array.h"
 
 namespace report::display {
 
@@ -17,11 +18,12 @@ struct LanguageFont {
   std::string_view face;
   int sizeStep;
 };
-inline constexpr std::array<LanguageFont, 5> kLanguageFonts = {{{"Noto Sans", 0},
-                                                                {"Lohit Devanagari", 5},
-                                                                {"Lohit Devanagari", 6},
-                                                                {"Lohit Malayalam", 3},
-                                                                {"Lohit Kannada", 3}}};
+inline constexpr foundation::BoundedArray<LanguageFont, 0, 4> kLanguageFonts{
+    {{{"Noto Sans", 0},
+      {"Lohit Devanagari", 5},
+      {"Lohit Devanagari", 6},
+      {"Lohit Malayalam", 3},
+      {"Lohit Kannada", 3}}}};
 
 // A planet by its name, and by its full and short name in the legacy Hindi encoding.
 struct PlanetColour {

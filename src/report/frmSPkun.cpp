@@ -1,12 +1,11 @@
 #include "report/frmSPkun.h"
 
-#include <algorithm>
-
 #include "engine/clsPP.h"
 #include "foundation/error.h"
 #include "foundation/modFileFx.h"
 #include "foundation/numbers.h"
 #include "foundation/resume.h"
+#include "report/modPrint.h"
 #include "report/page_bands.h"
 #include "report/page_files.h"
 
@@ -16,25 +15,12 @@ namespace {
 using foundation::Resume;
 
 constexpr float kTwips = preview_layout::kTwipsPerPixel;
-constexpr int kKeyStep = 1000;                        // twips that an arrow key scrolls
-constexpr float kSlideStep = 100;                     // twips
-constexpr double kSmallStep = 0.1, kLargeStep = 0.5;  // of the whole way
 
 const std::string& Nth(const std::vector<std::string>& list, int number) {
   if (number < 1 || number > static_cast<int>(list.size())) {
     throw foundation::Error(foundation::ErrorKind::Subscript);
   }
   return list[static_cast<std::size_t>(number) - 1];
-}
-
-// A bar with nothing to scroll is taken out of use. Overflow beyond 16 bits.
-void SetRange(forms::Control& bar, float way, double largeStep) {
-  const std::int16_t maximum = foundation::RoundToInt16(std::max(way, 0.0F));
-  bar.enabled = maximum > 0;
-  bar.scroll.maximum = maximum;
-  bar.scroll.smallChange = std::max(1, foundation::RoundToInt32(kSmallStep * maximum));
-  bar.scroll.largeChange = std::max(1, foundation::RoundToInt32(largeStep * maximum));
-  forms::SetScroll(bar, bar.scroll.value);
 }
 
 }  // namespace
@@ -115,7 +101,7 @@ void frmSPkun::ShowPage(std::int16_t& PageNum, std::string_view Pname, std::stri
                           record.Second, record.LongitudeText, record.LatitudeText,
                           record.ZoneMeridianText, record.AyanamsaChoice, record.RahuKetuFlag,
                           record.WarTimeCorrection);
-  if (!ToPrinter) PIC.picture = nullptr;
+  if (!ToPrinter) services_.host.TargetOf(PIC).Cls();
   if (backgroundPath_.empty()) {
     backgroundPath_ = (foundation::BackgroundFolder() / "default.jpg").string();
   }
@@ -151,17 +137,18 @@ void frmSPkun::setPage2(forms::Form& page, double X, double Y) {
 }
 
 void frmSPkun::PaintForm(forms::Form& page, double X, double Y) {
-  ++directPages_;
-  forms::DrawingTarget& target = services_.host.TargetOf(PIC);
-  if (directPages_ == 1) {
+  if (++directPages_ == 1) {
     PIC.place.width = page.scaleWidth;
     PIC.place.height = page.scaleHeight;
-    target.Cls();
+    autoRedraw = true;
+    services_.host.ForgetTarget(PIC);  // which had another size
+    services_.host.TargetOf(PIC).Cls();
   }
-  if (page.picture) target.PaintPicture(page.picture, X, Y, page.scaleWidth, page.scaleHeight);
+  forms::DrawingTarget& target = services_.host.TargetOf(PIC);
+  target.PaintPicture(ImageOf(page), X, Y, page.scaleWidth, page.scaleHeight);
   for (const forms::Control& box : page.Controls()) {
-    if (box.kind != forms::Kind::PictureBox || box.tag == "no" || !box.picture) continue;
-    target.PaintPicture(box.picture, X + box.place.left, Y + box.place.top, box.place.width,
+    if (box.kind != forms::Kind::PictureBox || box.tag == "no") continue;
+    target.PaintPicture(ImageOf(box), X + box.place.left, Y + box.place.top, box.place.width,
                         box.place.height);
   }
 }
@@ -169,6 +156,7 @@ void frmSPkun::PaintForm(forms::Form& page, double X, double Y) {
 void frmSPkun::cmbPage_Click() {
   const int index = cmbPage.items->ListIndex();
   std::int16_t number = foundation::RoundToInt16(index + 1);
+  lstPage.items->SetListIndex(index);
   ShowPage(number, PageName(index + 1), PageTitle(index + 1), false);
 }
 
@@ -204,122 +192,6 @@ void frmSPkun::cmdGO_Click() {
     SetText(txtPage, "0");
   }
   Select(cmbPage, number);
-}
-
-void frmSPkun::VScroll1_Change() {
-  PIC.place.top = static_cast<float>(-VScroll1.scroll.value);
-}
-
-void frmSPkun::HScroll1_Change() {
-  PIC.place.left = static_cast<float>(-HScroll1.scroll.value);
-}
-
-void frmSPkun::Form_KeyDown(forms::KeyPress& press) {
-  const int step = press.key == forms::Key::Up     ? -kKeyStep
-                   : press.key == forms::Key::Down ? kKeyStep
-                                                   : 0;
-  if (step != 0) SetScroll(VScroll1, VScroll1.scroll.value + step);
-}
-
-void frmSPkun::PIC_MouseDown(forms::Point at) {
-  Resume([&] {
-    dragX_ = foundation::RoundToInt32(at.x);
-    dragY_ = foundation::RoundToInt32(at.y);
-    dragging_ = PIC.grabCursor = true;
-  });
-}
-
-// The page follows the mouse in the directions in which there is something to scroll.
-void frmSPkun::PIC_MouseMove(forms::Point at) {
-  if (!dragging_) return;
-  const auto offset = [](const forms::Control& bar, float present, double moved) {
-    if (!bar.enabled) return present;
-    const double wanted = -(present + moved);
-    return static_cast<float>(
-        -std::clamp(wanted, double(bar.scroll.minimum), double(bar.scroll.maximum)));
-  };
-  PIC.place.top = offset(VScroll1, PIC.place.top, at.y - dragY_);
-  PIC.place.left = offset(HScroll1, PIC.place.left, at.x - dragX_);
-}
-
-void frmSPkun::PIC_MouseUp() {
-  dragging_ = PIC.grabCursor = false;
-  Resume([&] {
-    if (VScroll1.enabled) SetScroll(VScroll1, foundation::RoundToInt32(-PIC.place.top));
-    if (HScroll1.enabled) SetScroll(HScroll1, foundation::RoundToInt32(-PIC.place.left));
-  });
-}
-
-void frmSPkun::cmdHide_Click() {
-  Timer1.enabled = true;
-  cmdHide.visible = false;
-  cmdShow.visible = true;
-}
-
-void frmSPkun::cmdShow_Click() {
-  Timer2.enabled = true;
-  cmdHide.visible = true;
-  cmdShow.visible = false;
-}
-
-void frmSPkun::Timer1_Timer() {
-  ResizePanel(picLeft.place.width - kSlideStep);
-  if (picLeft.place.width > cmdHide.place.width) return;
-  Timer1.enabled = false;
-  LayOut();
-}
-
-void frmSPkun::Timer2_Timer() {
-  ResizePanel(picLeft.place.width + kSlideStep);
-  if (picLeft.place.width < lstPage.place.width) return;
-  Timer2.enabled = false;
-  LayOut();
-}
-
-// Its controls keep to its right edge.
-void frmSPkun::ResizePanel(float panelWidth) {
-  picLeft.place.width = panelWidth;
-  for (forms::Control* control : {&cmdHide, &cmdShow, &lstPage}) {
-    control->place.left = picLeft.place.width - control->place.width;
-  }
-}
-
-// Starts with the panel open, however the preview was left.
-void frmSPkun::Form_Load() {
-  scaleWidth = preview_layout::kWidth * kTwips;
-  scaleHeight = preview_layout::kHeight * kTwips;
-  windowState = forms::WindowState::Normal;
-  Timer1.enabled = Timer2.enabled = false;
-  cmdHide.visible = true;
-  cmdShow.visible = false;
-  ResizePanel(preview_layout::kPanelWidth * kTwips);
-  activeControl = &cmbPage;
-  LayOut();
-}
-
-void frmSPkun::Form_Resize() {
-  LayOut();
-}
-
-void frmSPkun::LayOut() {
-  constexpr float kBar = preview_layout::kBar * kTwips;
-  picTOOL.place.width = scaleWidth;
-  const float above = picTOOL.place.height;
-  const float below = std::max(0.0F, scaleHeight - above);
-  lblProduct.place.left = std::max(lblProduct.place.left, 0.0F);
-  picLeft.place = {0, above, picLeft.place.width, below};
-  lstPage.place.height = std::max(0.0F, below - lstPage.place.top);
-
-  const float pageLeft = picLeft.place.width + preview_layout::kPanelGap;
-  picPage.place = {pageLeft, above, std::max(0.0F, scaleWidth - pageLeft - kBar),
-                   std::max(0.0F, below - kBar)};
-  VScroll1.place = {scaleWidth - kBar, above, kBar, picPage.place.height};
-  HScroll1.place = {picLeft.place.width, scaleHeight - kBar,
-                    scaleWidth - picLeft.place.width - kBar, kBar};
-  Resume([&] {
-    SetRange(VScroll1, PIC.place.height - picPage.place.height, kLargeStep);
-    SetRange(HScroll1, PIC.place.width - picPage.place.width, kSmallStep);
-  });
 }
 
 }  // namespace report

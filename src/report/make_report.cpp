@@ -25,26 +25,26 @@ class ReportMaker {
     TakePlace();
     services_.host.Unload(preview_);
     preview_.RESET();
-    const DateTime last = AtTime(input_.DT2);
-    DateTime date = AtTime(input_.DT1);
-    int month = foundation::FieldsOf(date).month;
+    DateTime day = input_.DT1;
+    int month = foundation::FieldsOf(day).month;
     BeginPage();
     preview_.PIC.place.width = page_->scaleWidth;
     preview_.PIC.place.height = page_->scaleHeight;
-    for (; date <= last; date += 1) {
-      const DateTimeFields at = foundation::FieldsOf(date);
-      if (at.month != month) {
-        EndPage(date);
+    // By days: a day and a time added up would not always come out at the last one.
+    while (day <= input_.DT2) {
+      const int monthOfDay = foundation::FieldsOf(day).month;
+      if (monthOfDay != month) {
+        EndPage(month, day);
         BeginPage();
-        month = at.month;
+        month = monthOfDay;
       }
-      AddRow(date);
-      input_.lblStatus.caption = "Loading.. " + NumberText(at.day) + " " +
-                                 foundation::MonthName(at.month) + " " + NumberText(at.year);
+      AddRow(AtTime(day));
+      day += 1;
+      ShowStatus(day);
       services_.yielder.Yield();
     }
     input_.lblStatus.caption.clear();
-    EndPage(date);
+    EndPage(month, day);
     page_.reset();
     Present();
   }
@@ -77,19 +77,24 @@ class ReportMaker {
     FillRow(*page_, row_++, date, services_.session);
   }
 
-  // `date` is the first one behind the page, and names it: its month is that of the last row, its
-  // year that of this date.
-  void EndPage(DateTime date) {
+  // The day that comes next.
+  void ShowStatus(DateTime day) {
+    const DateTimeFields at = foundation::FieldsOf(day);
+    input_.lblStatus.caption = "Loading.. " + NumberText(at.day) + " " +
+                               foundation::MonthName(at.month) + " " + NumberText(at.year);
+  }
+
+  // `behind` is the first day that is not on the page; its year goes into the title.
+  void EndPage(int month, DateTime behind) {
     forms::DrawingTarget& target = services_.host.TargetOf(preview_.PIC);
     target.Cls();
     DrawFormOnTarget(*page_, target, 0, 0);
     preview_.CreateTMPfile(number_, preview_.PIC);
-    preview_.AddPage(kCachePage, Title(date));
+    preview_.AddPage(kCachePage, Title(month, behind));
     number_ = foundation::RoundToInt16(number_ + 1);
   }
 
-  std::string Title(DateTime behind) const {
-    const int month = foundation::FieldsOf(behind - 1).month;
+  std::string Title(int month, DateTime behind) const {
     return "Durvela " + foundation::MonthName(month) + " " +
            NumberText(foundation::FieldsOf(behind).year) + " ..P" + NumberText(number_);
   }

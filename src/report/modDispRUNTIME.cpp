@@ -10,6 +10,8 @@
 namespace report {
 namespace {
 
+using foundation::Resume;
+
 constexpr auto kBlack = forms::Rgb(0);
 constexpr auto kFrameBorder = forms::Rgb(0xF5B017);  // 1552629, red in its lowest byte
 
@@ -27,18 +29,23 @@ class LanguageDress {
   void Apply(forms::Control& control) const {
     const bool takesPart = control.font.name != display::kBaseFont || control.tag == "hhh";
     if (!takesPart) return;
-    const std::string phrase = foundation::LanguagePhrase(control.caption, language_);
+    std::string phrase = control.caption;
+    Resume([&] { phrase = foundation::LanguagePhrase(control.caption, language_); });
     const bool hasPhrase = phrase != control.caption;
     if (!hasPhrase && control.tag != "hcon") return;
-    const display::LanguageFont& font =
-        display::kLanguageFonts.at(static_cast<std::size_t>(language_));
-    control.font.bold = control.font.italic = false;
-    control.font.name = font.face;
-    if (!keepSize_) control.font.size += static_cast<float>(font.sizeStep + extraSize_);
-    if (hasPhrase) control.caption = phrase;
+    Resume([&] { ChangeFont(control.font); });
+    control.caption = phrase;
   }
 
  private:
+  // Subscript for a language that has no face.
+  void ChangeFont(forms::Font& font) const {
+    const display::LanguageFont& face = display::kLanguageFonts[language_ == -1 ? 0 : language_];
+    font.bold = font.italic = false;
+    font.name = face.face;
+    if (!keepSize_) font.size += static_cast<float>(face.sizeStep + extraSize_);
+  }
+
   std::int32_t language_;
   int extraSize_;
   bool keepSize_;
@@ -81,7 +88,7 @@ void ApplyLanguageFonts(forms::Form& form, std::int32_t language, int extraSize,
   for (forms::Control& control : form.Controls()) {
     if (control.tag == "n" || control.tag == "N") continue;
     if (control.kind != forms::Kind::Label && control.kind != forms::Kind::TextBox) continue;
-    foundation::Resume([&] { dress.Apply(control); });
+    dress.Apply(control);
   }
 }
 

@@ -18,14 +18,11 @@ constexpr std::string_view kNotPrinted = "np";
 constexpr double kSmallestFont = 7;  // points
 constexpr auto kBlack = forms::Rgb(0);
 
-// What a box shows: its picture, or its ground alone.
-forms::PicturePtr ImageOf(const Control& box) {
-  if (box.picture) return box.picture;
+forms::PicturePtr Ground(forms::Colour colour, double width, double height) {
   auto ground = std::make_shared<forms::Picture>();
-  ground->width = box.place.width;
-  ground->height = box.place.height;
-  ground->items.emplace_back(
-      forms::Outline{forms::Path::Box({0, 0}, ground->width, ground->height), box.backColour, {}});
+  ground->width = width;
+  ground->height = height;
+  ground->items.emplace_back(forms::Outline{forms::Path::Box({0, 0}, width, height), colour, {}});
   return ground;
 }
 
@@ -146,9 +143,18 @@ class FormDrawing {
 
 }  // namespace
 
+forms::PicturePtr ImageOf(const forms::Form& form) {
+  return form.picture ? form.picture : Ground(form.backColour, form.scaleWidth, form.scaleHeight);
+}
+
+forms::PicturePtr ImageOf(const Control& box) {
+  return box.picture ? box.picture : Ground(box.backColour, box.place.width, box.place.height);
+}
+
 void DrawFormOnTarget(forms::Form& form, DrawingTarget& Target, double X, double Y,
-                      std::int16_t SizeDelta, std::int16_t DX, std::int16_t DY) {
-  FormDrawing drawing(Target, X, Y, SizeDelta, DX, DY);
+                      forms::Printer* ToPrinter, std::int16_t SizeDelta, std::int16_t DX,
+                      std::int16_t DY) {
+  FormDrawing drawing(ToPrinter != nullptr ? *ToPrinter : Target, X, Y, SizeDelta, DX, DY);
   for (const Control& control : form.Controls()) {
     if (control.kind == Kind::Shape) drawing.DrawFill(control);
   }

@@ -30,14 +30,15 @@ frmHeader::frmHeader(const foundation::SessionTable& session) : Form("frmHeader"
   ApplyDisplayStyles(*this, session.CurrentLanguage);
 }
 
-frmFooter::frmFooter(foundation::Settings& settings) : Form("frmFooter", "", 11250, 900) {
+frmFooter::frmFooter(foundation::Settings& settings, std::int32_t language)
+    : Form("frmFooter", "", 11250, 900) {
   const auto line = [&](std::string_view key) {
     return settings.GetSetting(foundation::kProgramName, foundation::kFooterSection, key, "");
   };
   lblCompany.caption = line("company");
   lblTag.caption = line("tag");
   lblAddress.caption = line("address");
-  ApplyDisplayStyles(*this, 0);
+  ApplyDisplayStyles(*this, language);
   lblCompany_Change();
 }
 
@@ -51,7 +52,7 @@ void DrawBands(const frmPrintLayout& layout, int PageNum, const Services& servic
     frmHeader header(services.session);
     DrawFormOnTarget(header, target, layout.picHead.place.left, layout.picHead.place.top);
   }
-  frmFooter footer(services.settings);
+  frmFooter footer(services.settings, services.session.CurrentLanguage);
   DrawFormOnTarget(footer, target, layout.picFoot.place.left, layout.picFoot.place.top);
 }
 

@@ -18,7 +18,7 @@ class frmHeader : public forms::Form {
 class frmFooter : public forms::Form {
  public:
   // Loads with the lines "company", "tag" and "address" of the settings' section "Setting".
-  explicit frmFooter(foundation::Settings& settings);
+  frmFooter(foundation::Settings& settings, std::int32_t language);
 
   CONTROL(Label, lblCompany, {.place = {300, 60, 2400, 240}, .font = {.size = 9, .bold = true}});
   CONTROL(Label, lblTag, {.place = {2750, 60, 3000, 240}, .font = {.size = 9}});

@@ -9,6 +9,7 @@
 #include "forms/units.h"
 #include "foundation/modFileFx.h"
 #include "foundation/numbers.h"
+#include "foundation/text.h"
 
 namespace report {
 namespace {
@@ -48,7 +49,8 @@ void DeletePages() {
   for (fs::directory_iterator entry(foundation::TempFolder(), failure), end;
        !failure && entry != end; entry.increment(failure)) {
     std::error_code ignored;
-    if (entry->path().extension() == kExtension && entry->is_regular_file(ignored)) {
+    const std::string name = foundation::FoldCase(entry->path().filename().string());
+    if (name.ends_with(kExtension) && entry->is_regular_file(ignored)) {
       fs::remove(entry->path(), ignored);
     }
   }

@@ -29,7 +29,14 @@ void SetPlaceLine(forms::Control& line, const std::string& caption, forms::Drawi
   target.SetFont(line.font.name);
   target.SetFontBold(line.font.bold);
   target.SetFontItalic(line.font.italic);
+  line.font.size = page_layout::kPlaceLineSize;
   target.SetFontSize(line.font.size);
+  const double wanted = target.TextWidth(caption);
+  const double room = page_layout::kPlaceLineRight - page_layout::kPlaceLineLeft;
+  if (wanted > room) {
+    line.font.size *= static_cast<float>(room / wanted);
+    target.SetFontSize(line.font.size);
+  }
   line.place.width = static_cast<float>(target.TextWidth(caption));
   line.place.left = page_layout::kPlaceLineRight - line.place.width;
 }

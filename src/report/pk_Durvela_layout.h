@@ -19,6 +19,8 @@ inline constexpr int kRows = 31;
 
 // The place line grows to the left from here.
 inline constexpr float kPlaceLineRight = 12390 + 75;
+inline constexpr float kPlaceLineLeft = 5400;  // at the most, in ever smaller letters
+inline constexpr float kPlaceLineSize = 11.25F;
 
 // A head in the legacy Hindi encoding.
 inline Properties Head(float left, float top, float width, float height, float size,
@@ -41,7 +43,7 @@ inline Properties ColumnHead(float left, std::string_view caption, float top = 1
 }
 
 inline Properties PlaceLine() {
-  return {.place = {12390, 360, 75, 255}, .font = {.name = "Arial", .size = 11.25F}};
+  return {.place = {12390, 360, 75, 255}, .font = {.name = "Arial", .size = kPlaceLineSize}};
 }
 
 inline Properties Imprint() {

@@ -56,7 +56,11 @@ void frmSPkun::cmdPrint_Click() {
   user.Do([&] { printer.AskUser(); });
   user.Do([&] { SetOrientation(); });
   user.Do([&] { printer.Print(""); });
-  for (std::int16_t i = 1; !user.Stopped() && i <= cmbPage.items->ListCount(); ++i) {
+  // Two pages may bear the same number in their titles, which puts i back: no more are printed than
+  // there are.
+  const int pages = cmbPage.items->ListCount();
+  int printed = 0;
+  for (std::int16_t i = 1; !user.Stopped() && i <= pages && printed < pages; ++i, ++printed) {
     user.Do([&] { ShowPage(i, PageName(i), PageTitle(i), true); });
     user.Do([&] { printer.NewPage(); });
   }

@@ -30,10 +30,18 @@ struct Sheet : forms::Form {
   CONTROL(Image, Picture, {.place = {5, 6, 7, 8}});
 };
 
+// A target that can do nothing but print at one place.
+struct Bare : forms::DrawingTarget {
+  std::vector<std::string> texts;
+  void Print(std::string_view text) override { texts.emplace_back(text); }
+};
+
 TEST(FormDrawing, GoesFillsFirstAndThenControlByControl) {
   Sheet sheet;
   support::RecordingTarget target;
-  DrawFormOnTarget(sheet, target, 1000, 2000, 1, 3, 4);
+  Bare passedOver;
+  DrawFormOnTarget(sheet, passedOver, 1000, 2000, &target, 1, 3, 4);
+  EXPECT_TRUE(passedOver.texts.empty());
   const auto font = [](const char* name, const char* bold, const char* size, const char* colour) {
     return Calls{"RightToLeft 0",
                  std::string("Font ") + name,
@@ -61,12 +69,6 @@ TEST(FormDrawing, GoesFillsFirstAndThenControlByControl) {
   add({"ForeColor 0", "ForeColor 0", "PaintPicture 1005 2006 7 8"});
   EXPECT_EQ(target.calls, expected);
 }
-
-// A target that can do nothing but print at one place.
-struct Bare : forms::DrawingTarget {
-  std::vector<std::string> texts;
-  void Print(std::string_view text) override { texts.emplace_back(text); }
-};
 
 TEST(FormDrawing, PassesOverWhatATargetLacks) {
   Sheet sheet;

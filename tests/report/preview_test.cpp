@@ -102,6 +102,10 @@ TEST_F(Preview, SlidesItsPanelInAndOut) {
   EXPECT_LE(preview_.picLeft.place.width, preview_.cmdHide.place.width);
   EXPECT_EQ(preview_.picPage.place.left, preview_.picLeft.place.width + 200);
   preview_.cmdShow.onClick();
+  preview_.cmdHide.onClick();
+  EXPECT_FALSE(preview_.Timer2.enabled);
+  preview_.cmdShow.onClick();
+  EXPECT_FALSE(preview_.Timer1.enabled);
   while (preview_.Timer2.enabled) preview_.Timer2.onTimer();
   EXPECT_GE(preview_.picLeft.place.width, open);
   EXPECT_EQ(preview_.cmdHide.place.left,
@@ -118,6 +122,13 @@ TEST_F(Preview, PrintsAllPages) {
     if (call.starts_with("PaintPicture 0 0 ")) call.resize(17);  // the size is the picture's
   }
   EXPECT_EQ(calls, all);
+}
+
+TEST_F(Preview, PrintsNoMorePagesThanThereAre) {
+  preview_.AddPage(kCachePage, "Durvela again ..P1");
+  preview_.cmdPrint.onClick();
+  EXPECT_EQ(std::count(reporting_.printer.calls.begin(), reporting_.printer.calls.end(), "NewPage"),
+            4);
 }
 
 TEST_F(Preview, AsksWhetherToGoOnAfterAFailure) {
@@ -161,7 +172,7 @@ TEST_F(Preview, TakesTheDirectPathForOtherPages) {
     EXPECT_EQ(printed.front(), page == 0 ? "Print 300 120 Person" : "Print 300 15315 Company");
     EXPECT_EQ(printed.back(), "Print 10400 15600 " + std::to_string(page));
   }
-  frmFooter footer(reporting_.settings);
+  frmFooter footer(reporting_.settings, 0);
   footer.lblCompany.place.width = 1000;
   footer.Form_Resize();
   EXPECT_EQ(footer.lblTag.place.left, footer.lblCompany.place.left + 1050);

@@ -91,7 +91,7 @@ TEST(Report, MakesAPageAMonth) {
        "1: Durvela January 2011 ..P1|2: Durvela February 2011 ..P2|", 2},
       {DateFromParts(2010, 12, 31), DateFromParts(2011, 1, 31),
        "1: Durvela December 2011 ..P1|2: Durvela January 2011 ..P2|", 31},
-      {DateFromParts(2011, 3, 6), DateFromParts(2011, 3, 5), "1: Durvela March 2011 ..P1|", 0}};
+      {DateFromParts(2011, 3, 1), DateFromParts(2011, 2, 28), "1: Durvela March 2011 ..P1|", 0}};
   for (const Range& range : ranges) {
     Reporting reporting;
     reporting.Make(range.from, range.to);
@@ -103,6 +103,16 @@ TEST(Report, MakesAPageAMonth) {
     EXPECT_EQ(reporting.preview.PIC.place.width, 13635);
     EXPECT_EQ(reporting.status.caption, "");
   }
+}
+
+// Where a day and a time added up are rounded another way than the days before.
+TEST(Report, HasItsLastDayAtAnyTime) {
+  Reporting reporting;
+  const foundation::DateTime twoSeconds = foundation::TimeFromParts(0, 0, 2);
+  MakeReport({DateFromParts(1989, 9, 1), DateFromParts(1989, 9, 30), twoSeconds, "28.40N", "77.13E",
+              "82.30E", "-5.30", "Delhi", "India", reporting.status},
+             reporting.preview, reporting.services);
+  EXPECT_EQ(reporting.Printed().size(), 16 + 10 * 30U);
 }
 
 TEST(Report, LeavesAFileAMonthUntilTheNext) {
@@ -120,8 +130,8 @@ TEST(Report, LeavesAFileAMonthUntilTheNext) {
 TEST(Report, KeepsItsPlaceWhateverComesInBetween) {
   Reporting reporting;
   reporting.yielder.between = [&](int turn) {
-    EXPECT_EQ(reporting.status.caption, turn == 1   ? "Loading.. 5 March 2011"
-                                        : turn == 2 ? "Loading.. 6 March 2011"
+    EXPECT_EQ(reporting.status.caption, turn == 1   ? "Loading.. 6 March 2011"
+                                        : turn == 2 ? "Loading.. 7 March 2011"
                                                     : "");
     reporting.session.Current().LatitudeText = "60.00N";
     reporting.session.Current().CityName = "Elsewhere";
@@ -154,7 +164,7 @@ TEST(Report, FailsWhereADayHasNoSun) {
                              "Tromso",
                              "Norway",
                              status};
-  EXPECT_ANY_THROW(MakeReport(polar, reporting.preview, reporting.services));
+  EXPECT_ERROR(InvalidCall, MakeReport(polar, reporting.preview, reporting.services));
 }
 
 }  // namespace

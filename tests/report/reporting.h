@@ -1,6 +1,8 @@
 // The report on fakes, in a program folder of its own.
 #pragma once
 
+#include <utility>
+
 #include "report/make_report.h"
 #include "support/app_folder.h"
 #include "support/machine_fakes.h"
@@ -58,12 +60,12 @@ struct Reporting {
 
   // Texts of the target's Print calls, of the last page drawn.
   std::vector<std::string> Printed() const {
-    std::vector<std::string> printed;
+    std::vector<std::string> printed, before;
     for (const std::string& call : host.target.calls) {
-      if (call == "Cls") printed.clear();
+      if (call == "Cls" && !printed.empty()) before = std::exchange(printed, {});
       if (call.starts_with("Print ")) printed.push_back(call);
     }
-    return printed;
+    return printed.empty() ? before : printed;
   }
 };
 

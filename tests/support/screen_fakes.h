@@ -94,6 +94,7 @@ struct FakeHost : forms::FormHost {
 
   RecordingTarget target;  // of every picture box
   forms::DrawingTarget& TargetOf(forms::Control&) override { return target; }
+  void ForgetTarget(forms::Control&) override {}
 };
 
 struct FakeClipboard : forms::Clipboard {

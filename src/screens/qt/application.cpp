@@ -93,6 +93,7 @@ void DressApplication() {
 Program::Program() : Program(clock_) {}
 
 Program::Program(const foundation::Clock& clock) : now_(&clock), dashboard(GiveServices()) {
+  yielder_.show = [this] { host.MirrorAll(); };
   FillMenu();
 }
 

@@ -102,6 +102,11 @@ ListBoxWidget::ListBoxWidget(forms::Control& control, Dispatch dispatch, QWidget
   control_.items->onEntriesChanged = [self = QPointer(this)] {
     if (self) self->TakeNoteOfChange();
   };
+  // A click on what is chosen already is one as well.
+  connect(this, &QListView::clicked, this, [this](const QModelIndex& index) {
+    if (index.row() != chosenBefore_) return;
+    dispatch_([this, row = index.row()] { forms::Choose(control_, row); });
+  });
   connect(this, &QListView::doubleClicked, this, [this] { dispatch_(control_.onDoubleClick); });
   Mirror();
 }
@@ -163,6 +168,11 @@ void ListBoxWidget::focusInEvent(QFocusEvent* event) {
   } else {
     QAbstractScrollArea::focusInEvent(event);
   }
+}
+
+void ListBoxWidget::mousePressEvent(QMouseEvent* event) {
+  chosenBefore_ = currentIndex().row();
+  QListView::mousePressEvent(event);
 }
 
 void ListBoxWidget::mouseMoveEvent(QMouseEvent* event) {

@@ -39,6 +39,7 @@ class ListBoxWidget : public QListView, public ControlView {
   void paintEvent(QPaintEvent*) override;
   void focusInEvent(QFocusEvent*) override;
   void mouseMoveEvent(QMouseEvent*) override;
+  void mousePressEvent(QMouseEvent*) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& former) override;
@@ -49,7 +50,8 @@ class ListBoxWidget : public QListView, public ControlView {
   void MirrorSelection();
 
   EntriesModel model_;
-  QTimer soon_;  // entries that come in one after another are shown some at a time
+  QTimer soon_;            // entries that come in one after another are shown some at a time
+  int chosenBefore_ = -1;  // the last press
   bool entriesChanged_ = true;
   bool mirroring_ = false;
 };

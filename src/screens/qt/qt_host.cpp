@@ -21,7 +21,7 @@ FormWindow& QtHost::WindowOf(forms::Form& form) {
   windows_.emplace(&form, window);
   QObject::connect(window, &FormWindow::ClosedByUser, window, [this, &form] { Unload(form); });
   QObject::connect(window, &FormWindow::HandlerDone, window,
-                   [this, window] { MirrorOthers(*window); });
+                   [this, window] { MirrorOthers(window); });
   try {
     form.Form_Load();
   } catch (...) {
@@ -33,10 +33,10 @@ FormWindow& QtHost::WindowOf(forms::Form& form) {
 }
 
 // The other windows, of which any may close while it is mirrored.
-void QtHost::MirrorOthers(const FormWindow& window) {
+void QtHost::MirrorOthers(const FormWindow* window) {
   std::vector<FormWindow*> others;
   for (const auto& [form, other] : windows_) {
-    if (other != &window && other->isVisible()) others.push_back(other);
+    if (other != window && other->isVisible()) others.push_back(other);
   }
   for (FormWindow* other : others) other->Mirror();
 }

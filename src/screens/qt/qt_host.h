@@ -25,12 +25,16 @@ class QtHost : public forms::FormHost {
   void Unload(forms::Form& form) override;
   [[noreturn]] void EndProgram() override;
   forms::DrawingTarget& TargetOf(forms::Control& pictureBox) override;
+  void ForgetTarget(forms::Control& pictureBox) override { pages_.erase(&pictureBox); }
+
+  // Takes over what has changed in any form.
+  void MirrorAll() { MirrorOthers(nullptr); }
 
   // The window of a form; made, and the form loaded, at the first call and after an unload.
   FormWindow& WindowOf(forms::Form& form);
 
  private:
-  void MirrorOthers(const FormWindow& window);
+  void MirrorOthers(const FormWindow* window);
   static void CentreOn(const FormWindow& owner, FormWindow& window);
 
   std::map<const forms::Form*, FormWindow*> windows_;

@@ -72,6 +72,11 @@ foundation::MessageAnswer QtMessageBoxes::Show(std::string_view text, foundation
 }
 
 void QtYielder::Yield() {
+  constexpr qint64 kShownEvery = 50;  // milliseconds
+  if (show && (!shown_.isValid() || shown_.elapsed() >= kShownEvery)) {
+    shown_.start();
+    show();
+  }
   QApplication::processEvents();
 }
 

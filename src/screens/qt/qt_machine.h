@@ -1,6 +1,9 @@
 // The machine's clock, boxes, event loop and browser through the toolkit.
 #pragma once
 
+#include <QElapsedTimer>
+#include <functional>
+
 #include "foundation/locale_names.h"
 #include "foundation/machine.h"
 
@@ -20,7 +23,13 @@ class QtMessageBoxes : public foundation::MessageBoxes {
 
 class QtYielder : public foundation::Yielder {
  public:
+  // Shows what has changed meanwhile; called some times a second.
+  std::function<void()> show;
+
   void Yield() override;
+
+ private:
+  QElapsedTimer shown_;
 };
 
 class QtRandomNumbers : public foundation::RandomNumbers {

@@ -71,7 +71,7 @@ void Paint(QPainter& painter, const forms::Outline& outline) {
 
 // The measures of the legacy Hindi face, in its size, and how much smaller an open face has to be
 // to stand where it would: its letters reach further up and down.
-constexpr double kLegacyLine = 1.05, kLegacyAscent = 0.8, kLegacyScale = 0.85;
+constexpr double kLegacyLine = 1.05, kLegacyAscent = 0.8, kLegacyScale = 0.78;
 
 bool IsStandInForLegacyHindi(const forms::Font& font) {
   static const bool installed =
@@ -167,7 +167,7 @@ QFont FittedInto(QFont font, const QString& text, QSizeF box) {
 }
 
 double QtTextMeasure::TextWidth(std::string_view text, const forms::Font& font) const {
-  return QFontMetricsF(ToQt(font)).horizontalAdvance(ToQt(text)) * kTwipsPerPixel;
+  return QFontMetricsF(ToQt(font)).horizontalAdvance(Readable(text, font)) * kTwipsPerPixel;
 }
 
 double QtTextMeasure::LineHeight(const forms::Font& font) const {

@@ -1,6 +1,6 @@
 #include "screens/qt/qt_printer.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QPageLayout>
 #include <QPrintDialog>
 #include <QtMath>
@@ -10,7 +10,8 @@
 namespace screens::qt {
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
+constexpr double kTwipsPerInch = 72 * kTwipsPerPoint;
+constexpr float kLargestPaper = 48 * static_cast<float>(kTwipsPerInch);  // nothing is cut before
 
 }  // namespace
 
@@ -21,6 +22,13 @@ forms::Raster QtRasteriser::Render(const forms::Picture& picture) const {
   forms::Raster dots = Rasterise(picture, size);
   dots.dotsPerInch *= ratio;
   return dots;
+}
+
+forms::Control QtPrinter::Paper() {
+  forms::Control paper;
+  paper.kind = forms::Kind::PictureBox;
+  paper.place.width = paper.place.height = kLargestPaper;
+  return paper;
 }
 
 QPrinter& QtPrinter::Device() {
@@ -34,57 +42,55 @@ QPrinter& QtPrinter::Device() {
 
 void QtPrinter::AskUser() {
   if (!pdfFile_.isEmpty()) return;
-  QPrintDialog dialog(&Device());
+  QPrintDialog dialog(&Device(), QApplication::activeWindow());
   if (dialog.exec() != QDialog::Accepted) {
     throw foundation::Error(foundation::ErrorKind::Cancelled);
   }
 }
 
 void QtPrinter::SetOrientation(forms::Orientation orientation) {
+  if (painter_) EndDoc();
   Device().setPageOrientation(orientation == forms::Orientation::Landscape ? QPageLayout::Landscape
                                                                            : QPageLayout::Portrait);
 }
 
-// Opens the document at its first drawing; twips from the paper's corner.
-QPainter& QtPrinter::Page() {
-  if (!painter_) {
-    painter_ = std::make_unique<QPainter>();
-    if (!painter_->begin(&Device())) {
-      painter_.reset();
-      throw foundation::Error(foundation::ErrorKind::FileAccess);
-    }
-    const double scale = Device().resolution() / kTwipsPerInch;
-    painter_->scale(scale, scale);
-  } else if (turnPage_ && !Device().newPage()) {
+void QtPrinter::Open() {
+  if (painter_) return;
+  painter_ = std::make_unique<QPainter>();
+  if (!painter_->begin(&Device())) {
+    painter_.reset();
     throw foundation::Error(foundation::ErrorKind::FileAccess);
   }
-  turnPage_ = false;
-  return *painter_;
+  const double scale = Device().resolution() / kTwipsPerInch;
+  painter_->scale(scale, scale);
+  begun_ = false;
 }
 
-// An empty text opens the document, and draws nothing.
 void QtPrinter::Print(std::string_view text) {
-  if (text.empty()) {
-    if (!painter_) Page();
-    return;
-  }
-  Page().drawText(QPointF(CurrentX(), CurrentY()), ToQt(text));
+  Open();
+  if (!text.empty()) page_.Print(text);
 }
 
-void QtPrinter::PaintPicture(const forms::PicturePtr& picture, double x, double y, double width,
-                             double height) {
-  screens::qt::PaintPicture(Page(), *picture, QRectF(x, y, width, height));
+void QtPrinter::Release() {
+  const forms::PicturePtr drawn = paper_.picture;
+  page_.Cls();
+  if (!drawn || drawn->items.empty()) return;
+  Open();
+  if (begun_ && !Device().newPage()) throw foundation::Error(foundation::ErrorKind::FileAccess);
+  screens::qt::PaintPicture(*painter_, *drawn, QRectF(0, 0, drawn->width, drawn->height));
+  begun_ = true;
 }
 
 void QtPrinter::NewPage() {
-  turnPage_ = true;
+  Release();
 }
 
 void QtPrinter::EndDoc() {
-  if (painter_) painter_->end();
+  Release();
+  if (!painter_) return;
+  painter_->end();
   painter_.reset();
   printer_.reset();
-  turnPage_ = false;
 }
 
 }  // namespace screens::qt

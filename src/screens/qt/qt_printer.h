@@ -6,6 +6,7 @@
 #include <memory>
 #include <utility>
 
+#include "forms/picture_page.h"
 #include "forms/screen_services.h"
 #include "screens/qt/qt_painting.h"
 
@@ -17,7 +18,8 @@ class QtRasteriser : public forms::Rasteriser {
   forms::Raster Render(const forms::Picture& picture) const override;
 };
 
-// The toolkit's printer and its dialog. A page on which nothing was drawn is not printed.
+// The toolkit's printer and its dialog. A page is drawn as a picture and goes onto the paper when
+// it is whole; one on which nothing was drawn does not.
 class QtPrinter : public forms::Printer {
  public:
   QtPrinter() = default;
@@ -25,22 +27,53 @@ class QtPrinter : public forms::Printer {
   explicit QtPrinter(QString pdfFile) : pdfFile_(std::move(pdfFile)) {}
 
   void AskUser() override;
+  // A document that was left open ends.
   void SetOrientation(forms::Orientation orientation) override;
-  // FileAccess where the printer takes no document.
-  void Print(std::string_view text) override;
-  void PaintPicture(const forms::PicturePtr& picture, double x, double y, double width,
-                    double height) override;
+  // NewPage and EndDoc put the page onto the paper; FileAccess where the printer does not take it.
   void NewPage() override;
   void EndDoc() override;
 
+  void SetForeColor(forms::Colour colour) override { page_.SetForeColor(colour); }
+  void SetDrawWidth(double pixels) override { page_.SetDrawWidth(pixels); }
+  void SetFont(std::string_view name) override { page_.SetFont(name); }
+  void SetFontSize(double points) override { page_.SetFontSize(points); }
+  double FontSize() const override { return page_.FontSize(); }
+  void SetFontBold(bool on) override { page_.SetFontBold(on); }
+  void SetFontItalic(bool on) override { page_.SetFontItalic(on); }
+  void SetFontStrikethru(bool on) override { page_.SetFontStrikethru(on); }
+  void SetFontUnderLine(bool on) override { page_.SetFontUnderLine(on); }
+  void SetRightToLeft(bool on) override { page_.SetRightToLeft(on); }
+  void SetCurrentX(double x) override { page_.SetCurrentX(x); }
+  double CurrentX() const override { return page_.CurrentX(); }
+  void SetCurrentY(double y) override { page_.SetCurrentY(y); }
+  double CurrentY() const override { return page_.CurrentY(); }
+  void Line(double x1, double y1, double x2, double y2, forms::Colour colour,
+            forms::LineStyle style) override {
+    page_.Line(x1, y1, x2, y2, colour, style);
+  }
+  void PaintPicture(const forms::PicturePtr& picture, double x, double y, double width,
+                    double height) override {
+    page_.PaintPicture(picture, x, y, width, height);
+  }
+  // Opens the document. FileAccess where the printer takes none.
+  void Print(std::string_view text) override;
+  double TextWidth(std::string_view text) const override { return page_.TextWidth(text); }
+  double TextHeight(std::string_view text) const override { return page_.TextHeight(text); }
+
  private:
   QPrinter& Device();
-  QPainter& Page();
+  void Open();
+  void Release();
 
   QString pdfFile_;
+  QtTextMeasure measure_;
+  forms::Control paper_ = Paper();
+  forms::PicturePage page_{paper_, measure_};
   std::unique_ptr<QPrinter> printer_;
   std::unique_ptr<QPainter> painter_;  // while a document is open
-  bool turnPage_ = false;              // before the next drawing
+  bool begun_ = false;                 // a page stands on the paper
+
+  static forms::Control Paper();
 };
 
 }  // namespace screens::qt

@@ -46,7 +46,7 @@ int Count(const QByteArray& bytes, const char* text) {
 
 TEST(Printing, GivesAPageOfDotsAndOfPaperForEachMonth) {
   const QTemporaryDir folder;
-  const QString file = folder.filePath(QStringLiteral("year.pdf"));
+  const QString file = folder.filePath(QStringLiteral("quarter.pdf"));
   Printing printing(file);
   MakeReport({DateFromParts(2011, 1, 1), DateFromParts(2011, 3, 31), 0.5, "28.40N", "77.13E",
               "82.30E", "-5.30", "Delhi", "India", printing.fakes.status},
