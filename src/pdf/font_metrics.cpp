@@ -79,8 +79,11 @@ WidthTable ReadWidths(std::string_view metrics) {
 }
 
 double TextWidth(const foundation::ByteText& text, const WidthTable& widths, double size) {
+  const std::string& bytes = text.Bytes();
+  if (bytes.find('\0') != std::string::npos) throw Error(ErrorKind::Subscript);
+  const std::int32_t* const ofCode1 = &widths[1];
   std::int64_t sum = 0;
-  for (const char c : text.Bytes()) sum += widths[static_cast<unsigned char>(c)];
+  for (const char c : bytes) sum += ofCode1[static_cast<unsigned char>(c) - 1];
   return foundation::RoundToInt32(static_cast<double>(sum)) * size / 1000;
 }
 

@@ -16,11 +16,19 @@ std::string_view FileNameOf(std::string_view path) {
 }  // namespace
 
 void ObjectFile::Open(const std::string& path, ReaderWindows& readers) {
-  const auto mode = std::ios::binary | std::ios::trunc;
-  stream_ = std::ofstream(path, mode);
+  OpenStream(path);
   if (stream_ || errno != EACCES) return;
   readers.Close("Adobe Reader - [" + std::string(FileNameOf(path)) + "]");
-  stream_ = std::ofstream(path, mode);
+  OpenStream(path);
+}
+
+// With room for some pages, so that the system is not asked for each.
+void ObjectFile::OpenStream(const std::string& path) {
+  constexpr std::size_t kRoom = 1 << 18;
+  stream_ = std::ofstream();
+  streamRoom_.resize(kRoom);
+  stream_.rdbuf()->pubsetbuf(streamRoom_.data(), static_cast<std::streamsize>(kRoom));
+  stream_.open(path, std::ios::binary | std::ios::trunc);
 }
 
 void ObjectFile::Close() {

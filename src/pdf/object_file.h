@@ -41,6 +41,9 @@ class ObjectFile {
   int LastObject() const { return counter_; }
 
  private:
+  void OpenStream(const std::string& path);
+
+  std::vector<char> streamRoom_;
   std::ofstream stream_;
   std::string buffer_;
   std::int16_t counter_ = 0;

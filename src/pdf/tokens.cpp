@@ -4,7 +4,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <optional>
 
 #include "foundation/checked.h"
 #include "foundation/numbers.h"
@@ -17,15 +16,15 @@ namespace {
 
 constexpr std::array<int, 6> kPowersOfTen = {1, 10, 100, 1000, 10000, 100000};
 
-// The text of ordinary numbers, of which a page has hundreds; nothing for one that is large, or so
-// near the middle between two texts that only its exact value decides.
-std::optional<std::string> QuickText(double value, int decimals) {
-  if (decimals < 1 || decimals >= int{kPowersOfTen.size()}) return std::nullopt;
+// Appends ordinary numbers, of which a page has hundreds; not one that is large, or so near the
+// middle between two texts that only its exact value decides.
+bool AppendQuickly(std::string& buffer, double value, int decimals) {
+  if (decimals < 1 || decimals >= int{kPowersOfTen.size()}) return false;
   const double scaled = std::abs(value) * kPowersOfTen[static_cast<std::size_t>(decimals)];
-  if (!(scaled < 1e9)) return std::nullopt;
+  if (!(scaled < 1e9)) return false;
   const auto below = static_cast<int>(scaled);
   const double rest = scaled - below;
-  if (std::abs(rest - 0.5) < 1e-6) return std::nullopt;
+  if (std::abs(rest - 0.5) < 1e-6) return false;
 
   auto digits = below + (rest > 0.5 ? 1 : 0);
   std::array<char, 16> text;
@@ -39,22 +38,28 @@ std::optional<std::string> QuickText(double value, int decimals) {
   do put();
   while (digits > 0);
   if (value < 0) text[--at] = '-';
-  return std::string(text.begin() + at, text.end());
+  buffer.append(text.data() + at, text.size() - at);
+  return true;
+}
+
+void AppendNumber(std::string& buffer, double value, int decimals) {
+  if (value == 0) value = 0;  // no sign
+  if (!AppendQuickly(buffer, value, decimals)) buffer += foundation::FixedText(value, decimals);
 }
 
 }  // namespace
 
 std::string PDFFormatNumber(double value, int decimals) {
-  if (value == 0) value = 0;  // no sign
-  if (auto text = QuickText(value, decimals)) return *std::move(text);
-  return foundation::FixedText(value, decimals);
+  std::string text;
+  AppendNumber(text, value, decimals);
+  return text;
 }
 
 std::string JoinedNumbers(std::initializer_list<double> values, int decimals) {
   std::string joined;
   for (const double value : values) {
     if (!joined.empty()) joined += ' ';
-    joined += PDFFormatNumber(value, decimals);
+    AppendNumber(joined, value, decimals);
   }
   return joined;
 }
@@ -100,9 +105,8 @@ ByteText Escaped(const ByteText& text) {
 }
 
 void PDFAddLine(std::string& buffer, std::initializer_list<std::string_view> parts) {
-  for (const std::string_view part : parts) buffer += part;
-  buffer += '\r';
-  buffer += '\n';
+  for (const std::string_view part : parts) buffer.append(part);
+  buffer.append("\r\n", 2);
 }
 
 }  // namespace pdf
