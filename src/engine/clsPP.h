@@ -104,8 +104,11 @@ class clsPP {
   // begins with no number counts as 0.
   //
   // Overflow where a field of the moment, or nAyan, does not fit its 16 or 32 bits; TypeMismatch
-  // for a date that does not exist, InvalidCall for a month that does not; Subscript in modes 8 and
-  // 9. After an error the object is as far as it got.
+  // for a date that does not exist, and in the years 100 and 9999 with the corrected node;
+  // InvalidCall for a month that does not exist, and for a time or zone so large that it has no
+  // place in the series; Subscript in modes 8 and 9 and where the corrected node meets the end of
+  // its table; DivisionByZero where a direction has none. After an error the object is as far as it
+  // got.
   //
   // A longitude of whole degrees ("77.00E") loses its point on the way and is read as so many
   // minutes, east; a latitude of whole degrees is not. That is how places are read here, and it

@@ -16,7 +16,8 @@ struct Perturbations {
   ElementTerms SaturnTerms;
 };
 
-// T in Julian centuries from the epoch. Overflow where T is so far away that a term has no value.
+// T in Julian centuries from the epoch. Overflow or InvalidCall where T is so far away that a term
+// has no value.
 Perturbations CalcPerturbations(double T);
 
 }  // namespace engine

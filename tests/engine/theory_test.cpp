@@ -31,7 +31,7 @@ clsPP ChartOf(double day, double month, double year, double hour, std::int32_t m
 }
 
 TEST(TimeBase, CountsDays) {
-  // Julian Days at midnight (Meeus, Astronomical Algorithms), less 1720994.5.
+  // Julian Days at midnight, worked by hand, less 1720994.5.
   EXPECT_EQ(DayNumber(31, 12, 1899), 694025);
   EXPECT_EQ(DayNumber(1, 1, 1900), 694026);
   EXPECT_EQ(DayNumber(1, 1, 2000), 730550);
@@ -109,6 +109,7 @@ TEST(CorrectedNode, FollowsItsTables) {
   // A sum below 0 is folded, not wrapped.
   EXPECT_NEAR(CalcNode(0.05, 0.05, DateFromParts(2011, 3, 29)), 0.1, 1e-9);
   EXPECT_ERROR(Subscript, CalcNode(10, 100, DateFromParts(2011, 3, 5)));
+  EXPECT_ERROR(Subscript, CalcNode(10, 190, DateFromParts(2011, 3, 5)));  // half a turn likewise
   EXPECT_ERROR(TypeMismatch, CalcNode(100, 100, DateFromParts(100, 3, 5)));
   EXPECT_ERROR(TypeMismatch, CalcNode(100, 100, DateFromParts(9999, 3, 5)));
 }
@@ -152,6 +153,18 @@ TEST(Houses, OfTheEquator) {
   EXPECT_NEAR(AscendantAt(6, 0, frame), 156, 1e-9);
   EXPECT_NEAR(AscendantAt(12, 0, frame), 246, 1e-9);
   EXPECT_NEAR(AscendantAt(18, 0, {23.45, 0}), 0, 1e-9);
+}
+
+// What a mode adds to no body's slot gathers in an object that is used again.
+TEST(Positions, GatherShiftsInTheEmptySlot) {
+  clsPP pp;
+  const auto reckon = [&] {
+    pp.GenHoro(5, 3, 2011, 6, 0, 0, "77.13E", "28.40N", "0.0E", 4, kFalse16, 0);
+    return pp.pp_14;
+  };
+  const double once = reckon();
+  EXPECT_NEAR(once, CalcAyanamsa(DateFromParts(2011, 3, 5)) - pp.pp_AYAN, 1e-12);
+  EXPECT_NEAR(reckon(), 2 * once, 1e-12);
 }
 
 TEST(Motion, IsThatOfOneHourWithoutTheWrap) {
