@@ -33,7 +33,9 @@ class PDFPrinter {
   PDFPrinter(const foundation::Clock& clock, foundation::MessageBoxes& boxes,
              ReaderWindows& readers);
 
-  // The document. Without a file that could be created, writing raises ObjectNotSet.
+  // The document. Without a file that could be created, writing raises ObjectNotSet, and where it
+  // does not take the bytes, FileAccess. PDFBeginDoc begins again with the page that was set up
+  // last, the information texts, modes and flags.
   void PDFFileName(std::string_view fileName);
   const std::string& PDFGetFileName() const { return fileName_; }
   void PDFBeginDoc();

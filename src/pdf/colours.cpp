@@ -35,7 +35,7 @@ std::optional<Rgb> PDFColorFromHtml(std::string_view text) {
   const auto red = HexPair(digits.substr(0, 2));
   const auto green = HexPair(digits.substr(2, 2));
   const auto blue = HexPair(digits.substr(4, 2));
-  if (!red || !green || !blue) return std::nullopt;
+  if (!red || !green || !blue) return Rgb{};
   return Rgb{*red, *green, *blue};
 }
 

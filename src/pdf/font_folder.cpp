@@ -36,6 +36,18 @@ std::vector<std::string> MetricFileNames(const fs::path& folder) {
   return names;
 }
 
+// The file of that name, or else the one that differs from it in case alone.
+fs::path FileOf(const fs::path& folder, const std::string& name) {
+  std::error_code failure;
+  if (fs::exists(folder / name, failure)) return folder / name;
+  const std::string folded = foundation::FoldCase(name);
+  for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end;
+       entry.increment(failure)) {
+    if (foundation::FoldCase(entry->path().filename().string()) == folded) return entry->path();
+  }
+  return folder / name;
+}
+
 std::string WithoutExtension(std::string_view name) {
   const auto length = foundation::Characters(name).size();
   return std::string(
@@ -70,7 +82,7 @@ const WidthTable& FontFolder::Widths(std::string_view name) {
   const auto known = files_.find(name);
   if (known != files_.end() && known->second.isFresh) return known->second.widths;
 
-  const fs::path path = path_ / (std::string(name) + std::string(kExtension));
+  const fs::path path = FileOf(path_, std::string(name).append(kExtension));
   std::error_code failure;
   const auto size = fs::file_size(path, failure);
   const auto time = fs::last_write_time(path, failure);

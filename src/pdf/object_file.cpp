@@ -67,6 +67,7 @@ void ObjectFile::WriteLine(std::string_view text) {
 }
 
 void ObjectFile::PDFAddOffset(std::size_t length) {
+  foundation::RoundToInt16(static_cast<double>(offsets_.size()) + 2);  // the next free slot
   offset_ = foundation::RoundToInt32(offset_ + static_cast<double>(length));
   offsets_.push_back(offset_);
 }

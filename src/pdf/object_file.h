@@ -24,7 +24,7 @@ class ObjectFile {
   // Back to no objects and no offsets.
   void Restart();
 
-  // Starts the next object in the buffer and returns its number. Overflow beyond 32767.
+  // Starts the next object in the buffer and returns its number.
   int BeginObject();
   void Add(std::initializer_list<std::string_view> parts);  // one line
   void AddBytes(std::string_view bytes) { buffer_ += bytes; }
@@ -33,7 +33,7 @@ class ObjectFile {
   // Writes a text and a line end. ObjectNotSet without an open file, FileAccess where the write
   // fails.
   void WriteLine(std::string_view text);
-  // Overflow beyond 32 bits.
+  // Overflow beyond 32766 offsets, or 32 bits.
   void PDFAddOffset(std::size_t length);
   // The table and all behind it up to the last offset.
   void PDFPutXref(int catalog);

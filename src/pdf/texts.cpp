@@ -66,8 +66,8 @@ std::string PDFPrinter::PDFUnderlineOp(bool forCell, const ByteText& text, doubl
   double w = blanks * blank + StringWidth(text, font_.size) + blanks * cell_.wordSpacing;
   if (cell_.wordSpacing != 0) w -= static_cast<double>(blanks + 1) * page_.cellMargin;
   const double thickness = w * (-2.0 / 1000);
-  if (forCell) return JoinedNumbers({x, y - 3, w - font_.size, thickness}) + " re f";
   const std::int16_t left = RoundToInt16(page_.leftMargin * page_.scale + x);
+  if (forCell) return JoinedNumbers({x, y - 3, w - font_.size, thickness}) + " re f";
   const double top = page_.Format().height - (y - up / 1000.0 * font_.size);
   return JoinedNumbers({static_cast<double>(left), top, w, thickness}) + " re f";
 }

@@ -37,12 +37,13 @@ TEST(FontFolders, GrowFromTheStart) {
   FontFolder fonts;
   fonts.PDFLoadAfm(folder.path);
   EXPECT_EQ(fonts.Names(), (std::vector<std::string>{"Courier", "Helvetica", "Times-Roman"}));
-  folder.Write("more/Zapf.AFM", "");
+  folder.Write("more/Zapf.AFM", "StartCharMetrics 1\nC 65 ; WX 700 ;\nEndCharMetrics\n");
   folder.Write("more/courier-x.afm", "");
   folder.Write("more/notes.txt", "");
   fonts.PDFLoadAfm(folder.path / "more");
   EXPECT_EQ(fonts.Names(), (std::vector<std::string>{"courier-x", "Zapf", "Times-Roman"}));
   EXPECT_EQ(fonts.NumberOf("Zapf"), 2);
+  EXPECT_EQ(fonts.Widths("Zapf")[65], 700);  // whatever the case of its extension
   EXPECT_EQ(fonts.NumberOf("Helvetica"), 0);
   EXPECT_EQ(fonts.NumberOf(""), 1);
   EXPECT_ERROR(FileNotFound, fonts.PDFLoadAfm(folder.path / "none"));
