@@ -10,10 +10,13 @@
 #include "engine/houses.h"
 #include "engine/perturbations.h"
 #include "engine/place_decoding.h"
+#include "engine/planets_table.h"
 #include "engine/positions.h"
 #include "engine/relations.h"
 #include "engine/time_base.h"
+#include "foundation/machine.h"
 #include "foundation/numbers.h"
+#include "foundation/session.h"
 
 namespace engine {
 
@@ -134,6 +137,24 @@ class clsPP {
   HouseTable getBhavF2() const { return houses_.Cusps; }    // cusps
   HouseTable getBhavF3() const { return houses_.Sandhis; }  // junctions between houses
   double getSidTime() const { return ppSidTime; }
+
+  // A body by its number in BodyName, a sign of 0 Aries to 11, both rounded half to even.
+  // Subscript outside.
+  static std::string_view getPlanetName(double PlanetNum);
+  static std::string_view getRashiName(double sign);
+  // The lord of the star at a longitude by name, "Ketu"; that of the sign as a number of BodyName
+  // in a text, "4". Subscript for the sign at 360.
+  static std::string_view GetNakLord(double longitude);
+  static std::string GetRashiLord(double longitude);
+
+  // What there is to tell of each body. Subscript where a longitude is 360. The sub-lords tell
+  // their errors in a box.
+  PlanetsTable getPlanetsTable(foundation::MessageBoxes& boxes) const;
+  PlanetsTable2 getPlanetsTable2() const;
+
+  // "Ayanamsa:23:12:5", its word and colons in the current language; seconds are rounded and may
+  // be 60. Errors as those of LanguagePhrase.
+  std::string getAyan(const foundation::SessionTable& session) const;
 
  private:
   void Reckon();

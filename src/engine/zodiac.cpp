@@ -75,10 +75,6 @@ bool IsInside(Range range, double longitude) {
   return range.From <= seconds && seconds <= range.To;
 }
 
-std::int16_t SignAt(double longitude) {
-  return FloorToInt16(longitude / 30 + 1);
-}
-
 }  // namespace
 
 std::string_view BodyName(int number) {
@@ -89,12 +85,16 @@ std::string_view BodyNameUpper(std::int16_t number) {
   return kBodiesOfTheory[number];
 }
 
+std::int16_t RashiNumber(double longitude) {
+  return FloorToInt16(longitude / 30 + 1);
+}
+
 int RashiLordNumber(int sign) {
   return kSignLords[sign];
 }
 
 std::string_view RashiLordCode(double longitude) {
-  return RashiLordCodeAt(SignAt(longitude));
+  return RashiLordCodeAt(RashiNumber(longitude));
 }
 
 std::string_view RashiLordCodeAt(std::int16_t sign) {
@@ -132,7 +132,7 @@ std::string_view RashiNameLang(std::int16_t sign, std::int32_t language) {
 
 std::int16_t HouseOfSign(double ascendant, std::int16_t sign) {
   if (sign < 1 || sign > 12) throw foundation::Error(foundation::ErrorKind::Subscript);
-  const int house = sign - SignAt(ascendant) + 1;
+  const int house = sign - RashiNumber(ascendant) + 1;
   return static_cast<std::int16_t>(house < 1 ? house + 12 : house);
 }
 

@@ -19,6 +19,8 @@ std::string_view BodyName(int number);
 // "MOON", "RAHU", "KETU", "URANUS", "NEPTUNE", 13 "PLUTO"; 0 is "".
 std::string_view BodyNameUpper(std::int16_t number);
 
+// The sign at a longitude, from 1.
+std::int16_t RashiNumber(double longitude);
 // The lord of a sign of 1 to 12, as a number of BodyName.
 int RashiLordNumber(int sign);
 // As a code, "MAR"; by longitude or by sign of 0 (which has none) to 12.
