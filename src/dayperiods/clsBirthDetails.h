@@ -1,4 +1,5 @@
-// clsBirthDetails: when the sun rose and set for the Hindu day that holds a moment.
+// clsBirthDetails: when the sun rose and set for the Hindu day that holds a moment, and the
+// elements of that moment. The bodies of the elements are in the almanac library.
 #pragma once
 
 #include <cstdint>
@@ -16,6 +17,9 @@ struct SunriseRows {
   double clockSet = 0;       // row 4
   std::string date;          // row 5: "5 March 2011"
 };
+
+// A number, or the name that belongs to it, as the caller asked.
+using ElementResult = std::variant<std::string, std::int16_t>;
 
 // Latitudes are decimal degrees, north positive; longitudes decimal degrees, east positive; zones
 // hours, east positive, so that clock time = Universal Time + zone.
@@ -52,6 +56,25 @@ class clsBirthDetails {
 
   // An angle in radians brought into 0 to 2 pi.
   double GetRange(double x);
+
+  // The almanac's elements. Positions are sidereal longitudes of Moon and Sun, 0 to 360 degrees;
+  // what lies far outside ends in Subscript or Overflow.
+
+  // The lunar day, 1 to 30; at the very moment of the new moon number 0 and "Purnima".
+  ElementResult getTITHI(double MoonPos, double SUNpos, bool blnretNum);
+  // 1 to 14 and again 16 to 29 "Pratipada" to "Chaturdashi", 15 "Purnima", 30 "Amavasya".
+  std::string getTithiName(std::int16_t TithiNum);
+  // The half of the month: "Shukla", the full moon's day with it, or "Krishna"; a name however
+  // blnretNum is.
+  std::string getPaksh(double MoonPos, double SUNpos, bool blnretNum = false);
+  // The quarter of the nakshatra, "1" to "4".
+  std::string getCharanPad(double position);
+  // The yoga, 1 "Viskumbh" to 27 "Vaidhriti".
+  ElementResult getYOG(double Mpos, double Spos, bool blnretNum);
+  std::string getYogName(std::int16_t Yognum);
+  // The karana, 1 to 60, reckoned in whole minutes of arc: "Bava", and "BAVA" by its number.
+  ElementResult GetKaran(double Mpos, double Spos, bool blnretNum);
+  std::string getKaranName(std::int16_t KaranNum);
 };
 
 }  // namespace dayperiods

@@ -121,6 +121,16 @@ std::string UpperAscii(std::string_view text) {
   return upper;
 }
 
+std::string ProperCase(std::string_view text) {
+  std::string proper = UpperAscii(text);
+  bool inWord = false;
+  for (char& c : proper) {
+    if (inWord && c >= 'A' && c <= 'Z') c = static_cast<char>(c + ('a' - 'A'));
+    inWord = c != ' ';
+  }
+  return proper;
+}
+
 std::vector<std::string_view> Split(std::string_view text, char separator) {
   std::vector<std::string_view> fields;
   std::size_t at = 0;

@@ -26,6 +26,9 @@ bool BeginsWith(std::string_view text, std::string_view beginning);
 // ASCII letters a to z in upper case, all else as it stands.
 std::string UpperAscii(std::string_view text);
 
+// ASCII letters: the first of each word a capital, the others small. Words end at blanks.
+std::string ProperCase(std::string_view text);
+
 // The fields between separators; always one at least.
 std::vector<std::string_view> Split(std::string_view text, char separator);
 

@@ -23,6 +23,7 @@ const std::map<std::string, Rooms> kArrows = {
     {"atlas", {"foundation", "forms"}},
     {"bitmap", {"foundation", "forms"}},
     {"dayperiods", {"foundation", "engine"}},
+    {"almanac", {"foundation", "engine", "dayperiods"}},
     {"report", {"foundation", "forms", "engine", "bitmap", "dayperiods"}},
     {"screens", {"foundation", "forms", "engine", "atlas", "dayperiods", "report"}},
     {"screens/qt", {"foundation", "forms", "engine", "atlas", "dayperiods", "report", "screens"}},

@@ -30,6 +30,11 @@ TEST(Text, FoldsCaseOfLettersWithASmallForm) {
   EXPECT_EQ(FoldCase("×ß्"), "×ß्");
 }
 
+TEST(Text, MakesAWordsFirstLetterACapital) {
+  EXPECT_EQ(ProperCase("KINSTUGHNA naG  x"), "Kinstughna Nag  X");
+  EXPECT_EQ(ProperCase("u. PHALG"), "U. Phalg");
+}
+
 TEST(Text, BeginsWithAnotherCaseAside) {
   EXPECT_TRUE(BeginsWith("Delhi, India", "dELHI"));
   EXPECT_TRUE(BeginsWith("ÉVORA", "év"));
