@@ -55,11 +55,12 @@ constexpr struct {
 struct Range {
   double From, To;
 };
-constexpr struct {
+struct Dignities {
   std::string_view Code;
   Range Fall;
   Range Exaltation;
-} kDignities[] = {
+};
+constexpr Dignities kDignities[] = {
     {"SUN", {648001, 756000}, {1, 108000}},        {"MOO", {756001, 864000}, {108001, 216000}},
     {"MON", {756001, 864000}, {108001, 216000}},   {"MAR", {324001, 432000}, {972001, 1080000}},
     {"MER", {1188001, 1296000}, {540000, 648000}}, {"JUP", {972001, 1080000}, {324001, 432000}},
@@ -70,9 +71,13 @@ std::string CodeOf(std::string_view body) {
   return foundation::UpperAscii(body.substr(0, 3));
 }
 
-bool IsInside(Range range, double longitude) {
+bool IsInside(std::string_view body, double longitude, Range Dignities::*range) {
   const double seconds = longitude * 3600;
-  return range.From <= seconds && seconds <= range.To;
+  const std::string code = CodeOf(body);
+  for (const Dignities& row : kDignities) {
+    if (row.Code == code) return (row.*range).From <= seconds && seconds <= (row.*range).To;
+  }
+  return false;
 }
 
 }  // namespace
@@ -145,19 +150,11 @@ std::string_view CombustTest(std::string_view body, double longitude, double sun
 }
 
 std::string_view DebilTest(std::string_view body, double longitude) {
-  const std::string code = CodeOf(body);
-  for (const auto& row : kDignities) {
-    if (row.Code == code) return IsInside(row.Fall, longitude) ? "DEB" : "";
-  }
-  return "";
+  return IsInside(body, longitude, &Dignities::Fall) ? "DEB" : "";
 }
 
 std::string_view ExaltTest(std::string_view body, double longitude) {
-  const std::string code = CodeOf(body);
-  for (const auto& row : kDignities) {
-    if (row.Code == code) return IsInside(row.Exaltation, longitude) ? "EXL" : "";
-  }
-  return "";
+  return IsInside(body, longitude, &Dignities::Exaltation) ? "EXL" : "";
 }
 
 DegreeSplit ExactSplit(double longitude) {
