@@ -1,11 +1,15 @@
-// clsBirthDetails: when the sun rose and set for the Hindu day that holds a moment, and the
-// elements of that moment. The bodies of the elements are in the almanac library.
+// clsBirthDetails: when the sun rose and set for the Hindu day that holds a moment, the almanac's
+// elements of that moment, and what they say of a birth. All beyond sunrise has its bodies in the
+// almanac library.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <variant>
+
+#include "foundation/session.h"
 
 namespace dayperiods {
 
@@ -20,6 +24,10 @@ struct SunriseRows {
 
 // A number, or the name that belongs to it, as the caller asked.
 using ElementResult = std::variant<std::string, std::int16_t>;
+
+// Number, month, lunar days, weekday, nakshatra, yoga, karana, watch of the day, animal, and nine
+// signs.
+using GhatRow = std::array<std::string_view, 18>;
 
 // Latitudes are decimal degrees, north positive; longitudes decimal degrees, east positive; zones
 // hours, east positive, so that clock time = Universal Time + zone.
@@ -75,6 +83,73 @@ class clsBirthDetails {
   // The karana, 1 to 60, reckoned in whole minutes of arc: "Bava", and "BAVA" by its number.
   ElementResult GetKaran(double Mpos, double Spos, bool blnretNum);
   std::string getKaranName(std::int16_t KaranNum);
+
+  // When the element that holds a moment ends, to the second, as "18/November/1990 17:3:49" with
+  // the user's month name: by the clock, place and war-time correction of the current record, with
+  // the session's default ayanamsa and node. TypeMismatch for a moment that does not exist; the
+  // errors of GenHoro.
+  std::string GetTITHIending(std::int16_t day, std::int16_t month, std::int16_t year,
+                             std::int16_t hour, std::int16_t minute, std::int16_t second,
+                             const foundation::SessionTable& session);
+  std::string GetNakshatraending(std::int16_t day, std::int16_t month, std::int16_t year,
+                                 std::int16_t hour, std::int16_t minute, std::int16_t second,
+                                 const foundation::SessionTable& session);
+  std::string GetYogEnding(std::int16_t day, std::int16_t month, std::int16_t year,
+                           std::int16_t hour, std::int16_t minute, std::int16_t second,
+                           const foundation::SessionTable& session);
+  std::string GetKaranEnding(std::int16_t day, std::int16_t month, std::int16_t year,
+                             std::int16_t hour, std::int16_t minute, std::int16_t second,
+                             const foundation::SessionTable& session);
+
+  // The Sun's course, its half of the zodiac ("UTTAR" or "DAKSHIN") and its season, by the tropical
+  // longitude that both arguments make together, degrees.
+  std::string getAyan(double SUNpos, double Ayanamsapos);
+  std::string getGol(double SUNpos, double Ayanamsapos);
+  std::string getRitu(double SUNpos, double Ayanamsapos);
+
+  // The code of the lunar month that a solar month, 1 to 12, stands for: the number of its
+  // nakshatra. Subscript for any other.
+  std::int16_t MASatBirth(std::int16_t month);
+  // The lunar month of a code, "CHAITRA"; "" for any other code.
+  std::string Mas(std::int16_t code);
+
+  // The lunar month of a date: that of its solar month, or the next one where the full moon is past
+  // on the date or later in the month, at that time of day. Place texts are those of GenHoro, whose
+  // errors come through; the session gives ayanamsa and node alone.
+  std::string GetMas(std::int16_t day, std::int16_t month, std::int16_t year, std::int16_t hour,
+                     std::int16_t minute, std::int16_t second, std::string_view Longitude,
+                     std::string_view Lattitude, std::string_view zone,
+                     const foundation::SessionTable& session);
+  // The Shaka and the Vikram year, four digits each. The new year is the first date from 2 April on
+  // whose lunar day is 1 at that time of day, or 1 May.
+  std::array<std::string, 2> GetSamvat(std::int16_t day, std::int16_t month, std::int16_t year,
+                                       std::int16_t hour, std::int16_t minute, std::int16_t second,
+                                       std::string_view Longitude, std::string_view Lattitude,
+                                       std::string_view zone,
+                                       const foundation::SessionTable& session);
+
+  // Attributes of a birth by the Moon's sidereal longitude, 0 to below 360 degrees: class, control
+  // group, element.
+  std::string getVarna(double MoonPos);
+  std::string getVashya(double MoonPos);
+  std::string getHansak(double MoonPos);
+  // By its nakshatra, 1 to 27, "" for 0: animal, temperament, pulse, union. Subscript outside.
+  std::string getYoni(std::int16_t Nak);
+  std::string getGan(std::int16_t Nak);
+  std::string getNadi(std::int16_t Nak);
+  std::string getYunja(std::int16_t Nak);
+  // By nakshatra and quarter: the syllable with which a name begins, "Choo (Chooha)", its class,
+  // "SIMHA", and the class with a "_" before it. "" where there is none.
+  std::string getNaamAkshar(std::int16_t Nak, std::int16_t Quarter);
+  std::string getNaamAksharVarga(std::int16_t Nak, std::int16_t Quarter);
+  std::string getVarga(std::int16_t Nak, std::int16_t Quarter);
+  // "Gold", "Silver", "Copper" or "Iron", by a sign counted from the Moon's and by a nakshatra; ""
+  // for any other number.
+  std::string GetRashiPaya(std::int16_t sign);
+  std::string GetNakPaya(std::int16_t Nak);
+  // What is to be shunned under a Moon sign, 1 to 12, and 0 for 12; in English, whatever the
+  // language. Subscript outside.
+  const GhatRow& getGhat(std::int16_t sign, std::int32_t language);
 };
 
 }  // namespace dayperiods

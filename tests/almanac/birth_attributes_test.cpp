@@ -1,0 +1,93 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "dayperiods/clsBirthDetails.h"
+#include "support/errors.h"
+
+namespace dayperiods {
+namespace {
+
+using Words = std::set<std::string>;
+
+TEST(BirthAttributes, TablesAreFull) {
+  clsBirthDetails details;
+  Words vargas, nadis, gans, signs;
+  int syllables = 0, unknownSigns = 0;
+  for (std::int16_t nak = 1; nak <= 27; ++nak) {
+    nadis.insert(details.getNadi(nak));
+    gans.insert(details.getGan(nak));
+    EXPECT_NE(details.getYoni(nak), "");
+    EXPECT_NE(details.getYunja(nak), "");
+    for (std::int16_t quarter = 1; quarter <= 4; ++quarter) {
+      vargas.insert(details.getNaamAksharVarga(nak, quarter));
+      syllables += details.getNaamAkshar(nak, quarter).empty() ? 0 : 1;
+    }
+  }
+  EXPECT_EQ(nadis, (Words{"AADHYA", "ADHYA", "MADHYA", "ANTYA", "NTYA"}));
+  EXPECT_EQ(gans, (Words{"DEV", "MANUSHYA", "RAKSHAS"}));
+  EXPECT_EQ(vargas, (Words{"SIMHA", "MRIG", "GARUD", "MARJAR", "MESH", "SWAN", "UUDAR", "SARP"}));
+  EXPECT_EQ(syllables, 107);  // of 108: one is not there
+
+  const Words zodiac = {"ARIES", "TAURUS",  "GEMINI",      "CANCER",    "LEO",      "VIRGO",
+                        "LIBRA", "SCORPIO", "SAGGITARIUS", "CAPRICORN", "AQUARIUS", "PISCES"};
+  for (std::int16_t sign = 1; sign <= 12; ++sign) {
+    const GhatRow& row = details.getGhat(sign, 0);
+    EXPECT_EQ(row[0], std::to_string(sign));
+    for (const std::string_view cell : row) EXPECT_NE(cell, "");
+    for (std::size_t i = 9; i < row.size(); ++i) {
+      unknownSigns += zodiac.contains(std::string(row[i])) ? 0 : 1;
+    }
+  }
+  EXPECT_EQ(unknownSigns, 1);  // "CANCD"
+}
+
+TEST(BirthAttributes, KeepTheirSpelling) {
+  clsBirthDetails details;
+  EXPECT_EQ(details.getNadi(9), "NTYA");
+  EXPECT_EQ(details.getNadi(18), "ADHYA");
+  EXPECT_EQ(details.getYoni(15), "MAHI");
+  EXPECT_EQ(details.getYunja(27), "PURVA");
+  EXPECT_EQ(details.getNaamAkshar(2, 3), "Le ");
+  EXPECT_EQ(details.getNaamAkshar(27, 2), "");
+  EXPECT_EQ(details.getVarga(27, 2), "_SARP");
+  EXPECT_EQ(details.getGhat(11, 1)[14], "CANCD");
+  EXPECT_EQ(details.getGhat(7, 0)[2], "04-09-14  (Rikra)");
+}
+
+TEST(BirthAttributes, EndsOfTheirTables) {
+  clsBirthDetails details;
+  EXPECT_EQ(details.getVashya(269.999), "MAANAV/CHAT");
+  EXPECT_EQ(details.getVashya(270), "CHAT/JAL");
+  EXPECT_EQ(details.getVarna(0), "KSHATRIYA");
+  EXPECT_ERROR(Subscript, details.getHansak(360));
+  EXPECT_EQ(details.getGan(0), "");
+  EXPECT_ERROR(Subscript, details.getGan(28));
+  EXPECT_EQ(details.getNaamAkshar(0, 1), "");
+  EXPECT_EQ(details.getVarga(28, 1), "");
+  EXPECT_EQ(details.getNaamAkshar(1, 11), details.getNaamAkshar(11, 1));  // one key
+  EXPECT_EQ(details.getGhat(0, 0)[1], "FALGUN");
+  EXPECT_ERROR(Subscript, details.getGhat(13, 0));
+}
+
+// A letter for each number from 0 on; "-" is none.
+template <typename Paya>
+std::string Metals(int last, const Paya& paya) {
+  std::string metals;
+  for (int number = 0; number <= last; ++number) {
+    const std::string metal = paya(static_cast<std::int16_t>(number));
+    metals += metal.empty() ? '-' : metal[0];
+  }
+  return metals;
+}
+
+TEST(BirthAttributes, MetalOfABirth) {
+  clsBirthDetails details;
+  EXPECT_EQ(Metals(13, [&](std::int16_t sign) { return details.GetRashiPaya(sign); }),
+            "GGSCISGCISCGI-");
+  EXPECT_EQ(Metals(28, [&](std::int16_t nak) { return details.GetNakPaya(nak); }),
+            "-GGGGGSSSSSSSSSSICCCCCCCCCCG-");
+}
+
+}  // namespace
+}  // namespace dayperiods
