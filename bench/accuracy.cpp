@@ -1,0 +1,238 @@
+// Writes the tables of docs/accuracy.md into a folder: how far the system's figures lie from those
+// of the Swiss Ephemeris.
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "bench/ephemeris.h"
+#include "dayperiods/clsBirthDetails.h"
+#include "engine/clsPP.h"
+#include "foundation/date_text.h"
+#include "foundation/numbers.h"
+
+namespace {
+
+using dayperiods::clsBirthDetails;
+using foundation::DateFromParts;
+using foundation::DateTime;
+using foundation::FixedText;
+
+constexpr std::int32_t kAsSeen = SEFLG_MOSEPH;
+
+// Ours less theirs.
+class Differences {
+ public:
+  void Add(double x) {
+    sum_ += x;
+    sizes_ += std::abs(x);
+    worst_ = std::max(worst_, std::abs(x));
+    ++count_;
+  }
+  double Mean() const { return sum_ / count_; }
+
+  // "| name | mean | mean size | worst |", each times `scale`.
+  std::string Row(const std::string& name, double scale, int decimals) const {
+    std::string row = "| " + name;
+    for (const double x : {Mean(), sizes_ / count_, worst_}) {
+      row += " | " + FixedText(x * scale, decimals);
+    }
+    return row + " |\n";
+  }
+
+ private:
+  double sum_ = 0, sizes_ = 0, worst_ = 0;
+  int count_ = 0;
+};
+
+std::string Head(const std::string& title) {
+  return "| " + title + " | mean | mean size | worst |\n|---|---|---|---|\n";
+}
+
+// The way from b to a on a circle.
+double Apart(double a, double b, double circle) {
+  return std::remainder(a - b, circle);
+}
+
+// `measure` of a chart and its Julian Day, 5.37 days apart.
+template <typename Measure>
+Differences Over1950To2050(const Measure& measure) {
+  Differences differences;
+  const DateTime end = DateFromParts(2050, 12, 31);
+  for (DateTime moment = DateFromParts(1950, 1, 1); moment < end; moment += 5.37) {
+    const DateTime second = std::round(moment * 86400) / 86400;
+    const auto at = foundation::FieldsOf(second);
+    engine::clsPP pp;
+    pp.GenHoro(at.day, at.month, at.year, at.hour, at.minute, at.second, "0.0E", "0.0N", "0.0E", 0,
+               foundation::kFalse16, 0);
+    differences.Add(measure(pp, peer::JulianDay(second)));
+  }
+  return differences;
+}
+
+// The Sun's mean difference is taken off all.
+std::string Positions() {
+  std::string table = Head("minutes of arc");
+  double constant = 0;
+  for (const peer::Body& body : peer::kBodies) {
+    const auto difference = [&](const engine::clsPP& pp, double julianDay) {
+      return Apart(pp.getPLNT()[body.ours] + pp.pp_AYAN - constant,
+                   peer::Longitude(julianDay, body.theirs, body.flags), 360);
+    };
+    if (body.ours == engine::Sun) constant = Over1950To2050(difference).Mean();
+    table += Over1950To2050(difference).Row(body.name, 60, 3);
+  }
+  return table;
+}
+
+std::string SiderealPositions() {
+  std::string table = Head("minutes of arc");
+  swe_set_sid_mode(SE_SIDM_LAHIRI, 0, 0);
+  for (const peer::Body& body : {peer::kSun, peer::kMoon}) {
+    const auto difference = [&](const engine::clsPP& pp, double julianDay) {
+      return Apart(pp.getPLNT()[body.ours],
+                   peer::Longitude(julianDay, body.theirs, kAsSeen | SEFLG_SIDEREAL), 360);
+    };
+    table += Over1950To2050(difference).Row(body.name, 60, 3);
+  }
+  return table;
+}
+
+std::string SiderealTime() {
+  const auto difference = [](const engine::clsPP& pp, double julianDay) {
+    return Apart(pp.ppSidTime, swe_sidtime(julianDay), 24);
+  };
+  return Head("seconds") + Over1950To2050(difference).Row("Sidereal time", 3600, 3);
+}
+
+// What is watched grows by `step` degrees until the element ends.
+struct Element {
+  const char* name;
+  decltype(&clsBirthDetails::GetTITHIending) ending;
+  double step;
+  bool isOfMoonAlone;
+};
+constexpr Element kElements[] = {
+    {"Tithi", &clsBirthDetails::GetTITHIending, 12, false},
+    {"Nakshatra", &clsBirthDetails::GetNakshatraending, 40 / 3.0, true},
+    {"Karana", &clsBirthDetails::GetKaranEnding, 6, false},
+};
+
+constexpr double kDelhiZone = 5.5 / 24;  // days
+
+// The engine's own ayanamsa decides where the nakshatras begin.
+double Watched(const Element& element, DateTime clock) {
+  const double julianDay = peer::JulianDay(clock - kDelhiZone);
+  const double moon = peer::Longitude(julianDay, SE_MOON, kAsSeen);
+  if (!element.isOfMoonAlone) return moon - peer::Longitude(julianDay, SE_SUN, kAsSeen);
+  engine::clsPP pp;
+  const auto at = foundation::FieldsOf(clock);
+  pp.GenHoro(at.day, at.month, at.year, 0, 0, 0, "77.13E", "28.40N", "82.30E", 0,
+             foundation::kFalse16, 0);
+  return moon - pp.pp_AYAN;
+}
+
+// By halving.
+DateTime TheirEnd(const Element& element, DateTime from) {
+  const auto number = [&](DateTime clock) {
+    return std::floor(swe_degnorm(Watched(element, clock)) / element.step);
+  };
+  const double begun = number(from);
+  DateTime before = from, after = from;
+  while (number(after) == begun) after += 1 / 24.0;
+  while (after - before > 0.1 / 86400) {
+    const DateTime middle = (before + after) / 2;
+    (number(middle) == begun ? before : after) = middle;
+  }
+  return after;
+}
+
+// All that end in 2011, each sought from an hour after the one before it.
+std::string Endings() {
+  foundation::SessionTable session;
+  session.Current().LatitudeText = "28.40N";
+  session.Current().LongitudeText = "77.13E";
+  session.Current().ZoneMeridianText = "82.30E";
+  std::string table = Head("seconds of time, Delhi 2011");
+  for (const Element& element : kElements) {
+    Differences differences;
+    DateTime from = DateFromParts(2011, 1, 1);
+    while (from < DateFromParts(2012, 1, 1)) {
+      const auto at = foundation::FieldsOf(from);
+      const auto field = [](int x) { return static_cast<std::int16_t>(x); };
+      clsBirthDetails details;
+      const DateTime end = foundation::ReadDateTime(
+          (details.*element.ending)(field(at.day), field(at.month), field(at.year), field(at.hour),
+                                    field(at.minute), field(at.second), session));
+      differences.Add(end - TheirEnd(element, from));
+      from = end + 1 / 24.0;
+    }
+    table += differences.Row(element.name, 86400, 0);
+  }
+  return table;
+}
+
+struct Place {
+  const char* name;
+  double latitude, longitude;  // degrees, north and east
+  double zone;                 // hours, east
+};
+constexpr Place kPlaces[] = {
+    {"Ålesund, 62.5° N", 62.47, 6.15, 1},        {"London, 51.5° N", 51.5, -0.13, 0},
+    {"New York, 40.7° N", 40.7, -74.0, -5},      {"Delhi, 28.7° N", 28.67, 77.22, 5.5},
+    {"Macapá, 0.0°", 0.0, -51.07, -3},           {"Lima, 12.1° S", -12.05, -77.05, -5},
+    {"Sydney, 33.9° S", -33.87, 151.2, 10},      {"Ushuaia, 54.8° S", -54.8, -68.3, -3},
+    {"Maxwell Bay, 62.2° S", -62.2, -58.97, -3},
+};
+
+// Hours of the place's clock at which the sun's upper edge rises or sets, next after midnight.
+double TheirHours(const Place& place, DateTime midnight, int riseOrSet) {
+  double at[3] = {place.longitude, place.latitude, 0};
+  double found = 0;
+  char error[AS_MAXCH];
+  const double from = peer::JulianDay(midnight - place.zone / 24);
+  if (swe_rise_trans(from, SE_SUN, nullptr, kAsSeen, riseOrSet, at, 1013.25, 15, &found, error) < 0)
+    peer::Fail(error);
+  return (found - from) * 24;
+}
+
+std::string Sunrises() {
+  std::string table = Head("seconds of time, 2011: sunrise");
+  std::string sets = Head("sunset");
+  for (const Place& place : kPlaces) {
+    Differences rise, set;
+    for (DateTime day = DateFromParts(2011, 1, 1); day < DateFromParts(2012, 1, 1); ++day) {
+      const auto at = foundation::FieldsOf(day);
+      auto dayOfMonth = static_cast<std::int16_t>(at.day);
+      auto month = static_cast<std::int16_t>(at.month);
+      auto year = static_cast<std::int16_t>(at.year);
+      std::int16_t hour = 12, minute = 0, second = 0;
+      double latitude = place.latitude, longitude = place.longitude, zone = place.zone;
+      const auto rows = clsBirthDetails().Sunrise(latitude, longitude, zone, dayOfMonth, month,
+                                                  year, hour, minute, second);
+      rise.Add(Apart(rows.clockRise, TheirHours(place, day, SE_CALC_RISE), 24));
+      set.Add(Apart(rows.clockSet, TheirHours(place, day, SE_CALC_SET), 24));
+    }
+    table += rise.Row(place.name, 3600, 0);
+    sets += set.Row(place.name, 3600, 0);
+  }
+  return table + "\n" + sets;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 2) peer::Fail("usage: accuracy FOLDER");
+  const std::filesystem::path folder = argv[1];
+  std::filesystem::create_directories(folder);
+  const auto write = [&](const char* name, const std::string& table) {
+    std::ofstream(folder / name) << table;
+  };
+  write("positions", Positions());
+  write("sidereal_positions", SiderealPositions());
+  write("sidereal_time", SiderealTime());
+  write("endings", Endings());
+  write("sunrises", Sunrises());
+}
