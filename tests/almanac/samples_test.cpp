@@ -161,11 +161,26 @@ TEST(Samples, CalendarTerms) {
   }
 }
 
-TEST(Endings, FollowTheRecordsWarTime) {
+TEST(Endings, FollowTheRecordsWarTimeButNotItsAyanamsa) {
+  clsBirthDetails details;
   foundation::SessionTable session = SessionAt(kSamples[0]);
   session.Current().WarTimeCorrection = 1;  // the same sky, an hour earlier by the clock
-  EXPECT_EQ(clsBirthDetails().GetTITHIending(18, 11, 1990, 6, 11, 25, session),
-            "18/November/1990 16:3:49");
+  session.Current().AyanamsaChoice = 6;
+  EXPECT_EQ(details.GetNakshatraending(18, 11, 1990, 5, 11, 25, session),
+            "18/November/1990 21:11:43");
+  session.DefaultAyanamsa = 6;  // tropical: almost two stars on
+  EXPECT_NE(details.GetNakshatraending(18, 11, 1990, 5, 11, 25, session),
+            "18/November/1990 21:11:43");
+}
+
+// The moon was full on 30 January at 06:04 and on 28 February at 17:10 Universal Time.
+TEST(LunarMonth, IsTheSolarMonthsOwnWhereAFebruaryHasNoFullMoon) {
+  clsBirthDetails details;
+  const auto month = [&](std::int16_t hour) {
+    return details.GetMas(1, 2, 2029, hour, 0, 0, "77.13E", "28.40N", "82.30E", {});
+  };
+  EXPECT_EQ(month(12), "MAGHA");
+  EXPECT_EQ(month(23), "PHALGUNA");  // the last evening's
 }
 
 }  // namespace

@@ -14,6 +14,8 @@ namespace fs = std::filesystem;
 
 using Rooms = std::set<std::string>;
 
+const fs::path kSource = fs::path(PROJECT_FOLDER) / "src";
+
 // What each room may include of the others. The screens' toolkit room is the only one for Qt.
 const std::map<std::string, Rooms> kArrows = {
     {"foundation", {}},
@@ -47,10 +49,10 @@ void Check(const std::string& room, const std::string& included, bool quoted,
 
 TEST(Architecture, IncludesFollowTheArrows) {
   int seen = 0;
-  for (const auto& entry : fs::recursive_directory_iterator(SOURCE_FOLDER)) {
+  for (const auto& entry : fs::recursive_directory_iterator(kSource)) {
     const auto extension = entry.path().extension();
     if (extension != ".h" && extension != ".cpp") continue;
-    const fs::path relative = fs::relative(entry.path(), SOURCE_FOLDER);
+    const fs::path relative = fs::relative(entry.path(), kSource);
     std::ifstream file(entry.path());
     for (std::string line; std::getline(file, line);) {
       if (!line.starts_with("#include ")) continue;
