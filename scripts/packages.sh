@@ -3,8 +3,9 @@
 run_packages=(cmake g++ ninja-build qt6-base-dev qt6-wayland libjpeg62-turbo-dev fonts-noto-core
   fonts-lohit-deva fonts-lohit-mlym fonts-lohit-knda)
 display_packages=(xvfb xauth)
-test_packages=(libgtest-dev locales)
+test_packages=(libgtest-dev locales appstream desktop-file-utils)
 bench_packages=(libbenchmark-dev libhpdf-dev libswe-dev)
+package_packages=(dpkg-dev file lintian)
 fuzz_packages=(clang-14 libclang-rt-14-dev)
 
 # install_missing PACKAGE...: one apt-get call for those that are not installed, none if all are.

@@ -1,8 +1,28 @@
 #include <QApplication>
+#include <cstdio>
+#include <string_view>
 
+#include "foundation/version.h"
 #include "screens/qt/application.h"
 
+namespace {
+
+// Answers without a display, before the toolkit asks for one.
+bool HasAnswered(std::string_view option) {
+  if (option == "--version") {
+    std::printf("%s %s\n", foundation::kProgramName, foundation::kVersion);
+  } else if (option == "--help") {
+    std::puts("Usage: durvela [--help | --version]\nOpens the almanac's dashboard.");
+  } else {
+    return false;
+  }
+  return true;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+  if (argc == 2 && HasAnswered(argv[1])) return 0;
   QApplication application(argc, argv);
   screens::qt::DressApplication();
   screens::qt::Program program;

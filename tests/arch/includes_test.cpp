@@ -29,7 +29,7 @@ const std::map<std::string, Rooms> kArrows = {
     {"report", {"foundation", "forms", "engine", "bitmap", "dayperiods"}},
     {"screens", {"foundation", "forms", "engine", "atlas", "dayperiods", "report"}},
     {"screens/qt", {"foundation", "forms", "engine", "atlas", "dayperiods", "report", "screens"}},
-    {"main", {"screens/qt"}},
+    {"main", {"foundation", "screens/qt"}},
 };
 
 std::string RoomOf(const fs::path& file) {

@@ -61,10 +61,8 @@ QString ScrollBarStyle() {
 
 void DressApplication() {
   QApplication::setApplicationName(foundation::kProgramName);
-  QApplication::setApplicationVersion(QStringLiteral("%1.%2.%3")
-                                          .arg(foundation::kVersionMajor)
-                                          .arg(foundation::kVersionMinor)
-                                          .arg(foundation::kVersionRevision));
+  QApplication::setApplicationVersion(QString::fromLatin1(foundation::kVersion));
+  QApplication::setDesktopFileName(QStringLiteral("org.durvela.Durvela"));
   QApplication::setWindowIcon(ToIcon(*ProgramSign()));
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
 

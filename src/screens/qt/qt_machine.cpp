@@ -90,6 +90,7 @@ void QtBrowser::Open(std::string_view address) {
 
 foundation::LocaleNames SystemNames() {
   const QLocale locale = QLocale::system();
+  if (locale.language() == QLocale::C) return foundation::EnglishNames();
   foundation::LocaleNames names;
   for (int month = 1; month <= 12; ++month) {
     names.months[static_cast<std::size_t>(month - 1)] =

@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# installed.sh SOURCE BUILD VERSION: installs into a folder of its own and looks at what is there.
+set -euo pipefail
+folder=$(mktemp -d)
+trap 'rm -r "$folder"' EXIT
+cmake --install "$2" --prefix "$folder/Any Place" >/dev/null
+cd "$folder/Any Place"
+
+[ "$(bin/durvela --version)" = "Durvela $3" ]
+home=$(dirname "$(readlink -f bin/durvela)")
+count() { find "$1" -name "$2" | wc -l; }
+[ "$(count "$home/atlas" '*.city')" -eq "$(count "$1/data/atlas/places" '*.tsv')" ]
+[ "$(count "$home/Language" '*.txt')" -eq 5 ]
+[ "$(count "$home" '*.afm')" -eq 14 ]
+[ -e "$home/shared" ]
+zcat share/doc/durvela/changelog.gz | head -n 1 | grep -qF "($3)"
+zcat share/man/man1/durvela.1.gz | grep -qF "Durvela $3"
+[ "$(count share/icons '*.svg')" -eq 2 ]
