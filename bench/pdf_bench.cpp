@@ -1,12 +1,14 @@
-// What a page of 60 lines costs in a PDF file, and beside it, where it is installed, the same by
-// libharu: uncompressed, a base font, the same text.
+// Pages of text in a PDF file, and beside them the same text by libharu, where it is installed, in
+// a base font and uncompressed, and by the toolkit, which embeds its font and compresses.
 
-#include <benchmark/benchmark.h>
-
-#include <cstdio>
+#include <QFont>
+#include <QPainter>
+#include <QPdfWriter>
 #include <filesystem>
 #include <string>
 
+#include "bench/figure.h"
+#include "bench/window_bench.h"
 #include "pdf/PDFPrinter.h"
 #include "support/machine_fakes.h"
 
@@ -25,10 +27,7 @@ std::string File(const char* name) {
   return (std::filesystem::temp_directory_path() / name).string();
 }
 
-void ReportPages(benchmark::State& state) {
-  state.counters["pages/s"] = benchmark::Counter(static_cast<double>(state.iterations()) * kPages,
-                                                 benchmark::Counter::kIsRate);
-}
+#define PAGES "100 pages of 60 lines into a PDF file"
 
 void PagesOfText(benchmark::State& state) {
   const std::string file = File("durvela-bench.pdf");
@@ -52,10 +51,9 @@ void PagesOfText(benchmark::State& state) {
     }
     printer.PDFEndDoc();
   }
-  ReportPages(state);
   std::filesystem::remove(file);
 }
-BENCHMARK(PagesOfText)->Unit(benchmark::kMillisecond);
+FIGURE(PagesOfText, PAGES, "Durvela")->Unit(benchmark::kMillisecond);
 
 #ifdef HAVE_HPDF
 
@@ -78,11 +76,30 @@ void PagesByLibharu(benchmark::State& state) {
     HPDF_SaveToFile(document, file.c_str());
     HPDF_Free(document);
   }
-  ReportPages(state);
   std::filesystem::remove(file);
 }
-BENCHMARK(PagesByLibharu)->Unit(benchmark::kMillisecond);
+FIGURE(PagesByLibharu, PAGES, "libharu")->Unit(benchmark::kMillisecond);
 
 #endif
+
+void PagesByTheToolkit(benchmark::State& state) {
+  bench::NeedToolkit();
+  const std::string file = File("toolkit-bench.pdf");
+  for (auto _ : state) {
+    std::filesystem::remove(file);
+    QPdfWriter writer(QString::fromStdString(file));
+    writer.setResolution(72);
+    QPainter painter(&writer);
+    painter.setFont(QFont(QStringLiteral("Noto Sans"), static_cast<int>(kSize)));
+    for (int page = 0; page < kPages; ++page) {
+      if (page > 0) writer.newPage();
+      for (int line = 0; line < kLines; ++line) {
+        painter.drawText(QPointF(kLeft, kTop + kStep * line), QString::fromLatin1(kText));
+      }
+    }
+  }
+  std::filesystem::remove(file);
+}
+FIGURE(PagesByTheToolkit, PAGES, "Qt")->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -1,34 +1,24 @@
-// From the start of the process to the first painted dashboard, what the dashboard costs while
-// nobody touches it, and how fast the picker answers.
+#include "bench/window_bench.h"
 
 #include <sys/resource.h>
-#include <unistd.h>
 
 #include <QApplication>
+#include <QProcess>
 #include <QTimer>
 #include <cstdio>
 #include <ctime>
 #include <fstream>
 #include <string>
 
+#include "bench/figure.h"
 #include "foundation/numbers.h"
-#include "report/page_row.h"
 #include "screens/find_in_list.h"
 #include "screens/qt/application.h"
 
+namespace bench {
 namespace {
 
 constexpr int kIdleSeconds = 20;
-
-// Seconds since the machine started at which the kernel made this process, to 1/100.
-double ProcessStart() {
-  std::ifstream stat("/proc/self/stat");
-  std::string line;
-  std::getline(stat, line);
-  std::size_t at = line.rfind(')') + 2;
-  for (int field = 3; field < 22; ++field) at = line.find(' ', at) + 1;
-  return foundation::LeadingNumber(line.substr(at)) / static_cast<double>(sysconf(_SC_CLK_TCK));
-}
 
 double SecondsSinceBoot() {
   timespec now{};
@@ -45,6 +35,14 @@ double ProcessorSeconds() {
   return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
+double ResidentMegabytes() {
+  std::ifstream status("/proc/self/status");
+  for (std::string line; std::getline(status, line);) {
+    if (line.starts_with("VmRSS:")) return foundation::LeadingNumber(line.substr(6)) / 1024;
+  }
+  return 0;
+}
+
 // Notes the moment at which a window has been painted for the first time.
 class FirstPaint : public QObject {
  public:
@@ -59,80 +57,113 @@ class FirstPaint : public QObject {
   }
 };
 
-void Report(const char* what, double figure) {
-  std::puts((what + foundation::FixedText(figure, 2)).c_str());
-}
-
 void RunFor(double seconds) {
   // Not quit(), which would ask the windows, and the dashboard its user.
   QTimer::singleShot(static_cast<int>(seconds * 1000), [] { QCoreApplication::exit(); });
   QApplication::exec();
 }
 
-// The largest country chosen, and a letter typed, in the open picker.
-void MeasurePicker(screens::qt::Program& program) {
-  screens::frmCity& picker = program.Picker();
-  picker.Load("India", "Delhi", program.dashboard);
-  program.host.Show(picker);
-  RunFor(1);
-  double start = SecondsSinceBoot();
-  screens::FindInCombo("USA", picker.cmbCountry);
-  program.host.WindowOf(picker).Mirror();
-  Report("largest country into the open picker, ms: ", 1000 * (SecondsSinceBoot() - start));
-  RunFor(0.2);
-  start = SecondsSinceBoot();
-  forms::SetText(picker.txtCity, "zz");
-  program.host.WindowOf(picker).Mirror();
-  Report("a keystroke's search there, ms: ", 1000 * (SecondsSinceBoot() - start));
+// One program for all that is measured in windows.
+screens::qt::Program& OneProgram() {
+  NeedToolkit();
+  static auto* const program = [] {
+    auto* fresh = new screens::qt::Program;  // lives until the process ends, as its windows do
+    fresh->Start();
+    return fresh;
+  }();
+  return *program;
 }
 
-// A year's report, and the turning of a page.
-void MeasureReport(screens::qt::Program& program) {
+// Each run begins with a country of a few places.
+void LargestCountry(benchmark::State& state) {
+  screens::qt::Program& program = OneProgram();
+  screens::frmCity& picker = program.Picker();
+  picker.Load("Nepal", "", program.dashboard);
+  program.host.Show(picker);
+  for (auto _ : state) {
+    screens::FindInCombo("USA", picker.cmbCountry);
+    program.host.WindowOf(picker).Mirror();
+    state.PauseTiming();
+    screens::FindInCombo("Nepal", picker.cmbCountry);
+    RunFor(0.1);
+    state.ResumeTiming();
+  }
+  program.host.Hide(picker);
+}
+FIGURE(LargestCountry, "the largest country (21,133 places) into the open picker", "Durvela")
+    ->Iterations(5);
+
+void YearsReport(benchmark::State& state) {
+  screens::qt::Program& program = OneProgram();
   screens::frmDurvela& timetable = program.Timetable();
   program.host.Show(timetable);
   timetable.DT1.moment = foundation::DateFromParts(2011, 1, 1);
   timetable.DT2.moment = foundation::DateFromParts(2011, 12, 31);
-  double start = SecondsSinceBoot();
-  timetable.cmdPreview_Click();
-  Report("a year's report, ms: ", 1000 * (SecondsSinceBoot() - start));
-
-  foundation::SessionTable session = {};
-  session.Current().LatitudeText = "28.40N";
-  session.Current().LongitudeText = "77.13E";
-  session.Current().ZoneMeridianText = "82.30E";
-  report::pk_Durvela page;
-  start = SecondsSinceBoot();
-  for (int day = 0; day < 365; ++day) {
-    report::FillRow(page, day % 31, timetable.DT1.moment + day + 0.5, session);
-  }
-  Report("of it the calculation, ms: ", 1000 * (SecondsSinceBoot() - start));
-
-  report::frmSPkun& preview = program.Preview();
-  RunFor(1);
-  start = SecondsSinceBoot();
-  preview.cmdNext_Click();
-  program.host.WindowOf(preview).Mirror();
-  program.host.WindowOf(preview).repaint();
-  Report("turning a page, ms: ", 1000 * (SecondsSinceBoot() - start));
+  for (auto _ : state) timetable.cmdPreview_Click();
 }
+FIGURE(YearsReport, "a year's report, twelve pages written", "Durvela")->Iterations(5);
+
+void TurningAPage(benchmark::State& state) {
+  screens::qt::Program& program = OneProgram();
+  report::frmSPkun& preview = program.Preview();
+  RunFor(0.5);
+  for (auto _ : state) {
+    preview.cmdNext_Click();
+    program.host.WindowOf(preview).Mirror();
+    program.host.WindowOf(preview).repaint();
+  }
+}
+FIGURE(TurningAPage, "turning a page of the preview", "Durvela")->Iterations(3);
 
 }  // namespace
 
-int main(int argc, char** argv) {
+void NeedToolkit() {
+  static int argc = 1;
+  static char name[] = "durvela_bench";
+  static char* argv[] = {name, nullptr};
+  if (qApp != nullptr) return;
+  new QApplication(argc, argv);  // lives until the process ends
+  screens::qt::DressApplication();
+}
+
+bool IsAlone(std::string_view argument) {
+  return foundation::WholeNumber(argument).has_value();
+}
+
+int RunAlone(int argc, char** argv) {
+  const double made = *foundation::WholeNumber(argv[1]);
   QApplication application(argc, argv);
   screens::qt::DressApplication();
-  screens::qt::Program program;
   FirstPaint paint;
+  screens::qt::Program program;
   program.host.WindowOf(program.dashboard).installEventFilter(&paint);
   program.Start();
   RunFor(2);
-  Report("start to first painted window, ms: ", 1000 * (paint.at - ProcessStart()));
-
   const double before = ProcessorSeconds();
   RunFor(kIdleSeconds);
-  Report("processor while idle, per cent: ", 100 * (ProcessorSeconds() - before) / kIdleSeconds);
-
-  MeasurePicker(program);
-  MeasureReport(program);
+  const double idle = (ProcessorSeconds() - before) / kIdleSeconds;
+  const auto text = [](double x, int decimals) { return foundation::FixedText(x, decimals); };
+  std::puts((text(1000 * (paint.at - made), 0) + " " + text(100 * idle, 2) + " " +
+             text(ResidentMegabytes(), 0))
+                .c_str());
   return 0;
 }
+
+void PrintAlone() {
+  NeedToolkit();
+  QProcess child;
+  child.start(QCoreApplication::applicationFilePath(),
+              {QString::fromStdString(foundation::FixedText(SecondsSinceBoot(), 3))});
+  child.waitForFinished(1000 * (kIdleSeconds + 20));
+  const QStringList figures = QString::fromUtf8(child.readAllStandardOutput()).split(' ');
+  if (figures.size() != 3) return;
+  const auto line = [](const char* what, const QString& figure, const char* unit) {
+    std::puts(("| " + std::string(what) + " | " + figure.trimmed().toStdString() + unit + " | |")
+                  .c_str());
+  };
+  line("start to the first painted window", figures[0], " ms");
+  line("processor while the dashboard stands open", figures[1], " %");
+  line("memory that it holds", figures[2], " MB");
+}
+
+}  // namespace bench

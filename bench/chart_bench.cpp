@@ -1,0 +1,217 @@
+// Charts, and what follows from them, beside the Swiss Ephemeris and libnova where these are
+// installed.
+
+#include <string>
+
+#include "bench/figure.h"
+#include "dayperiods/clsBirthDetails.h"
+#include "dayperiods/clsUtilities.h"
+#include "engine/clsPP.h"
+#include "foundation/calendar.h"
+#include "foundation/numbers.h"
+#include "screens/dashboard.h"
+
+#ifdef HAVE_SWISSEPH
+#include "bench/ephemeris.h"
+#endif
+#ifdef HAVE_NOVA
+#include <libnova/libnova.h>
+#endif
+
+namespace {
+
+using foundation::DateFromParts;
+using foundation::DateTime;
+
+#define CHART "a chart: all longitudes twice, an hour apart, houses, divisions"
+#define YEAR "a year's sunrises and sunsets"
+
+// Every chart has a moment of its own, some days and hours on, so that nobody meets what has just
+// been worked out.
+class Moments {
+ public:
+  DateTime Next() {
+    constexpr double kStride = 5.37;  // days
+    at_ += kStride;
+    if (at_ > last_) at_ = first_;
+    return at_;
+  }
+
+ private:
+  const DateTime first_ = DateFromParts(1950, 1, 1);
+  const DateTime last_ = DateFromParts(2050, 12, 31);
+  DateTime at_ = first_;
+};
+
+constexpr double kLatitude = 28 + 40 / 60.0, kLongitude = 77 + 13 / 60.0, kZone = 5.5;
+
+foundation::SessionTable Delhi() {
+  foundation::SessionTable session;
+  session.Current().LatitudeText = "28.40N";
+  session.Current().LongitudeText = "77.13E";
+  session.Current().ZoneMeridianText = "82.30E";
+  return session;
+}
+
+std::int16_t Field(int x) {
+  return static_cast<std::int16_t>(x);
+}
+
+// Every day of a year of its own.
+template <typename Work>
+void EachDayOfAYear(benchmark::State& state, const Work& work) {
+  int year = 1950;
+  for (auto _ : state) {
+    const DateTime first = DateFromParts(year, 1, 1);
+    for (int day = 0; day < 365; ++day) work(first + day);
+    year = year == 2050 ? 1950 : year + 1;
+  }
+}
+
+void GenHoro(benchmark::State& state) {
+  Moments moments;
+  for (auto _ : state) {
+    const auto at = foundation::FieldsOf(moments.Next());
+    engine::clsPP pp;
+    pp.GenHoro(at.day, at.month, at.year, at.hour, at.minute, at.second, "77.13E", "28.40N", "0.0E",
+               0, foundation::kTrue16, 0);
+    benchmark::DoNotOptimize(pp);
+  }
+}
+FIGURE(GenHoro, CHART, "Durvela");
+
+#ifdef HAVE_SWISSEPH
+
+// Eleven bodies, Ketu from the node, and houses by trisected quadrants.
+void ChartBySwissEphemeris(benchmark::State& state) {
+  constexpr std::int32_t kFlags = SEFLG_MOSEPH | SEFLG_SIDEREAL;
+  swe_set_sid_mode(SE_SIDM_LAHIRI, 0, 0);
+  Moments moments;
+  for (auto _ : state) {
+    const double julianDay = peer::JulianDay(moments.Next());
+    for (const double moment : {julianDay, julianDay + 1 / 24.0}) {
+      for (const peer::Body& body : peer::kBodies) {
+        double longitude = peer::Longitude(moment, body.theirs, kFlags);
+        benchmark::DoNotOptimize(longitude);
+        if (body.ours == engine::Rahu) longitude = swe_degnorm(longitude + 180);
+        benchmark::DoNotOptimize(longitude);
+      }
+    }
+    double cusps[13], angles[10], cuspSpeeds[13], angleSpeeds[10];
+    char error[AS_MAXCH];
+    swe_houses_ex2(julianDay, kFlags, kLatitude, kLongitude, 'O', cusps, angles, cuspSpeeds,
+                   angleSpeeds, error);
+    benchmark::DoNotOptimize(cusps);
+  }
+}
+FIGURE(ChartBySwissEphemeris, CHART, "Swiss Ephemeris, analytic");
+
+#endif
+#ifdef HAVE_NOVA
+
+// The ten bodies that it has, by their equatorial places; it knows no houses.
+void ChartByNova(benchmark::State& state) {
+  Moments moments;
+  for (auto _ : state) {
+    const double julianDay = moments.Next() + 2415018.5;
+    for (const double moment : {julianDay, julianDay + 1 / 24.0}) {
+      ln_lnlat_posn place;
+      ln_get_solar_ecl_coords(moment, &place);
+      benchmark::DoNotOptimize(place);
+      ln_get_lunar_ecl_coords(moment, &place, 0);
+      benchmark::DoNotOptimize(place);
+      ln_equ_posn equatorial;
+      for (const auto body :
+           {ln_get_mercury_equ_coords, ln_get_venus_equ_coords, ln_get_mars_equ_coords,
+            ln_get_jupiter_equ_coords, ln_get_saturn_equ_coords, ln_get_uranus_equ_coords,
+            ln_get_neptune_equ_coords, ln_get_pluto_equ_coords}) {
+        body(moment, &equatorial);
+        benchmark::DoNotOptimize(equatorial);
+      }
+    }
+  }
+}
+FIGURE(ChartByNova, CHART, "libnova, no houses");
+
+#endif
+
+void YearOfSunrises(benchmark::State& state) {
+  dayperiods::clsBirthDetails details;
+  EachDayOfAYear(state, [&](DateTime day) {
+    const auto at = foundation::FieldsOf(day);
+    double latitude = kLatitude, longitude = kLongitude, zone = kZone;
+    std::int16_t dayOfMonth = Field(at.day), month = Field(at.month), year = Field(at.year);
+    std::int16_t hour = 12, minute = 0, second = 0;
+    benchmark::DoNotOptimize(
+        details.Sunrise(latitude, longitude, zone, dayOfMonth, month, year, hour, minute, second));
+  });
+}
+FIGURE(YearOfSunrises, YEAR, "Durvela")->Unit(benchmark::kMillisecond);
+
+#ifdef HAVE_SWISSEPH
+
+void YearBySwissEphemeris(benchmark::State& state) {
+  EachDayOfAYear(state, [](DateTime day) {
+    double at[3] = {kLongitude, kLatitude, 0};
+    double found = 0;
+    char error[AS_MAXCH];
+    for (const int which : {SE_CALC_RISE, SE_CALC_SET}) {
+      swe_rise_trans(peer::JulianDay(day - kZone / 24), SE_SUN, nullptr, SEFLG_MOSEPH, which, at,
+                     1013.25, 15, &found, error);
+      benchmark::DoNotOptimize(found);
+    }
+  });
+}
+FIGURE(YearBySwissEphemeris, YEAR, "Swiss Ephemeris, analytic")->Unit(benchmark::kMillisecond);
+
+#endif
+#ifdef HAVE_NOVA
+
+void YearByNova(benchmark::State& state) {
+  EachDayOfAYear(state, [](DateTime day) {
+    ln_lnlat_posn at = {kLongitude, kLatitude};
+    ln_rst_time found;
+    ln_get_solar_rst(day + 2415018.5, &at, &found);
+    benchmark::DoNotOptimize(found);
+  });
+}
+FIGURE(YearByNova, YEAR, "libnova")->Unit(benchmark::kMillisecond);
+
+#endif
+
+void YearOfPeriods(benchmark::State& state) {
+  const foundation::SessionTable session = Delhi();
+  EachDayOfAYear(state, [&](DateTime day) {
+    const auto at = foundation::FieldsOf(day);
+    dayperiods::clsUtilities periods(session);
+    periods.CalcDurvela(at.day, at.month, at.year, 12, 0, 0);
+    periods.CalcGulikYum(at.day, at.month, at.year, 12, 0, 0);
+    benchmark::DoNotOptimize(periods);
+  });
+}
+FIGURE(YearOfPeriods, "a year's three periods, a chart for each call", "Durvela")
+    ->Unit(benchmark::kMillisecond);
+
+// 21 charts by hours, 60 by minutes and 59 by seconds, since this tithi ends at 19:24:19 of the
+// next day: nearly the most that an element takes.
+void TithiEnding(benchmark::State& state) {
+  const foundation::SessionTable session = Delhi();
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(
+        dayperiods::clsBirthDetails().GetTITHIending(14, 4, 2011, 23, 23, 20, session));
+  }
+}
+FIGURE(TithiEnding, "the end of a tithi, to the second, at worst", "Durvela");
+
+// The texts of all labels.
+void OneTick(benchmark::State& state) {
+  screens::Dashboard dashboard;
+  const DateTime noon = DateFromParts(2011, 3, 5) + 0.5;
+  for (auto _ : state) {
+    screens::Tick(noon, dashboard.settings, dashboard.session, dashboard.form);
+    benchmark::DoNotOptimize(dashboard.form.lblDurvela.caption);
+  }
+}
+FIGURE(OneTick, "one tick of the dashboard, all labels", "Durvela");
+
+}  // namespace
