@@ -1,8 +1,8 @@
 // The attributes of a birth that its Moon decides.
 
 #include "dayperiods/clsBirthDetails.h"
-#include "engine/zodiac.h"
 #include "foundation/bounded_array.h"
+#include "foundation/numbers.h"
 
 namespace dayperiods {
 namespace {
@@ -73,7 +73,7 @@ constexpr BoundedArray<StarAttributes, 0, 27> kStars{std::to_array<StarAttribute
 })};
 
 const SignAttributes& SignOf(double moon) {
-  return kSigns[engine::RashiNumber(moon)];
+  return kSigns[foundation::FloorToInt16(moon / 30) + 1];
 }
 
 }  // namespace

@@ -107,7 +107,8 @@ std::string clsBirthDetails::GetMas(std::int16_t day, std::int16_t month, std::i
   int d = 1;
   while (d <= days && !isPastFullMoon(d)) ++d;
   const bool isNextMonth = d <= days && d >= day;
-  return kMonths[isNextMonth ? month % 12 + 1 : month].name;
+  const int itsMonth = isNextMonth ? month % 12 + 1 : month;
+  return Mas(MASatBirth(static_cast<std::int16_t>(itsMonth)));
 }
 
 std::array<std::string, 2> clsBirthDetails::GetSamvat(

@@ -29,7 +29,7 @@ constexpr BoundedArray<const char*, 1, 27> kYogas{
      "Sadhya",   "Subha",  "Shukla",    "Brahma",    "Indra",   "Vaidhriti"}};
 
 // The moving karanas come eight times, from the second half tithi of a month on; the fixed ones
-// stand before and behind them.
+// stand before and after them.
 constexpr BoundedArray<const char*, 0, 6> kMovingKaranas{
     {"BAVA", "BALAVA", "KAULAV", "TAITIL", "GAR", "VANIJ", "VISHTI"}};
 constexpr int kFirstKaran = 1;
@@ -48,8 +48,9 @@ std::int16_t TithiNumber(double moon, double sun) {
 ElementResult clsBirthDetails::getTITHI(double MoonPos, double SUNpos, bool blnretNum) {
   const std::int16_t number = TithiNumber(MoonPos, SUNpos);
   if (blnretNum) return number;
-  if (number == 0) return getTithiName(kPurnima);
-  return getTithiName(number);
+  const int r = number % kTithisOfAHalf;
+  if (r == 0) return number == kAmavasya ? "Amavasya" : "Purnima";
+  return kTithis[r];
 }
 
 std::string clsBirthDetails::getTithiName(std::int16_t TithiNum) {

@@ -86,8 +86,9 @@ class clsBirthDetails {
 
   // When the element that holds a moment ends, to the second, as "18/November/1990 17:3:49" with
   // the user's month name: by the clock, place and war-time correction of the current record, with
-  // the session's default ayanamsa and node. TypeMismatch for a moment that does not exist; the
-  // errors of GenHoro.
+  // the session's default ayanamsa and node. Years 0 to 99 are those of a text's two figures.
+  // InvalidCall for a month without a name and for an end after the year 9999, TypeMismatch for any
+  // other moment that does not exist; the errors of GenHoro.
   std::string GetTITHIending(std::int16_t day, std::int16_t month, std::int16_t year,
                              std::int16_t hour, std::int16_t minute, std::int16_t second,
                              const foundation::SessionTable& session);
@@ -121,7 +122,7 @@ class clsBirthDetails {
                      std::string_view Lattitude, std::string_view zone,
                      const foundation::SessionTable& session);
   // The Shaka and the Vikram year, four digits each. The new year is the first date from 2 April on
-  // whose lunar day is 1 at that time of day, or 1 May.
+  // whose lunar day is 1 at that time of day, or 1 May; its year is read as that of the endings.
   std::array<std::string, 2> GetSamvat(std::int16_t day, std::int16_t month, std::int16_t year,
                                        std::int16_t hour, std::int16_t minute, std::int16_t second,
                                        std::string_view Longitude, std::string_view Lattitude,

@@ -115,7 +115,7 @@ SunriseRows clsBirthDetails::Sunrise(double& Latitude, double& Longitude, double
   if (moment < sunriseMoment) {
     nDay -= 1;
     const auto before = foundation::FieldsOf(foundation::DateFromParts(nYear, nMonth, nDay));
-    // The exchange by 12 hours is left out here: it is part of what these rows have always shown.
+    // The 12 hours are left out here: that is part of what these rows have always shown.
     sun =
         TimesOf(*this, before.day, before.month, before.year, Latitude, Longitude, ZoneRelativeGMT);
   }

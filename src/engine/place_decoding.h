@@ -13,7 +13,7 @@ struct LatLongParts {
   std::string hemisphere;  // the last character that is no digit; empty if there is none
 };
 
-// Splits a text at characters that are no digits; the last of them wins. The digits behind it are
+// Splits a text at characters that are no digits; the last of them wins. The digits after it are
 // the minutes, a single one being the tens: "28N4" is 28 degrees 40 minutes.
 LatLongParts SepLatLong(std::string_view text);
 

@@ -22,7 +22,7 @@ enum Body : int {
   Pluto,
 };
 
-// The same body an hour later stands so many places behind; the ayanamsa has no second value.
+// The same body an hour later stands so many places further; the ayanamsa has no second value.
 inline constexpr int kHourLater = 13;
 
 // Degrees; element 0 is not used.

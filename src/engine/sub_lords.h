@@ -54,7 +54,7 @@ std::string_view SubLordOf(double seconds, foundation::MessageBoxes& boxes);
 
 // The code of the lord of the part's part, "MER". Only the star's lord and the place in the sign
 // are looked up in SubSubTable, so that stars of the later two thirds of the zodiac, and of a
-// second sign, take the first row of that lord that begins behind the place. Where none does, or
+// second sign, take the first row of that lord that begins after the place. Where none does, or
 // there is no star (after StarLordOf's box), the table's last.
 std::string_view SubSubLordOf(double seconds, foundation::MessageBoxes& boxes);
 

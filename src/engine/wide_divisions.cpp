@@ -85,7 +85,7 @@ DivRow WideDivisions(double longitude) {
       W(8) + sign.ByQuality(1, 9, 5),                       // Ashtamsa
       ekadasamsa < 1 ? ekadasamsa + 12 : ekadasamsa,        // Ekadasamsa
   };
-  constexpr int kReduced = 16;  // columns behind keep a sign beyond 12
+  constexpr int kReduced = 16;  // later columns keep a sign beyond 12
   DivRow row;
   for (int column = 1; column <= 20; ++column) {
     int value = columns[column];

@@ -8,8 +8,9 @@
 
 namespace engine {
 
-// Longitudes are degrees, 0 to below 360, and are not brought into that range. An index outside its
-// list raises Subscript, as 360 itself does where a sign is looked up.
+// Longitudes are degrees, 0 to below 360, and but for RoundedSplit and ExactSplit not brought into
+// that range. An index outside its list raises Subscript, as 360 itself does where the lord of its
+// sign is looked up.
 
 // Numbers of bodies in the order in which a chart names them: 1 "Asc", 2 "Sun", 3 "Moon", "Mars",
 // "Mercury", "Jupiter", "Venus", "Saturn", "Rahu", "Ketu", "Uranus", "Neptune", 13 "Pluto"; 0 is
@@ -51,7 +52,7 @@ std::int16_t HouseOfSign(double ascendant, std::int16_t sign);
 // "COM" within the body's limit of the Sun, the difference taken without a wrap at 0.
 std::string_view CombustTest(std::string_view body, double longitude, double sunLongitude);
 // "DEB" and "EXL" inside the sign of the body's fall or exaltation. Most begin a second of arc
-// behind the sign's own beginning.
+// after the sign's own beginning.
 std::string_view DebilTest(std::string_view body, double longitude);
 std::string_view ExaltTest(std::string_view body, double longitude);
 

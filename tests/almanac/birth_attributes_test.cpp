@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <set>
 
 #include "dayperiods/clsBirthDetails.h"
@@ -8,11 +9,12 @@
 namespace dayperiods {
 namespace {
 
-using Words = std::set<std::string>;
+using Text = std::string;
+using Words = std::set<Text>;
 
 TEST(BirthAttributes, TablesAreFull) {
   clsBirthDetails details;
-  Words vargas, nadis, gans, signs;
+  Words vargas, nadis, gans;
   int syllables = 0, unknownSigns = 0;
   for (std::int16_t nak = 1; nak <= 27; ++nak) {
     nadis.insert(details.getNadi(nak));
@@ -34,6 +36,11 @@ TEST(BirthAttributes, TablesAreFull) {
   for (std::int16_t sign = 1; sign <= 12; ++sign) {
     const GhatRow& row = details.getGhat(sign, 0);
     EXPECT_EQ(row[0], std::to_string(sign));
+    const double moon = 30 * sign - 15;
+    for (const Text& text :
+         {details.getVarna(moon), details.getVashya(moon), details.getHansak(moon)}) {
+      EXPECT_NE(text, "");
+    }
     for (const std::string_view cell : row) EXPECT_NE(cell, "");
     for (std::size_t i = 9; i < row.size(); ++i) {
       unknownSigns += zodiac.contains(std::string(row[i])) ? 0 : 1;
@@ -47,6 +54,7 @@ TEST(BirthAttributes, KeepTheirSpelling) {
   EXPECT_EQ(details.getNadi(9), "NTYA");
   EXPECT_EQ(details.getNadi(18), "ADHYA");
   EXPECT_EQ(details.getYoni(15), "MAHI");
+  EXPECT_EQ(details.getYoni(16), "VYAGH");
   EXPECT_EQ(details.getYunja(27), "PURVA");
   EXPECT_EQ(details.getNaamAkshar(2, 3), "Le ");
   EXPECT_EQ(details.getNaamAkshar(27, 2), "");
@@ -59,6 +67,7 @@ TEST(BirthAttributes, EndsOfTheirTables) {
   clsBirthDetails details;
   EXPECT_EQ(details.getVashya(269.999), "MAANAV/CHAT");
   EXPECT_EQ(details.getVashya(270), "CHAT/JAL");
+  EXPECT_EQ(details.getVashya(std::nextafter(60.0, 0)), "CHATUSHPAD");
   EXPECT_EQ(details.getVarna(0), "KSHATRIYA");
   EXPECT_ERROR(Subscript, details.getHansak(360));
   EXPECT_EQ(details.getGan(0), "");

@@ -2,6 +2,8 @@
 
 #include "dayperiods/clsBirthDetails.h"
 #include "engine/zodiac.h"
+#include "support/errors.h"
+#include "support/locales.h"
 
 namespace dayperiods {
 namespace {
@@ -108,18 +110,60 @@ TEST(Endings, FollowTheRecordsWarTimeButNotItsAyanamsa) {
   session.Current().AyanamsaChoice = 6;
   const auto end = [&] { return details.GetNakshatraending(18, 11, 1990, 5, 11, 25, session); };
   EXPECT_EQ(end(), "18/November/1990 21:11:43");
+  {
+    const support::UserNamesScope names(support::Hindi());
+    EXPECT_EQ(end(), "18/नवंबर/1990 21:11:43");
+  }
   session.DefaultAyanamsa = 6;  // tropical: almost two stars on
   EXPECT_NE(end(), "18/November/1990 21:11:43");
 }
 
-// The moon was full on 30 January at 06:04 and on 28 February at 17:10 Universal Time.
-TEST(LunarMonth, IsTheSolarMonthsOwnWhereAFebruaryHasNoFullMoon) {
+// The corrected node has no year 99 to go by.
+TEST(Endings, FollowTheDefaultNode) {
   clsBirthDetails details;
-  const auto month = [&](Number hour) {
-    return details.GetMas(1, 2, 2029, hour, 0, 0, "77.13E", "28.40N", "82.30E", {});
+  foundation::SessionTable session = SessionAt(kMoments[0]);
+  session.Current().RahuKetuFlag = foundation::kTrue16;
+  EXPECT_NE(details.GetTITHIending(5, 3, 100, 6, 0, 0, session), "");
+  session.DefaultNodeFlag = foundation::kTrue16;
+  EXPECT_ERROR(TypeMismatch, details.GetTITHIending(5, 3, 100, 6, 0, 0, session));
+}
+
+Text MonthInDelhi(Number day, Number month, Number year, Number hour) {
+  return clsBirthDetails().GetMas(day, month, year, hour, 0, 0, "77.13E", "28.40N", "82.30E", {});
+}
+
+// Full moons: 18 April and 10 December 2011, 14:36 Universal Time.
+TEST(LunarMonth, IsTheNextOneUntilThePassedFullMoon) {
+  EXPECT_EQ(MonthInDelhi(19, 4, 2011, 6), "VAISAKHA");
+  EXPECT_EQ(MonthInDelhi(20, 4, 2011, 6), "CHAITRA");
+  EXPECT_EQ(MonthInDelhi(1, 12, 2011, 6), "PAUSA");
+  EXPECT_EQ(MonthInDelhi(12, 12, 2011, 6), "MARGSHIRSH");
+  clsBirthDetails details;
+  EXPECT_EQ(details.Mas(details.MASatBirth(9)), "BHADRA");
+  EXPECT_EQ(details.Mas(2), "");
+  EXPECT_ERROR(Subscript, details.MASatBirth(13));
+}
+
+// Full moons: 30 January, 06:04, and 28 February 2029, 17:10 Universal Time.
+TEST(LunarMonth, IsTheSolarMonthsOwnWhereAFebruaryHasNoFullMoon) {
+  EXPECT_EQ(MonthInDelhi(1, 2, 2029, 12), "MAGHA");
+  EXPECT_EQ(MonthInDelhi(1, 2, 2029, 23), "PHALGUNA");  // the last evening's
+}
+
+TEST(EraYears, BeginAtTheFirstTithiFrom2April) {
+  const auto shaka = [](Number day, Number month, Number year, Number hour) {
+    return clsBirthDetails().GetSamvat(day, month, year, hour, 0, 0, "77.13E", "28.40N", "82.30E",
+                                       {})[0];
   };
-  EXPECT_EQ(month(12), "MAGHA");
-  EXPECT_EQ(month(23), "PHALGUNA");  // the last evening's
+  EXPECT_EQ(shaka(3, 4, 2011, 6), "1932");
+  EXPECT_EQ(shaka(4, 4, 2011, 6), "1933");
+  // New moons of 2022: 1 April, 06:24, and 30 April, 20:28 Universal Time.
+  EXPECT_EQ(shaka(10, 4, 2022, 23), "1943");
+  EXPECT_EQ(shaka(1, 5, 2022, 23), "1944");
+  // Of 2024: 8 April, 18:21. The first tithi is over before it is 03:08 again in Sydney.
+  EXPECT_EQ(
+      clsBirthDetails().GetSamvat(15, 4, 2024, 3, 8, 15, "151.10E", "34.00S", "150.0E", {})[0],
+      "1945");
 }
 
 }  // namespace

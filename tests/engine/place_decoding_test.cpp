@@ -34,7 +34,7 @@ TEST(PlaceDecoding, TakesLatitudes) {
   for (const auto& [text, degrees] : kCases) {
     EXPECT_DOUBLE_EQ(Decoded("77.13E", text, "82.30E").ppLatitude, degrees) << text;
   }
-  // No letter at the end: the last digit comes again behind it.
+  // No letter at the end: the last digit comes again after it.
   EXPECT_DOUBLE_EQ(Decoded("77.13E", "28.40", "82.30E").ppLatitude, 34.666666666666664);
 }
 

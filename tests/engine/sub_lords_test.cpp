@@ -17,7 +17,7 @@ TEST(SubLords, AgreeWithLordsWorkedOutElsewhere) {
     const char* sub;
     const char* subSub;
   } kCases[] = {
-      {0, "Ketu", "Ketu", "KET"},  // row 1 begins behind it
+      {0, "Ketu", "Ketu", "KET"},  // row 1 begins after it
       {121200.5, "Sun", "Rahu", "MER"},
       {143856, "Sun", "Venus", "MER"},
       {287712, "Rahu", "Mercury", "SUN"},
@@ -52,7 +52,7 @@ TEST(SubLords, ChangeAtTheirBoundaries) {
   EXPECT_EQ(SubLordOf(48000 + 8000, boxes), "Sun");  // around the table's end
 }
 
-// 108000 is not brought into the next sign: the star of the Sun has no row that begins behind it.
+// 108000 is not brought into the next sign: the star of the Sun has no row that begins after it.
 TEST(SubLords, ASignsEndIsStillInTheSign) {
   support::FakeMessageBoxes boxes;
   EXPECT_EQ(SubSubLordOf(108000, boxes), "JUP");

@@ -81,8 +81,10 @@ TEST(Dignities, HoldInTheirRanges) {
   EXPECT_EQ(ExaltTest("Mercury", 150), "EXL");
   EXPECT_EQ(ExaltTest("MON", 45), "EXL");
   EXPECT_EQ(DebilTest("Moon", 215), "DEB");
-  EXPECT_EQ(DebilTest("Mars", 100), "DEB");
-  EXPECT_EQ(ExaltTest("Jupiter", 100), "EXL");
+  EXPECT_EQ(DebilTest("Mars", 90), "");
+  EXPECT_EQ(DebilTest("Mars", 90 + 1.1 * kSecond), "DEB");
+  EXPECT_EQ(ExaltTest("Jupiter", 90), "");
+  EXPECT_EQ(ExaltTest("Jupiter", 120), "EXL");
   EXPECT_EQ(ExaltTest("Rahu", 45), "");
 }
 

@@ -64,6 +64,7 @@ TEST(DateTimeTexts, CarryOnceAndThenThroughTheCalendar) {
   EXPECT_EQ(DateTimeText(15, 6, 2011, 5, 60, 0), "15-June-2011 6:0:0");
   EXPECT_EQ(DateTimeText(15, 6, 2011, 25, 61, 61), "16-June-2011 2:2:1");
   EXPECT_EQ(DateTimeText(28, 2, 2011, 23, 59, 60), "1-March-2011 0:0:0");
+  EXPECT_EQ(DateTimeText(15, 6, 2011, 1, 1, 125), "15-June-2011 1:2:65");
   const support::UserNamesScope names(support::Hindi());
   EXPECT_EQ(DateTimeText(0, 1, 2012, 1, 2, 3), "31-दिसंबर-2011 1:2:3");
 }
