@@ -18,14 +18,6 @@ BITMAPINFOHEADER HeaderOf(const Pixels& pixels) {
   return {40, pixels.Width(), pixels.Height(), 1, 24, 0, imageSize};
 }
 
-forms::RasterPtr DotsOf(const forms::Picture& picture, const forms::Rasteriser& rasteriser) {
-  if (picture.items.size() == 1) {
-    const auto* dots = std::get_if<forms::Dots>(&picture.items[0]);
-    if (dots != nullptr && dots->raster) return dots->raster;
-  }
-  return std::make_shared<const forms::Raster>(rasteriser.Render(picture));
-}
-
 forms::PicturePtr PictureOf(const Pixels& pixels) {
   auto picture = std::make_shared<forms::Picture>();
   picture->width = pixels.Width() * forms::kTwipsPerPixel;
@@ -82,7 +74,8 @@ bool cDIBSection::CreateDIB(std::int32_t lWidth, std::int32_t lHeight, Pixels& h
 
 bool cDIBSection::CreateFromPicture(const forms::Picture& picThis,
                                     const forms::Rasteriser& rasteriser) {
-  const forms::RasterPtr dots = DotsOf(picThis, rasteriser);
+  forms::RasterPtr dots = forms::DotsOf(picThis);
+  if (!dots) dots = std::make_shared<const forms::Raster>(rasteriser.Render(picThis));
   if (!Create(dots->width, dots->height)) return false;
   LoadPictureBlt(ToPixels(*dots));
   return true;

@@ -96,4 +96,10 @@ struct Picture {
   friend bool operator==(const Picture&, const Picture&) = default;
 };
 
+// The dots of a picture that consists of nothing else; null for any other.
+inline RasterPtr DotsOf(const Picture& picture) {
+  const auto* dots = picture.items.size() == 1 ? std::get_if<Dots>(&picture.items[0]) : nullptr;
+  return dots == nullptr ? nullptr : dots->raster;
+}
+
 }  // namespace forms

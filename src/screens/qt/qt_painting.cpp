@@ -107,11 +107,6 @@ void Paint(QPainter& painter, const forms::Inset& inset) {
   PaintPicture(painter, *inset.picture, QRectF(inset.at.x, inset.at.y, inset.width, inset.height));
 }
 
-QImage ImageOf(const forms::Raster& raster) {
-  return QImage(raster.rgb.data(), raster.width, raster.height, 3 * raster.width,
-                QImage::Format_RGB888);
-}
-
 // Faces that forms name and the program's own stands in for.
 bool HasOpenStandIn(std::string_view face) {
   return face == "Arial" || face == "Tahoma";
@@ -203,6 +198,11 @@ void PaintArrow(QPainter& painter, QPointF middle, int direction) {
   painter.setPen(QPen(ToQt(palette::kQuiet), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.drawPolyline(QPolygonF{middle + QPointF(-4, -reach), middle + QPointF(0, reach),
                                  middle + QPointF(4, -reach)});
+}
+
+QImage ImageOf(const forms::Raster& raster) {
+  return QImage(raster.rgb.data(), raster.width, raster.height, 3 * raster.width,
+                QImage::Format_RGB888);
 }
 
 forms::Raster Rasterise(const forms::Picture& picture, QSize size) {

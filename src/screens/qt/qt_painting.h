@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QFont>
 #include <QIcon>
+#include <QImage>
 #include <QPainter>
 #include <QRectF>
 #include <string_view>
@@ -45,6 +46,9 @@ void PaintPicture(QPainter& painter, const forms::Picture& picture, const QRectF
 
 // A small arrow of a field's own, 1 down or -1 up.
 void PaintArrow(QPainter& painter, QPointF middle, int direction);
+
+// The dots themselves, for as long as they last.
+QImage ImageOf(const forms::Raster& raster);
 
 // The picture in dots, on white.
 forms::Raster Rasterise(const forms::Picture& picture, QSize size);
