@@ -140,6 +140,13 @@ std::string NumberText(double x) {
   return text;
 }
 
+double DecimalOf(float x) {
+  Finite(x);
+  std::array<char, 32> buffer;
+  const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), x);
+  return ReadNumber({buffer.data(), end});
+}
+
 std::string GroupedText(std::int64_t number) {
   std::string text = std::to_string(number);
   const std::size_t firstDigit = number < 0 ? 1 : 0;

@@ -34,6 +34,10 @@ std::optional<double> WholeNumber(std::string_view text);
 // "1E-05") stands only from 1E+16 up and below 0.0001.
 std::string NumberText(double x);
 
+// What the shortest decimal text of a 32-bit number says: 4000.2 of 4000.2F, which in 64 bits is
+// 4000.199951171875.
+double DecimalOf(float x);
+
 // A whole number with a comma before each group of three digits: "21,032".
 std::string GroupedText(std::int64_t number);
 

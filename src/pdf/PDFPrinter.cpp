@@ -14,11 +14,19 @@ ReaderWindows& NoReaders() {
 }  // namespace
 
 PDFPrinter::PDFPrinter(const foundation::Clock& clock, foundation::MessageBoxes& boxes)
-    : PDFPrinter(clock, boxes, NoReaders()) {}
+    : PDFPrinter(clock, boxes, NoReaders(), std::nullopt) {}
 
 PDFPrinter::PDFPrinter(const foundation::Clock& clock, foundation::MessageBoxes& boxes,
                        ReaderWindows& readers)
-    : clock_(clock), boxes_(boxes), readers_(readers) {
+    : PDFPrinter(clock, boxes, readers, std::nullopt) {}
+
+PDFPrinter::PDFPrinter(const foundation::Clock& clock, foundation::MessageBoxes& boxes,
+                       PictureMeans means)
+    : PDFPrinter(clock, boxes, NoReaders(), means) {}
+
+PDFPrinter::PDFPrinter(const foundation::Clock& clock, foundation::MessageBoxes& boxes,
+                       ReaderWindows& readers, std::optional<PictureMeans> means)
+    : clock_(clock), boxes_(boxes), readers_(readers), means_(means) {
   fonts_.SetPath(foundation::AppFolder());
   fonts_.PDFLoadAfm(foundation::AppFolder());
 }

@@ -2,11 +2,15 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "bitmap/jpeg_library.h"
+#include "forms/drawing_target.h"
+#include "forms/screen_services.h"
 #include "foundation/machine.h"
 #include "pdf/argument.h"
 #include "pdf/colours.h"
@@ -21,17 +25,24 @@
 
 namespace pdf {
 
+// What turns pictures into the JPEG files that a document takes.
+struct PictureMeans {
+  const forms::Rasteriser& rasteriser;
+  bitmap::JpegLibrary& library;
+};
+
 // PDFFileName, PDFBeginDoc, drawing with PDFEndPage and PDFNewPage between pages, PDFEndDoc. Texts
 // are UTF-8 and go into the file as one byte of Windows code page 1252 a character; coordinates
 // are user units from the top left of the page. A wrong code is told to the user in French and
 // replaced by a default. Only the open page and the images are held in memory; a document has some
 // ten thousand pages at most, of which the first thousand may have links, a thousand each.
-class PDFPrinter {
+class PDFPrinter : public forms::DrawingTarget {
  public:
-  // The fonts are those of the program's own folder.
+  // The fonts are those of the program's own folder. Without means, PaintPicture fails.
   PDFPrinter(const foundation::Clock& clock, foundation::MessageBoxes& boxes);
   PDFPrinter(const foundation::Clock& clock, foundation::MessageBoxes& boxes,
              ReaderWindows& readers);
+  PDFPrinter(const foundation::Clock& clock, foundation::MessageBoxes& boxes, PictureMeans means);
 
   // The document. Without a file that could be created, writing raises ObjectNotSet, and where it
   // does not take the bytes, FileAccess. PDFBeginDoc begins again with the page that was set up
@@ -153,8 +164,36 @@ class PDFPrinter {
   double PDFImageWidth(std::string_view file);  // pixels; 0 where the file cannot be used
   double PDFImageHeight(std::string_view file);
 
+  // The face of a printer, on which forms are drawn with twips as the unit: texts are blue, lines
+  // red. It has no other members of a drawing target.
+  void CurrentX(double x) { x_ = x; }
+  double CurrentX() const override { return x_; }
+  void CurrentY(double y) { y_ = y; }
+  double CurrentY() const override { return y_; }
+  void ForeColor(const Argument& ignored);
+  void FontSize(std::int16_t points);  // 2 more than asked for; Overflow
+  double FontSize() const override { return font_.size; }
+  void FontUnderLine(bool underline) { font_.underline = underline; }  // of the next text
+  // These change nothing.
+  void FontBold(bool) {}
+  void FontItalic(bool) {}
+  void FontStrikethru(bool) {}
+  void Font(std::string_view) {}
+  void RightToLeft(bool) {}
+  // At the present position, of which its end is the next.
+  void Print1(std::string_view text);
+  // Vertical between points of one x, else horizontal from the first of them.
+  void DrawLINE(double x1, double y1, double x2, double y2, const Argument& ignored);
+  // By way of a JPEG file in the temp folder, which is gone afterwards. ObjectNotSet for no picture
+  // or without means, JpegLibraryError; one that cannot be written is left out, and the user told.
+  void PaintPicture(const forms::PicturePtr& Picture, double x, double y, double Width1,
+                    double Height1) override;
+
  private:
   using ByteText = foundation::ByteText;
+
+  PDFPrinter(const foundation::Clock& clock, foundation::MessageBoxes& boxes,
+             ReaderWindows& readers, std::optional<PictureMeans> means);
 
   void Complain(std::string_view subject, std::string_view text);
 
@@ -178,7 +217,7 @@ class PDFPrinter {
   void AddViewerPreferences();
 
   // texts.cpp
-  void Line(std::initializer_list<std::string_view> parts);  // of the page's content
+  void AddLine(std::initializer_list<std::string_view> parts);  // of the page's content
   std::string Point(double x, double y) const;
   double StringWidth(const ByteText& text, double size);
   int BeginText();  // the font's number
@@ -212,9 +251,25 @@ class PDFPrinter {
   // images.cpp
   bool ReadImage(std::string_view file, PDFImageRecord& record);
 
+  // printer_face.cpp
+  void SetCurrentX(double x) override;
+  void SetCurrentY(double y) override;
+  void SetForeColor(forms::Colour) override;
+  void SetFont(std::string_view name) override;
+  void SetFontSize(double points) override;  // rounded to whole points
+  void SetFontBold(bool on) override;
+  void SetFontItalic(bool on) override;
+  void SetFontStrikethru(bool on) override;
+  void SetFontUnderLine(bool on) override;
+  void SetRightToLeft(bool on) override;
+  void Print(std::string_view text) override;
+  void Line(double x1, double y1, double x2, double y2, forms::Colour, forms::LineStyle) override;
+  bool PictureToJpegFile(const forms::Picture& Picture, const std::filesystem::path& path);
+
   const foundation::Clock& clock_;
   foundation::MessageBoxes& boxes_;
   ReaderWindows& readers_;
+  std::optional<PictureMeans> means_;
 
   std::string fileName_;
   ObjectFile file_;

@@ -67,11 +67,11 @@ void PDFPrinter::CellLine(const ByteText& plainText, double x, double y, double 
                           const Argument& link) {
   const ByteText text = Escaped(plainText);
   const int font = BeginText();
-  Line({pen_.lineColour});
-  Line({pen_.fillColour});
+  AddLine({pen_.lineColour});
+  AddLine({pen_.fillColour});
   const std::string frame = CellFrame(x, y, w, h);
   const double offset = CellOffset(text, w);
-  if (!frame.empty()) Line({frame});
+  if (!frame.empty()) AddLine({frame});
   if (!link.IsEmptyText()) {
     font_.underline = true;
     PDFAddLinkRect(x + offset, y + h * 0.5 - 0.5 * font_.size,
@@ -83,14 +83,14 @@ void PDFPrinter::CellLine(const ByteText& plainText, double x, double y, double 
   const double base = page_.Format().height - (y * k + 0.5 * h * k + 0.3 * font_.size);
   std::string underline;
   if (font_.underline) underline = PDFUnderlineOp(true, text, left, base);
-  Line({"q ", pen_.textColour, " "});
-  if (font_.underline) Line({underline});
-  Line({"BT"});
-  Line({"/F", std::to_string(font), " ", std::to_string(font_.size), " Tf"});
-  Line({JoinedNumbers({left, base}), " Td"});
-  Line({"(", text.Bytes(), ") Tj"});
-  Line({"ET"});
-  Line({"Q"});
+  AddLine({"q ", pen_.textColour, " "});
+  if (font_.underline) AddLine({underline});
+  AddLine({"BT"});
+  AddLine({"/F", std::to_string(font), " ", std::to_string(font_.size), " Tf"});
+  AddLine({JoinedNumbers({left, base}), " Td"});
+  AddLine({"(", text.Bytes(), ") Tj"});
+  AddLine({"ET"});
+  AddLine({"Q"});
 
   linked_.text = text;
   linked_.kind = LinkKind::Cell;
@@ -110,7 +110,7 @@ std::string PDFPrinter::CellFrame(double x, double y, double w, double h) {
     frame.append(paint) += '\r';
   }
   if (whole || cell_.border == "0") return frame;
-  Line({Width()});
+  AddLine({Width()});
   return frame + CellBorders(x, y, w, h);
 }
 
@@ -140,7 +140,7 @@ double PDFPrinter::CellOffset(const ByteText& text, double w) {
           static_cast<double>(std::count(text.Bytes().begin(), text.Bytes().end(), ' '));
       const double free = inner - (blanks + 1) * page_.cellMargin - width();
       cell_.wordSpacing = free / std::max(blanks, 1.0);
-      Line({PDFFormatNumber(cell_.wordSpacing * page_.scale, 3), " Tw"});
+      AddLine({PDFFormatNumber(cell_.wordSpacing * page_.scale, 3), " Tw"});
       return 0;
     }
     default:
@@ -156,7 +156,7 @@ void PDFPrinter::PDFCell(std::string_view text, double x, double y, double w, do
   if (!number) throw foundation::Error(foundation::ErrorKind::TypeMismatch);
   const bool hasBorder = *number == 1;
 
-  Line({"%DEBUT_CELL/%"});
+  AddLine({"%DEBUT_CELL/%"});
   std::string border = hasBorder ? "LRT" : "";
   const auto draw = [&](const std::string& line, double left) {
     cell_.border = border;
@@ -174,10 +174,10 @@ void PDFPrinter::PDFCell(std::string_view text, double x, double y, double w, do
 
   font_.underline = false;
   if (cell_.alignment == Alignment::Justified) {
-    Line({"0 Tw"});
+    AddLine({"0 Tw"});
     cell_.wordSpacing = 0;
   }
-  Line({"%FIN_CELL/%"});
+  AddLine({"%FIN_CELL/%"});
 }
 
 }  // namespace pdf

@@ -55,11 +55,12 @@ void PDFPrinter::PDFSetFont(std::int32_t font, double size, std::int32_t style) 
 
 double PDFPrinter::PDFGetStringWidth(std::string_view text, std::string_view fontName,
                                      double size) {
-  return TextWidth(Encoded(text), fonts_.Widths(fontName.empty() ? font_.name : fontName), size);
+  return pdf::TextWidth(Encoded(text), fonts_.Widths(fontName.empty() ? font_.name : fontName),
+                        size);
 }
 
 double PDFPrinter::StringWidth(const ByteText& text, double size) {
-  return TextWidth(text, fonts_.Widths(font_.name), size);
+  return pdf::TextWidth(text, fonts_.Widths(font_.name), size);
 }
 
 double PDFPrinter::PDFTextHeight() const {

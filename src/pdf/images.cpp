@@ -67,9 +67,9 @@ void PDFPrinter::PDFImage(std::string_view file, double x, double y, double w, d
   if (h == 0) h = Divide(w * pixelHeight, pixelWidth);
 
   images_.push_back(std::move(record));
-  Line({"q"});
-  Line({PDFFormatNumber(page_.Across(w), 2), " 0 0 ", PDFFormatNumber(page_.Across(h), 2), " ",
-        Point(x, y + h), " cm /ImgJPEG", std::to_string(images_.size()), " Do Q"});
+  AddLine({"q"});
+  AddLine({PDFFormatNumber(page_.Across(w), 2), " 0 0 ", PDFFormatNumber(page_.Across(h), 2), " ",
+           Point(x, y + h), " cm /ImgJPEG", std::to_string(images_.size()), " Do Q"});
   linked_.imageWidth = w;
   linked_.imageHeight = h;
   PDFAttachLink(link, LinkKind::Image, x, y);

@@ -39,7 +39,7 @@ void PDFPrinter::PDFLink(double x, double y, std::string_view text, const Argume
 }
 
 void PDFPrinter::Link(double x, double y, const ByteText& text, const Argument& link) {
-  Line({"%DEBUT_LINK/%"});
+  AddLine({"%DEBUT_LINK/%"});
   font_.underline = true;
   double w = 0, h = font_.size;
   if (linked_.isImage) {
@@ -63,7 +63,7 @@ void PDFPrinter::Link(double x, double y, const ByteText& text, const Argument& 
 
   const bool leadsToText = link.IsEmptyText() || (link.Number() != nullptr && *link.Number() == 0);
   PDFAddLinkRect(x, y, w, h, leadsToText ? text : AddressOf(link));
-  Line({"%FIN_LINK/%"});
+  AddLine({"%FIN_LINK/%"});
 }
 
 void PDFPrinter::PDFAddLinkRect(double x, double y, double w, double h,

@@ -103,8 +103,8 @@ void PDFPrinter::FillWithLineColour() {
 }
 
 void PDFPrinter::ModeColours() {
-  if (pen_.drawMode != DrawMode::Outline) Line({pen_.fillColour});
-  if (pen_.drawMode != DrawMode::Fill) Line({pen_.lineColour});
+  if (pen_.drawMode != DrawMode::Outline) AddLine({pen_.fillColour});
+  if (pen_.drawMode != DrawMode::Fill) AddLine({pen_.lineColour});
 }
 
 std::string PDFPrinter::Width() const {
@@ -112,52 +112,52 @@ std::string PDFPrinter::Width() const {
 }
 
 void PDFPrinter::StrokeLine(double x1, double y1, double x2, double y2) {
-  Line({pen_.lineStyle});
-  Line({Point(x1, y1), " m"});
-  Line({Point(x2, y2), " l"});
-  Line({pen_.lineColour});
-  Line({Width(), " S"});
+  AddLine({pen_.lineStyle});
+  AddLine({Point(x1, y1), " m"});
+  AddLine({Point(x2, y2), " l"});
+  AddLine({pen_.lineColour});
+  AddLine({Width(), " S"});
 }
 
 void PDFPrinter::PDFDrawLineHor(double x, double y, double length) {
   FillWithLineColour();
-  Line({"%DEBUT_LNH/%"});
+  AddLine({"%DEBUT_LNH/%"});
   StrokeLine(x, y, x + length, y);
-  Line({"%FIN_LNH/%"});
+  AddLine({"%FIN_LNH/%"});
   x_ = x + length;
   y_ = y;
 }
 
 void PDFPrinter::PDFDrawLineVer(double x, double y, double length) {
   FillWithLineColour();
-  Line({"%DEBUT_LNV/%"});
+  AddLine({"%DEBUT_LNV/%"});
   StrokeLine(x, y, x, y + length);
-  Line({"%FIN_LNV/%"});
+  AddLine({"%FIN_LNV/%"});
   x_ = x;
   y_ = y + length;
 }
 
 void PDFPrinter::PDFDrawLine(double x1, double y1, double x2, double y2) {
-  Line({"%DEBUT_LN/%"});
+  AddLine({"%DEBUT_LN/%"});
   StrokeLine(x1, y1, x2, y2);
-  Line({"%FIN_LN/%"});
+  AddLine({"%FIN_LN/%"});
   x_ = std::max(x1, x2);
   y_ = std::max(y1, y2);
 }
 
 void PDFPrinter::PDFDrawRectangle(double x, double y, double w, double h, const Argument& link) {
-  Line({"%DEBUT_RECT/%"});
+  AddLine({"%DEBUT_RECT/%"});
   ModeColours();
-  Line({pen_.lineStyle});
-  Line({Point(x, y), " ", JoinedNumbers({page_.Across(w), page_.Across(-h)}), " re ",
-        Paint(pen_.drawMode, "f")});
-  Line({Width(), " S"});
+  AddLine({pen_.lineStyle});
+  AddLine({Point(x, y), " ", JoinedNumbers({page_.Across(w), page_.Across(-h)}), " re ",
+           Paint(pen_.drawMode, "f")});
+  AddLine({Width(), " S"});
   PDFSetTextColor(kWhite);
   linked_.text = ByteText("LINK");
   linked_.kind = LinkKind::Rectangle;
   linked_.width = foundation::RoundToInt32(w);
   PDFAttachLink(link, LinkKind::Rectangle, std::floor(x + 5), std::floor(h / 2 + y));
-  Line({"%FIN_RECT/%"});
+  AddLine({"%FIN_RECT/%"});
   x_ = x;
   y_ = y + h;
 }
@@ -167,13 +167,13 @@ void PDFPrinter::PDFDrawEllipse(double x, double y, double w, double h, const Ar
   const double cx = x + w / 2, cy = y + h / 2;
   const double dx = Control(w), dy = Control(h);
   ModeColours();
-  Line({pen_.lineStyle});
-  Line({Point(x, h / 2 + y), " m"});
+  AddLine({pen_.lineStyle});
+  AddLine({Point(x, h / 2 + y), " m"});
   PDFCurveTo(x, cy - dy, cx - dx, y, cx, y);
   PDFCurveTo(cx + dx, y, x + w, cy - dy, x + w, cy);
   PDFCurveTo(x + w, cy + dy, cx + dx, y + h, cx, y + h);
   PDFCurveTo(cx - dx, y + h, x, cy + dy, x, cy);
-  Line({Width(), " ", Paint(pen_.drawMode, "h f")});
+  AddLine({Width(), " ", Paint(pen_.drawMode, "h f")});
   PDFSetTextColor(kWhite);
   linked_.text = ByteText("LINK");
   linked_.kind = LinkKind::Ellipse;
@@ -184,7 +184,7 @@ void PDFPrinter::PDFDrawEllipse(double x, double y, double w, double h, const Ar
 }
 
 void PDFPrinter::PDFCurveTo(double x1, double y1, double x2, double y2, double x3, double y3) {
-  Line({Point(x1, y1), " ", Point(x2, y2), " ", Point(x3, y3), " c"});
+  AddLine({Point(x1, y1), " ", Point(x2, y2), " ", Point(x3, y3), " c"});
 }
 
 void PDFPrinter::PDFDrawPolygon(const std::vector<double>& points) {
@@ -195,13 +195,13 @@ void PDFPrinter::PDFDrawPolygon(const std::vector<double>& points) {
   const auto corners =
       static_cast<std::size_t>(foundation::RoundToInt32(static_cast<double>(points.size()) / 2));
   ModeColours();
-  Line({"%DEBUT_POLY/%"});
-  Line({pen_.lineStyle});
-  Line({corner(1), " m"});
-  for (std::size_t number = 2; number <= corners; ++number) Line({corner(number), " l"});
-  Line({corner(1), " l"});
-  Line({Width(), " ", Paint(pen_.drawMode, "h f")});
-  Line({"%FIN_POLY/%"});
+  AddLine({"%DEBUT_POLY/%"});
+  AddLine({pen_.lineStyle});
+  AddLine({corner(1), " m"});
+  for (std::size_t number = 2; number <= corners; ++number) AddLine({corner(number), " l"});
+  AddLine({corner(1), " l"});
+  AddLine({Width(), " ", Paint(pen_.drawMode, "h f")});
+  AddLine({"%FIN_POLY/%"});
 }
 
 }  // namespace pdf

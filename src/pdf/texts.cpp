@@ -12,7 +12,7 @@ namespace pdf {
 using foundation::RoundToInt16;
 using foundation::RoundToInt32;
 
-void PDFPrinter::Line(std::initializer_list<std::string_view> parts) {
+void PDFPrinter::AddLine(std::initializer_list<std::string_view> parts) {
   PDFAddLine(content_, parts);
 }
 
@@ -34,22 +34,22 @@ void PDFPrinter::TextOut(const ByteText& text, double x, double y) {
   if (x == 0) x = x_;
   if (y == 0) y = y_;
   const int font = BeginText();
-  Line({"q ", pen_.textColour, " "});
+  AddLine({"q ", pen_.textColour, " "});
   std::string underline;
   if (font_.underline) underline = PDFUnderlineOp(false, text, page_.Across(x), page_.Across(y));
-  Line({"%DEBUT_TEXT/%\r\nBT"});
+  AddLine({"%DEBUT_TEXT/%\r\nBT"});
   if (pen_.rotation != 0) {
-    Line({PDFRotationMatrix(pen_.rotation, x, y)});
+    AddLine({PDFRotationMatrix(pen_.rotation, x, y)});
     pen_.rotation = 0;
   } else {
-    Line({Point(page_.leftMargin + x, y), " Td"});
+    AddLine({Point(page_.leftMargin + x, y), " Td"});
   }
-  Line({"/F", std::to_string(font), " ", PDFFormatNumber(font_.size, 2), " Tf"});
+  AddLine({"/F", std::to_string(font), " ", PDFFormatNumber(font_.size, 2), " Tf"});
   content_ += '(';
   AppendEscaped(content_, text);
-  Line({") Tj\r\nET"});
-  if (font_.underline) Line({underline});
-  Line({"Q\r\n%FIN_TEXT/%"});
+  AddLine({") Tj\r\nET"});
+  if (font_.underline) AddLine({underline});
+  AddLine({"Q\r\n%FIN_TEXT/%"});
   font_.underline = false;
   x_ = x + StringWidth(text, font_.size);
   y_ = y + font_.size;

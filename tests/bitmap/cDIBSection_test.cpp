@@ -100,13 +100,9 @@ TEST(DibSection, IsFilledByChance) {
   EXPECT_EQ(RowsOf(dib), (Rows{"000000808080", "ffffff1a1a1a"}));
 }
 
-struct FakeRasteriser : forms::Rasteriser {
-  forms::Raster dots;
-  forms::Raster Render(const forms::Picture&) const override { return dots; }
-};
-
 TEST(DibSection, TakesAPictureAndGivesItToTheClipboard) {
-  FakeRasteriser screen;
+  support::FakeRasteriser screen;
+  screen.dots = {};
   support::FakeClipboard clipboard;
   support::FakeMessageBoxes boxes;
   cDIBSection dib;

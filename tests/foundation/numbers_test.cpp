@@ -57,6 +57,12 @@ TEST(WholeNumber, TakesNothingButANumber) {
   EXPECT_EQ(WholeNumber(""), std::nullopt);
 }
 
+TEST(DecimalOf, IsWhatTheShortTextOf32BitsSays) {
+  EXPECT_EQ(DecimalOf(4000.2F), 4000.2);
+  EXPECT_EQ(DecimalOf(-1e30F), -1e30);
+  EXPECT_ERROR(Overflow, DecimalOf(std::numeric_limits<float>::infinity()));
+}
+
 TEST(NumberText, IsTheShortestThatReadsBack) {
   const std::pair<double, const char*> kCases[] = {
       {0, "0"},

@@ -42,7 +42,10 @@ struct Paper {
   support::FakeMessageBoxes boxes;
   PDFPrinter printer{clock, boxes};
 
-  Paper() {
+  Paper() { Begin(); }
+  explicit Paper(PictureMeans means) : printer(clock, boxes, means) { Begin(); }
+
+  void Begin() {
     clock.now = foundation::DateFromParts(2011, 3, 5) + foundation::TimeFromParts(6, 12, 9);
     printer.PDFSetUnit(0);
     printer.PDFFileName((folder.path / "paper.pdf").string());

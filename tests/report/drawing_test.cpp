@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "bitmap/libjpeg_library.h"
+#include "pdf/paper.h"
 #include "report/modPrint.h"
+#include "report/pk_Durvela.h"
 #include "support/screen_fakes.h"
 
 namespace report {
@@ -75,6 +78,38 @@ TEST(FormDrawing, PassesOverWhatATargetLacks) {
   Bare target;
   DrawFormOnTarget(sheet, target, 0, 0);
   EXPECT_EQ(target.texts, (Calls{"one", "two", "in"}));
+}
+
+TEST(FormDrawing, GoesIntoADocument) {
+  const support::FakeRasteriser rasteriser;
+  bitmap::LibjpegLibrary library;
+  pdf::Paper paper(pdf::PictureMeans{rasteriser, library});
+  paper.printer.PDFSetUnit(3);
+  Sheet sheet;
+  DrawFormOnTarget(sheet, paper.printer, 1000, 2000, nullptr, -1);
+  pk_Durvela page;
+  paper.printer.PDFEndPage();
+  paper.printer.PDFNewPage();
+  DrawFormOnTarget(page, paper.printer, 0, 0);
+  paper.printer.PDFEndDoc();
+
+  const std::string text = "q 0.000 0.000 1.000 rg \n%DEBUT_TEXT/%\nBT\n";
+  const std::string end = " Tj\nET\nQ\n%FIN_TEXT/%\n";
+  const std::string line = "%DEBUT_LNH/%\n\n";
+  const std::string lineEnd = "1.000 0.000 0.000 RG\n0.03 w S\n%FIN_LNH/%\n";
+  const std::string frame = line + "50.50 741.39 m\n51.50 741.39 l\n" + lineEnd;
+  const std::string bytes = paper.File();
+  EXPECT_TRUE(pdf::Holds(
+      bytes,
+      pdf::AsWritten("stream\n" + frame + "q\n15.00 0 0 20.00 55.00 711.89 cm /ImgJPEG1 Do Q\n" +
+                     text + "50.55 740.89 Td\n/F1 9.00 Tf\n(one)" +
+                     end +  // 5 - 1 + 2 is below 7: 7 + 2
+                     text + "50.55 740.44 Td\n/F1 9.00 Tf\n(two)" + end +  // 9 twips below
+                     text + "55.10 731.79 Td\n/F1 13.00 Tf\n(in)" + end + line +
+                     "50.05 741.79 m\n50.15 741.79 l\n" + lineEnd + frame + "endstream\n")));
+  EXPECT_TRUE(pdf::Holds(bytes, "(;e?kaVd dky) Tj"));  // heads as the letters they are stored in
+  EXPECT_TRUE(pdf::Holds(bytes, "/ImgJPEG13 Do Q"));   // the twelve rules of the table
+  EXPECT_FALSE(pdf::Holds(bytes, "/ImgJPEG14"));
 }
 
 }  // namespace

@@ -10,15 +10,6 @@
 
 namespace report {
 
-// Pictures come out as 2 by 1 dots.
-struct FakeRasteriser : forms::Rasteriser {
-  mutable int rendered = 0;
-  forms::Raster Render(const forms::Picture&) const override {
-    ++rendered;
-    return {.width = 2, .height = 1, .rgb = {255, 0, 0, 1, 2, 3}};
-  }
-};
-
 struct Reporting {
   support::AppFolderScope folder;
   support::FakeSettings settings;
@@ -27,7 +18,7 @@ struct Reporting {
   support::FakeHost host;
   support::RecordingTarget printer;
   foundation::SessionTable session;
-  FakeRasteriser rasteriser;
+  support::FakeRasteriser rasteriser;
   Services services{settings, session, boxes, yielder, host, rasteriser, printer};
   frmSPkun preview{services};
   forms::Control status;

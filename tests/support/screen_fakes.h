@@ -97,6 +97,16 @@ struct FakeHost : forms::FormHost {
   void ForgetTarget(forms::Control&) override {}
 };
 
+// Any picture comes out as the same dots.
+struct FakeRasteriser : forms::Rasteriser {
+  forms::Raster dots = {.width = 2, .height = 1, .rgb = {255, 0, 0, 1, 2, 3}};
+  mutable int rendered = 0;
+  forms::Raster Render(const forms::Picture&) const override {
+    ++rendered;
+    return dots;
+  }
+};
+
 struct FakeClipboard : forms::Clipboard {
   forms::PicturePtr held;
   bool SetPicture(const forms::PicturePtr& picture) override {

@@ -1,0 +1,115 @@
+// The document as what forms are drawn on.
+
+#include <gtest/gtest.h>
+
+#include "bitmap/libjpeg_library.h"
+#include "bitmap/mIntelJPEGLibrary.h"
+#include "foundation/modFileFx.h"
+#include "pdf/paper.h"
+#include "support/errors.h"
+#include "support/screen_fakes.h"
+
+namespace pdf {
+namespace {
+
+struct Face : testing::Test {
+  Face() { paper.printer.PDFSetUnit(3); }
+
+  support::FakeRasteriser rasteriser;
+  // Stops or breaks off where it is told to.
+  struct : bitmap::LibjpegLibrary {
+    int begun = 0, written = 0;
+    int ijlInit(bitmap::JpegProperties& record) override {
+      return begun != 0 ? begun : LibjpegLibrary::ijlInit(record);
+    }
+    int ijlWrite(const bitmap::JpegProperties& record, bitmap::JpegMode mode) override {
+      const int result = LibjpegLibrary::ijlWrite(record, mode);
+      return written != 0 ? written : result;
+    }
+  } library;
+  Paper paper{PictureMeans{rasteriser, library}};
+  forms::DrawingTarget& target = paper.printer;
+  const forms::PicturePtr picture = std::make_shared<forms::Picture>();
+  const std::filesystem::path file = foundation::TempFolder() / "temp.jpg";
+};
+
+TEST_F(Face, PrintsBlueTextsTwoPointsLarger) {
+  target.SetForeColor(forms::Rgb(0xFF0000));
+  target.SetFont("Kruti Dev 010");
+  target.SetFontBold(true);
+  target.SetFontItalic(true);
+  target.SetFontStrikethru(true);
+  target.SetRightToLeft(true);
+  target.SetFontSize(9.5);
+  EXPECT_EQ(target.FontSize(), 12);
+  target.SetCurrentX(1440);
+  target.SetCurrentY(1440);
+  target.Print("one");
+  target.Print("on");
+  EXPECT_EQ(target.CurrentX(), 1470);
+  EXPECT_EQ(target.CurrentY(), 1464);
+  target.SetCurrentX(1000);
+  target.SetCurrentY(2000);
+  target.SetFontUnderLine(true);
+  target.Print("u");
+  const std::string begin = "q 0.000 0.000 1.000 rg \n%DEBUT_TEXT/%\nBT\n";
+  EXPECT_EQ(
+      paper.Content(),
+      AsWritten(begin + "72.05 769.89 Td\n/F1 12.00 Tf\n(one) Tj\nET\nQ\n%FIN_TEXT/%\n" + begin +
+                "72.95 769.29 Td\n/F1 12.00 Tf\n(on) Tj\nET\nQ\n%FIN_TEXT/%\n" + begin +
+                "50.05 741.89 Td\n/F1 12.00 Tf\n(u) Tj\nET\n"
+                "50.00 742.03 6.00 -0.01 re f\nQ\n%FIN_TEXT/%\n"));
+  EXPECT_ERROR(Overflow, paper.printer.FontSize(32766));
+}
+
+TEST_F(Face, DrawsRedLinesThatNeverSlant) {
+  target.Line(1, 1, 5, 5, forms::Rgb(0), forms::LineStyle::Straight);
+  target.Line(200, 100, 100, 50, forms::Rgb(0), forms::LineStyle::FilledBox);
+  paper.printer.DrawLINE(20, 30, 20, 10, 0);
+  const std::string end = "1.000 0.000 0.000 RG\n0.03 w S\n";
+  EXPECT_EQ(paper.Content(),
+            AsWritten("%DEBUT_LNH/%\n\n0.05 841.84 m\n0.25 841.84 l\n" + end + "%FIN_LNH/%\n" +
+                      "%DEBUT_LNH/%\n\n10.00 836.89 m\n15.00 836.89 l\n" + end + "%FIN_LNH/%\n" +
+                      "%DEBUT_LNV/%\n\n1.00 840.39 m\n1.00 839.39 l\n" + end + "%FIN_LNV/%\n"));
+}
+
+TEST_F(Face, PlacesPicturesByWayOfOneFile) {
+  target.PaintPicture(picture, 2000, 3600, 1440, 960);
+  EXPECT_FALSE(std::filesystem::exists(file));
+  rasteriser.dots = {.width = 1, .height = 3, .rgb = std::vector<std::uint8_t>(9)};
+  target.PaintPicture(picture, 4000.2, 3600, 0, 864);
+  const std::string whole = paper.Whole();
+  EXPECT_TRUE(Holds(whole, AsWritten("q\n72.00 0 0 48.00 100.00 613.89 cm /ImgJPEG1 Do Q\n"
+                                     "q\n14.40 0 0 43.20 200.01 618.69 cm /ImgJPEG2 Do Q\n")));
+  EXPECT_TRUE(Holds(whole, AsWritten("/Width 2\n/Height 1\n/ColorSpace /DeviceRGB\n")));
+  EXPECT_TRUE(Holds(whole, AsWritten("/Width 1\n/Height 3\n/ColorSpace /DeviceRGB\n")));
+  EXPECT_TRUE(paper.boxes.shown.empty());
+}
+
+TEST_F(Face, LeavesOutAPictureThatFails) {
+  library.written = -9;
+  target.PaintPicture(picture, 0, 0, 10, 10);
+  library.written = 0;
+  rasteriser.dots = {};
+  target.PaintPicture(picture, 0, 0, 10, 10);
+  ASSERT_EQ(paper.boxes.shown.size(), 2U);
+  EXPECT_EQ(paper.boxes.shown[0].text, "DurvelaFailed to save to JPG -9");
+  EXPECT_EQ(paper.boxes.shown[1].text, "DurvelaFailed to save to JPG -1");
+  library.begun = -7;
+  EXPECT_THROW(target.PaintPicture(picture, 0, 0, 10, 10), bitmap::JpegLibraryError);
+  EXPECT_FALSE(std::filesystem::exists(file));
+  EXPECT_ERROR(ObjectNotSet, target.PaintPicture(nullptr, 0, 0, 10, 10));
+  EXPECT_EQ(paper.Content(), "");
+}
+
+TEST(Documents, LackSomeMembersOfAPrinter) {
+  Paper paper;
+  forms::DrawingTarget& target = paper.printer;
+  EXPECT_ERROR(NoSuchMember, target.SetDrawWidth(1));
+  EXPECT_ERROR(NoSuchMember, target.Cls());
+  EXPECT_ERROR(NoSuchMember, target.TextWidth("text"));
+  EXPECT_ERROR(ObjectNotSet, target.PaintPicture(std::make_shared<forms::Picture>(), 0, 0, 10, 10));
+}
+
+}  // namespace
+}  // namespace pdf
