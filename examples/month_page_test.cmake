@@ -1,0 +1,11 @@
+# Runs the program: each of its files has to be a PDF of one page.
+file(REMOVE_RECURSE ${FOLDER})
+execute_process(COMMAND ${PROGRAM} 2011 3 ${FOLDER} COMMAND_ERROR_IS_FATAL ANY)
+foreach(name document printer)
+  file(READ ${FOLDER}/${name}.pdf head LIMIT 5)
+  file(STRINGS ${FOLDER}/${name}.pdf pages REGEX "/Type /Page$")
+  list(LENGTH pages count)
+  if(NOT head MATCHES "^%PDF-" OR NOT count EQUAL 1)
+    message(FATAL_ERROR "${name}.pdf begins with ${head} and has ${count} pages")
+  endif()
+endforeach()
