@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 using Rooms = std::set<std::string>;
 
-const fs::path kSource = fs::path(PROJECT_FOLDER) / "src";
+const fs::path kSource = SOURCE_FOLDER;
 
 // What each room may include of the others. The screens' toolkit room is the only one for Qt.
 const std::map<std::string, Rooms> kArrows = {

@@ -2,13 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <regex>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
+
+#include "foundation/numbers.h"
 
 namespace {
 
@@ -54,6 +58,39 @@ TEST(Documents, LeadToFilesThatAreThere) {
     }
   }
   EXPECT_GT(seen, 10U);
+}
+
+TEST(Documents, CountThePlacesThatAreThere) {
+  int files = 0, places = 0;
+  for (const auto& entry : fs::directory_iterator(kProject / "data/atlas/places")) {
+    const std::string table = TextOf(entry.path());
+    places += static_cast<int>(std::count(table.begin(), table.end(), '\n')) - 1;
+    ++files;
+  }
+  const std::string count = foundation::GroupedText(places);
+  for (const char* document : {"README.md", "docs/atlas.md"}) {
+    const std::string text = TextOf(kProject / document);
+    EXPECT_NE(text.find(count), text.npos) << document << " does not tell of " << count;
+    EXPECT_NE(text.find("in " + std::to_string(files)), text.npos) << document;
+  }
+}
+
+// README tells the worst of docs/accuracy.md, which is made by a command.
+TEST(Documents, TellTheAccuracyThatWasMeasured) {
+  const std::string readme = TextOf(kProject / "README.md");
+  const std::string measured = TextOf(kProject / "docs/accuracy.md");
+  for (const auto& [place, claim] :
+       {std::pair{"Delhi, 28.7° N", "64 seconds"}, {"Ålesund, 62.5° N", "132 at 62.5 degrees"}}) {
+    int worst = 0;
+    for (std::size_t at = 0; (at = measured.find(place, at)) != measured.npos; ++at) {
+      const std::string row = measured.substr(at, measured.find('\n', at) - at);
+      const std::size_t last = row.rfind('|', row.size() - 2) + 1;
+      worst =
+          std::max(worst, foundation::RoundToInt32(foundation::LeadingNumber(row.substr(last))));
+    }
+    EXPECT_TRUE(std::string_view(claim).starts_with(std::to_string(worst))) << place << worst;
+    EXPECT_NE(readme.find(claim), readme.npos) << claim;
+  }
 }
 
 TEST(Documents, NameTestsThatAreThere) {
