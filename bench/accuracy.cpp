@@ -12,6 +12,7 @@
 #include "engine/clsPP.h"
 #include "foundation/date_text.h"
 #include "foundation/numbers.h"
+#include "support/session_at.h"
 
 namespace {
 
@@ -151,10 +152,7 @@ DateTime TheirEnd(const Element& element, DateTime from) {
 
 // All that end in 2011, each sought from an hour after the one before it.
 std::string Endings() {
-  foundation::SessionTable session;
-  session.Current().LatitudeText = "28.40N";
-  session.Current().LongitudeText = "77.13E";
-  session.Current().ZoneMeridianText = "82.30E";
+  const foundation::SessionTable session = support::Delhi();
   std::string table = Head("seconds of time, Delhi 2011");
   for (const Element& element : kElements) {
     Differences differences;

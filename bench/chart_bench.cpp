@@ -10,6 +10,7 @@
 #include "foundation/calendar.h"
 #include "foundation/numbers.h"
 #include "screens/dashboard.h"
+#include "support/session_at.h"
 
 #ifdef HAVE_SWISSEPH
 #include "bench/ephemeris.h"
@@ -44,14 +45,6 @@ class Moments {
 };
 
 constexpr double kLatitude = 28 + 40 / 60.0, kLongitude = 77 + 13 / 60.0, kZone = 5.5;
-
-foundation::SessionTable Delhi() {
-  foundation::SessionTable session;
-  session.Current().LatitudeText = "28.40N";
-  session.Current().LongitudeText = "77.13E";
-  session.Current().ZoneMeridianText = "82.30E";
-  return session;
-}
 
 std::int16_t Field(int x) {
   return static_cast<std::int16_t>(x);
@@ -180,7 +173,7 @@ FIGURE(YearByNova, YEAR, "libnova")->Unit(benchmark::kMillisecond);
 #endif
 
 void YearOfPeriods(benchmark::State& state) {
-  const foundation::SessionTable session = Delhi();
+  const foundation::SessionTable session = support::Delhi();
   EachDayOfAYear(state, [&](DateTime day) {
     const auto at = foundation::FieldsOf(day);
     dayperiods::clsUtilities periods(session);
@@ -195,7 +188,7 @@ FIGURE(YearOfPeriods, "a year's three periods, a chart for each call", "Durvela"
 // 21 charts by hours, 60 by minutes and 59 by seconds, since this tithi ends at 19:24:19 of the
 // next day: nearly the most that an element takes.
 void TithiEnding(benchmark::State& state) {
-  const foundation::SessionTable session = Delhi();
+  const foundation::SessionTable session = support::Delhi();
   for (auto _ : state) {
     benchmark::DoNotOptimize(
         dayperiods::clsBirthDetails().GetTITHIending(14, 4, 2011, 23, 23, 20, session));

@@ -4,6 +4,7 @@
 #include "engine/zodiac.h"
 #include "support/errors.h"
 #include "support/locales.h"
+#include "support/session_at.h"
 
 namespace dayperiods {
 namespace {
@@ -42,11 +43,7 @@ void ForEachMoment(const Check& check) {
 }
 
 foundation::SessionTable SessionAt(const KnownMoment& moment) {
-  foundation::SessionTable session;
-  session.Current().LatitudeText = moment.latitude;
-  session.Current().LongitudeText = moment.longitude;
-  session.Current().ZoneMeridianText = moment.zone;
-  return session;
+  return support::SessionAt(moment.latitude, moment.longitude, moment.zone);
 }
 
 TEST(KnownMoments, HaveTheirElements) {

@@ -5,6 +5,7 @@
 #include "dayperiods/clsBirthDetails.h"
 #include "dayperiods/clsUtilities.h"
 #include "engine/clsPP.h"
+#include "support/session_at.h"
 
 namespace dayperiods {
 namespace {
@@ -80,10 +81,8 @@ TEST(KnownDays, HaveTheirTimeTexts) {
 TEST(KnownDays, HaveTheirPeriods) {
   for (const KnownDay& day : kDays) {
     SCOPED_TRACE(Name(day));
-    foundation::SessionTable session;
-    session.Current().LatitudeText = day.place.latitude;
-    session.Current().LongitudeText = day.place.longitude;
-    session.Current().ZoneMeridianText = day.place.zone;
+    const auto session =
+        support::SessionAt(day.place.latitude, day.place.longitude, day.place.zone);
     const auto& at = day.moment;
     clsUtilities periods(session);
     periods.CalcDurvela(at.day, at.month, at.year, at.hour, at.minute, at.second);

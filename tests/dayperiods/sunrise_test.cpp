@@ -3,6 +3,7 @@
 #include "dayperiods/clsBirthDetails.h"
 #include "dayperiods/clsUtilities.h"
 #include "support/errors.h"
+#include "support/session_at.h"
 
 namespace dayperiods {
 namespace {
@@ -14,14 +15,6 @@ SunriseRows SunriseOf(double latitude, Number day, Number month, Number year, Nu
   double longitude = 25.5, zone = 2;
   return clsBirthDetails().Sunrise(latitude, longitude, zone, day, month, year, hour, minute,
                                    second);
-}
-
-foundation::SessionTable Delhi() {
-  foundation::SessionTable session;
-  session.Current().LatitudeText = "28.40N";
-  session.Current().LongitudeText = "77.13E";
-  session.Current().ZoneMeridianText = "82.30E";
-  return session;
 }
 
 TEST(MilitaryTime, JoinsHoursAndMinutes) {
@@ -62,7 +55,7 @@ TEST(RiseSet, TakesDegreesAndMinutesWithTheirHemisphere) {
 TEST(HinduDay, BeginsAtSunriseToTheSecond) {
   // Sunrise of 5 March 2011 in Delhi is 06:43 by the NOAA formulas as well.
   const auto sunriseAt = [](double hour, double minute, double second) {
-    const foundation::SessionTable session = Delhi();
+    const foundation::SessionTable session = support::Delhi();
     const DaylightSegments day = clsUtilities(session).Divide(5, 3, 2011, hour, minute, second);
     EXPECT_EQ(day.weekday, 7);  // of the calendar date, before sunrise too
     return day.sunrise;
@@ -79,7 +72,7 @@ TEST(HinduDay, FailsWhereTheSunDoesNotCrossTheHorizon) {
 }
 
 TEST(Periods, RefuseWhatIsNoDateOrTime) {
-  foundation::SessionTable session = Delhi();
+  foundation::SessionTable session = support::Delhi();
   clsUtilities periods(session);
   EXPECT_ERROR(TypeMismatch, periods.CalcDurvela(30, 2, 2011, 12, 0, 0));
   EXPECT_ERROR(TypeMismatch, periods.CalcDurvela(5, 3, 2011, 24, 0, 0));

@@ -7,17 +7,14 @@
 
 #include "screens/dashboard.h"
 #include "screens/day_sky.h"
+#include "support/session_at.h"
 
 namespace screens {
 namespace {
 
 DayScene SceneAt(int hour, int minute, const char* latitude = "28.40N") {
-  foundation::SessionTable session;
-  session.Current().LatitudeText = latitude;
-  session.Current().LongitudeText = "77.13E";
-  session.Current().ZoneMeridianText = "82.30E";
   return SceneOf(foundation::DateFromParts(2011, 3, 5) + foundation::TimeFromParts(hour, minute, 0),
-                 session);
+                 support::SessionAt(latitude, "77.13E", "82.30E"));
 }
 
 TEST(DayScene, ShowsTheCalendarDayAlsoBeforeSunrise) {
