@@ -61,7 +61,9 @@ struct Layout {
   std::int64_t height = 0;
   bool topDown = false;
 
-  std::size_t Stride() const { return (static_cast<std::size_t>(width) * bytesPerPixel + 3) & ~3U; }
+  std::size_t Stride() const {
+    return (static_cast<std::size_t>(width) * bytesPerPixel + 3) & ~std::size_t{3};
+  }
 };
 
 Layout LayoutOf(std::string_view bytes) {

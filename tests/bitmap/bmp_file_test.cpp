@@ -63,6 +63,7 @@ TEST_F(BmpFile, IsRefusedWhereItIsAnotherKindOrCut) {
       {18, "\0"s},
       {18, "\xFF\xFF\xFF\x7F"},
       {18, "\xFF\xFF\xFF\xFF"},
+      {18, "\0\0\0\x40\2\0\0\0\1\0\x20"s},  // rows of 4 GiB
       {22, "\3"},
       {22, "\0\0\0\x80"s}};
   for (const auto& [at, change] : changes) {
