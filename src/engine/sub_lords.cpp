@@ -64,7 +64,7 @@ std::string DegreesText(int seconds) {
 
 SubSubRows FillSubSubTable() {
   using foundation::NumberText;
-  SubSubRows rows;
+  SubSubRows rows{};  // clang 14 breaks off at "rows;"
   int row = 0;
   int thirds = 0;  // of a second: a part of a part is 10/3 seconds times both lords' years
   for (int star = 0; star < kLords; ++star) {

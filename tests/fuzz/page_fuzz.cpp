@@ -1,0 +1,25 @@
+// Any bytes at all as the file of a page: what is loaded is saved and loaded as the same picture,
+// or an Error.
+
+#include <variant>
+
+#include "fuzz/fuzz.h"
+#include "report/page_files.h"
+#include "support/app_folder.h"
+
+namespace {
+
+forms::Raster DotsOf(const forms::PicturePtr& page) {
+  return *std::get<forms::Dots>(page->items.at(0)).raster;
+}
+
+}  // namespace
+
+void fuzz::Run(const std::string& bytes) {
+  static const support::AppFolderScope folder;
+  folder.Write("temp/prv1.tmp", bytes);
+  forms::Raster dots = DotsOf(report::LoadPage(1));
+  dots.dotsPerInch = 96;
+  report::SavePage(2, dots);
+  fuzz::Require(DotsOf(report::LoadPage(2)).rgb == dots.rgb);
+}
