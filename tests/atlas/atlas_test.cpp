@@ -7,6 +7,7 @@
 #include "forms/item_list.h"
 #include "foundation/files.h"
 #include "support/app_folder.h"
+#include "support/full_disk.h"
 #include "support/machine_fakes.h"
 
 namespace atlas {
@@ -180,6 +181,15 @@ TEST_F(Atlas, StaysSilentWhereItCannotReadOrWrite) {
   atlas_.AddPlace("../outside", kBombay);
   EXPECT_EQ(Lines("India"), "|" + kBombayLine);
   EXPECT_FALSE(std::filesystem::exists(folder_.path / "outside.city"));
+}
+
+TEST_F(Atlas, LosesLinesThatAFullDiskDoesNotTake) {
+  WriteCountry("India", {kBombayLine, kDelhiLine});
+  {
+    const support::FullDiskScope full(kAgraLine.size() + 2);
+    atlas_.EditPlace("India", kBombay, kAgra);
+  }
+  EXPECT_EQ(Lines("India"), "|" + kAgraLine);
 }
 
 TEST_F(Atlas, HoldsTheCountryChosenLast) {

@@ -7,6 +7,7 @@
 #include "report/page_files.h"
 #include "report/reporting.h"
 #include "support/errors.h"
+#include "support/full_disk.h"
 
 namespace report {
 namespace {
@@ -186,6 +187,13 @@ TEST(PageFiles, StaySilentWhereTheyCannotBeWritten) {
   reporting.preview.CreateTMPfile(1, box);
   reporting.preview.KillAllTmpFile();
   EXPECT_ERROR(FileNotFound, LoadPage(1));
+
+  std::filesystem::remove(reporting.folder.path / "temp");
+  {
+    const support::FullDiskScope full(58);
+    reporting.preview.CreateTMPfile(1, box);
+  }
+  EXPECT_ERROR(InvalidCall, LoadPage(1));  // it is there in part
 }
 
 }  // namespace
