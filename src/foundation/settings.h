@@ -2,10 +2,15 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string>
 #include <string_view>
 
 namespace foundation {
+
+struct Setting {
+  std::string_view key, value;
+};
 
 // Text values under an application, a section and a key; sections that differ in case differ.
 class Settings {
@@ -15,8 +20,15 @@ class Settings {
   // The value as the store holds it now, other processes' changes included; or the default.
   virtual std::string GetSetting(std::string_view application, std::string_view section,
                                  std::string_view key, std::string_view fallback) = 0;
-  virtual void SaveSetting(std::string_view application, std::string_view section,
-                           std::string_view key, std::string_view value) = 0;
+  // All of them, or none: FileAccess where the store cannot be written.
+  virtual void SaveSettings(std::string_view application, std::string_view section,
+                            std::span<const Setting> settings) = 0;
+
+  void SaveSetting(std::string_view application, std::string_view section, std::string_view key,
+                   std::string_view value) {
+    const Setting setting = {key, value};
+    SaveSettings(application, section, {&setting, 1});
+  }
 };
 
 inline constexpr std::string_view kPlaceSection = "settings";

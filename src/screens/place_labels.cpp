@@ -16,10 +16,11 @@ void ShowDefaultPlace(foundation::Settings& settings, const PlaceLabels& labels)
 }
 
 void SaveDefaultPlace(foundation::Settings& settings, const PlaceLabels& labels) {
+  std::array<foundation::Setting, foundation::kPlaceSettings.size()> place;
   for (std::size_t i = 0; i < labels.size(); ++i) {
-    settings.SaveSetting(foundation::kProgramName, foundation::kPlaceSection,
-                         foundation::kPlaceSettings[i].key, labels[i]->caption);
+    place[i] = {foundation::kPlaceSettings[i].key, labels[i]->caption};
   }
+  settings.SaveSettings(foundation::kProgramName, foundation::kPlaceSection, place);
 }
 
 void CopyPlace(const PlaceLabels& labels, foundation::SessionRecord& record) {

@@ -26,9 +26,9 @@ struct FakeSettings : foundation::Settings {
     const auto found = values.find(Entry(application, section, key));
     return found == values.end() ? std::string(fallback) : found->second;
   }
-  void SaveSetting(std::string_view application, std::string_view section, std::string_view key,
-                   std::string_view value) override {
-    values[Entry(application, section, key)] = value;
+  void SaveSettings(std::string_view application, std::string_view section,
+                    std::span<const foundation::Setting> settings) override {
+    for (const auto& [key, value] : settings) values[Entry(application, section, key)] = value;
   }
 };
 

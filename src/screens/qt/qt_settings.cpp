@@ -1,5 +1,10 @@
 #include "screens/qt/qt_settings.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QMap>
+#include <QTemporaryFile>
+
 #include "foundation/error.h"
 #include "screens/qt/qt_painting.h"
 
@@ -8,6 +13,19 @@ namespace {
 
 QString Entry(std::string_view section, std::string_view key) {
   return ToQt(section) + u'/' + ToQt(key);
+}
+
+// The toolkit takes a file that was written in part for a whole one, and puts it over the former
+// file. FileAccess, with that file as it was, where a disk is all but full.
+void RequireRoomFor(const QFileInfo& file) {
+  constexpr qint64 kSpare = 65536;  // for what is saved, a lock, and the blocks of the disk
+  const QDir folder = file.absoluteDir();
+  QTemporaryFile trial(folder.filePath(QStringLiteral("trial-XXXXXX")));
+  const QByteArray bytes(file.size() + kSpare, ' ');
+  if (!folder.mkpath(QStringLiteral(".")) || !trial.open() || trial.write(bytes) != bytes.size() ||
+      !trial.flush()) {
+    throw foundation::Error(foundation::ErrorKind::FileAccess);
+  }
 }
 
 }  // namespace
@@ -34,21 +52,27 @@ std::string QtSettings::GetSetting(std::string_view application, std::string_vie
   return value.toStringList().join(QStringLiteral(", ")).toStdString();
 }
 
-void QtSettings::SaveSetting(std::string_view application, std::string_view section,
-                             std::string_view key, std::string_view value) {
+void QtSettings::SaveSettings(std::string_view application, std::string_view section,
+                              std::span<const foundation::Setting> settings) {
   QSettings& store = StoreOf(application);
-  const QString entry = Entry(section, key);
-  const QVariant before = store.value(entry);
-  store.setValue(entry, ToQt(value));
+  RequireRoomFor(QFileInfo(store.fileName()));
+  QMap<QString, QVariant> before;
+  for (const auto& [key, value] : settings) {
+    const QString entry = Entry(section, key);
+    before.insert(entry, store.value(entry));
+    store.setValue(entry, ToQt(value));
+  }
   store.sync();
   // A file with a line that cannot be read is written all the same.
   if (store.status() != QSettings::AccessError) return;
 
   // What was not saved is not shown either; and the next try gets an object without this error.
-  if (before.isValid()) {
-    store.setValue(entry, before);
-  } else {
-    store.remove(entry);
+  for (auto entry = before.cbegin(); entry != before.cend(); ++entry) {
+    if (entry->isValid()) {
+      store.setValue(entry.key(), *entry);
+    } else {
+      store.remove(entry.key());
+    }
   }
   stores_.erase(stores_.find(application));
   throw foundation::Error(foundation::ErrorKind::FileAccess);

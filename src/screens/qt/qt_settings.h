@@ -15,9 +15,8 @@ class QtSettings : public foundation::Settings {
  public:
   std::string GetSetting(std::string_view application, std::string_view section,
                          std::string_view key, std::string_view fallback) override;
-  // FileAccess where the file cannot be written.
-  void SaveSetting(std::string_view application, std::string_view section, std::string_view key,
-                   std::string_view value) override;
+  void SaveSettings(std::string_view application, std::string_view section,
+                    std::span<const foundation::Setting> settings) override;
 
  private:
   QSettings& StoreOf(std::string_view application);

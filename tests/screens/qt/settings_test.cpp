@@ -6,6 +6,7 @@
 #include "foundation/version.h"
 #include "screens/qt/qt_settings.h"
 #include "support/errors.h"
+#include "support/full_disk.h"
 
 namespace screens::qt {
 namespace {
@@ -58,6 +59,19 @@ TEST_F(SettingsStore, IsWrittenInSpiteOfALineThatCannotBeRead) {
   settings_.SaveSetting(kApp, "settings", "city", "Mumbai");
   EXPECT_EQ(QtSettings().GetSetting(kApp, "settings", "city", ""), "Mumbai");
   EXPECT_EQ(QtSettings().GetSetting(kApp, "settings", "lat", ""), "25.20N");
+}
+
+TEST_F(SettingsStore, StaysWholeOnAFullDisk) {
+  settings_.SaveSetting(kApp, "settings", "city", "Delhi");
+  const std::string longName(1000, 'x');
+  const foundation::Setting place[] = {{"city", "Agra"}, {"country", longName}};
+  {
+    const support::FullDiskScope full(200);
+    EXPECT_ERROR(FileAccess, settings_.SaveSettings(kApp, "settings", place));
+  }
+  EXPECT_EQ(settings_.GetSetting(kApp, "settings", "city", ""), "Delhi");
+  EXPECT_EQ(QtSettings().GetSetting(kApp, "settings", "city", ""), "Delhi");
+  EXPECT_EQ(QtSettings().GetSetting(kApp, "settings", "country", "none"), "none");
 }
 
 TEST_F(SettingsStore, TellsThatItCannotBeWritten) {
