@@ -18,7 +18,7 @@ QString Entry(std::string_view section, std::string_view key) {
 // The toolkit takes a file that was written in part for a whole one, and puts it over the former
 // file. FileAccess, with that file as it was, where a disk is all but full.
 void RequireRoomFor(const QFileInfo& file) {
-  constexpr qint64 kSpare = 65536;  // for what is saved, a lock, and the blocks of the disk
+  constexpr qint64 kSpare = 16384;  // for what is saved, a lock, and the blocks of the disk
   const QDir folder = file.absoluteDir();
   QTemporaryFile trial(folder.filePath(QStringLiteral("trial-XXXXXX")));
   const QByteArray bytes(file.size() + kSpare, ' ');
