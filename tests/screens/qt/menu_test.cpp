@@ -12,8 +12,10 @@
 #include <QTimer>
 #include <QWheelEvent>
 
+#include "atlas/modEncDec.h"
 #include "screens/qt/application.h"
 #include "screens/timetable.h"
+#include "support/app_folder.h"
 
 namespace screens::qt {
 namespace {
@@ -71,6 +73,45 @@ TEST_F(WholeProgram, ShowsASavedPlaceOnTheDashboard) {
       ->click();
   program.dashboard.Timer1_Timer();
   EXPECT_EQ(program.dashboard.lblCity.caption, "Ujjain(Madhya Pradesh)");
+}
+
+// A report of a year is made; within it the picker loads; and at each turn of both a second passes.
+TEST_F(WholeProgram, TicksOnWhileAReportIsMadeAndThePickerLoads) {
+  const support::AppFolderScope folder;
+  const foundation::ByteText ujjain("Ujjain,Ujjain,,India,23.11,N,75.46,E");
+  const std::string line = atlas::EncodeText(ujjain, atlas::kAtlasKey).Bytes() + "\r\n";
+  std::string places;
+  for (int i = 0; i < 300; ++i) places += line;
+  folder.Write("atlas/India.city", places);
+
+  support::FakeClock clock;
+  clock.now = foundation::DateFromParts(2011, 3, 5);
+  Program program(clock);
+  program.Start();
+  frmDurvela& timetable = program.Timetable();
+  program.host.Show(timetable);
+  timetable.DT1.moment = foundation::DateFromParts(2011, 1, 1);
+  timetable.DT2.moment = foundation::DateFromParts(2011, 12, 31);
+
+  int ticks = 0;
+  QTimer second;
+  QObject::connect(&second, &QTimer::timeout, [&] {
+    clock.now += foundation::TimeFromParts(0, 0, 1);
+    program.dashboard.Timer1_Timer();
+    ++ticks;
+  });
+  second.start(0);
+  QTimer::singleShot(0, [&] { program.Picker().Load("India", "Ujjain", timetable); });
+  timetable.cmdPreview_Click();
+  second.stop();
+
+  EXPECT_GE(ticks, 365 + 300);
+  EXPECT_EQ(program.dashboard.lblTime.caption, std::to_string(ticks / 3600) + ":" +
+                                                   std::to_string(ticks / 60 % 60) + ":" +
+                                                   std::to_string(ticks % 60));
+  EXPECT_EQ(program.Picker().lstCity.items->ListCount(), 300);
+  EXPECT_EQ(program.Preview().cmbPage.items->ListCount(), 12);
+  EXPECT_NE(program.Preview().PIC.picture, nullptr);
 }
 
 struct RecordingHost : QtHost {
