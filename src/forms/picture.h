@@ -102,4 +102,7 @@ inline RasterPtr DotsOf(const Picture& picture) {
   return dots == nullptr ? nullptr : dots->raster;
 }
 
+// Its lettering as it was drawn: a blank between texts on the same line, else a new line.
+std::string WordsOf(const Picture& picture);
+
 }  // namespace forms

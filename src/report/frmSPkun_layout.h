@@ -21,7 +21,8 @@ inline constexpr float kPanelGap = 200;    // twips, between panel and page
 inline constexpr int kSlideInterval = 10;  // milliseconds
 
 inline Properties ToolBar() {
-  return {.place = At(0, 0, kWidth, kToolHeight), .backColour = palette::kEarth};
+  return {
+      .place = At(0, 0, kWidth, kToolHeight), .spokenName = "Tools", .backColour = palette::kEarth};
 }
 
 inline Properties ToolButton(forms::Control& bar, float left, float width, std::string_view caption,
@@ -68,6 +69,7 @@ inline Properties Slogan(forms::Control& bar) {
 
 inline Properties SidePanel() {
   return {.place = At(0, kToolHeight, kPanelWidth, kHeight - kToolHeight),
+          .spokenName = "List of pages",
           .backColour = palette::kPaper,
           .borderColour = palette::kRule};
 }
@@ -97,6 +99,7 @@ inline Properties PageList(forms::Control& panel) {
 
 inline Properties Desk() {
   return {.place = At(kPanelWidth, kToolHeight, kWidth - kPanelWidth, kHeight - kToolHeight),
+          .spokenName = "Desk",
           .backColour = palette::kDesk};
 }
 

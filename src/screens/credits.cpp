@@ -54,10 +54,4 @@ forms::PicturePtr CreditsPicture() {
   return picture;
 }
 
-std::string CreditsText() {
-  std::string text;
-  for (const CreditLine& line : kLines) text.append(line.text).append("\n");
-  return text;
-}
-
 }  // namespace screens

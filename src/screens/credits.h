@@ -1,16 +1,11 @@
 // Whose work Durvela is made with.
 #pragma once
 
-#include <string>
-
 #include "forms/picture.h"
 
 namespace screens {
 
 // A strip 472 wide, a line of text below the other.
 forms::PicturePtr CreditsPicture();
-
-// The same, to be read aloud.
-std::string CreditsText();
 
 }  // namespace screens

@@ -45,6 +45,7 @@ inline Properties Version() {
 
 inline Properties CreditsWindow() {
   return {.place = {24 * kTwipsPerPixel, 120 * kTwipsPerPixel, 472 * kTwipsPerPixel, kCreditsTop},
+          .spokenName = "Credits",
           .backColour = palette::kPaper,
           .borderColour = palette::kRule};
 }
@@ -54,7 +55,6 @@ inline Properties Credits(forms::Control& window) {
   return {.container = &window,
           .place = {0, 8 * kTwipsPerPixel, static_cast<float>(picture->width) * kTwipsPerPixel,
                     static_cast<float>(picture->height) * kTwipsPerPixel},
-          .spokenName = CreditsText(),
           .picture = picture};
 }
 

@@ -98,6 +98,7 @@ inline Properties Button(float left, float top, float width, std::string_view ca
 
 inline Properties Frame() {
   return {.place = At(kFrameLeft, kFrameTop, kFrameWidth, kFrameHeight),
+          .spokenName = "Quick View",
           .backColour = palette::kPaper,
           .borderColour = palette::kRule};
 }

@@ -20,7 +20,7 @@ inline constexpr float kHeight = 560;
 
 // Places and sizes below are logical pixels, font sizes points.
 inline Properties Background() {
-  return {.place = At(0, 0, kWidth, kHeight)};
+  return {.place = At(0, 0, kWidth, kHeight), .spokenName = "Today in eight parts"};
 }
 
 inline Properties Card() {

@@ -67,13 +67,16 @@ InformationScreen::InformationScreen(const InformationPage& page, forms::FormHos
 }
 
 void InformationScreen::AddPictures(const std::vector<Period>& periods) {
-  const auto add = [&](const char* box, float y, const forms::PicturePtr& drawn) {
+  const auto add = [&](const char* box, const char* spokenName, float y,
+                       const forms::PicturePtr& drawn) {
     const auto height = static_cast<float>(drawn->height);
     AddControl(forms::Kind::PictureBox, box,
-               {.place = At(kPictureLeft, y, kPictureWidth, height), .picture = drawn});
+               {.place = At(kPictureLeft, y, kPictureWidth, height),
+                .spokenName = spokenName,
+                .picture = drawn});
   };
-  add("Day", 92, SampleDay(periods));
-  add("Week", 320, WeekdayTable(periods));
+  add("Day", "A day in eight parts", 92, SampleDay(periods));
+  add("Week", "The part of each weekday", 320, WeekdayTable(periods));
 }
 
 void InformationScreen::Form_Load() {

@@ -3,37 +3,102 @@
 #include <QAccessibleWidget>
 
 #include "screens/qt/control_widget.h"
+#include "screens/qt/form_window.h"
+#include "screens/qt/qt_painting.h"
 
 namespace screens::qt {
 namespace {
 
-QAccessible::Role RoleOf(const forms::Control& control) {
-  if (control.look == forms::Look::Tile) return QAccessible::Button;
-  return control.kind == forms::Kind::Label ? QAccessible::StaticText : QAccessible::Graphic;
+bool HasChildren(const QWidget& widget) {
+  return widget.findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
 }
 
-// Takes its name from the widget, which follows the caption; a tile can be pressed.
-class AccessibleControl : public QAccessibleWidget {
+// There to be seen alone: a shape, a line, a picture without words.
+bool IsDecoration(QWidget& widget) {
+  const auto* painted = qobject_cast<ControlWidget*>(&widget);
+  return painted != nullptr && painted->Model().kind != forms::Kind::Label &&
+         !HasChildren(widget) &&
+         QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name).isEmpty();
+}
+
+// A widget whose decorations are not told.
+class AccessibleContainer : public QAccessibleWidget {
  public:
-  explicit AccessibleControl(ControlWidget* widget)
-      : QAccessibleWidget(widget, RoleOf(widget->Model())) {}
+  using QAccessibleWidget::QAccessibleWidget;
+
+  int childCount() const override { return static_cast<int>(Told().size()); }
+
+  QAccessibleInterface* child(int index) const override {
+    return QAccessible::queryAccessibleInterface(Told().value(index));
+  }
+
+  int indexOfChild(const QAccessibleInterface* child) const override {
+    return static_cast<int>(Told().indexOf(qobject_cast<QWidget*>(child->object())));
+  }
+
+ private:
+  QList<QWidget*> Told() const {
+    QList<QWidget*> told;
+    for (QWidget* child : widget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+      if (!child->isWindow() && !IsDecoration(*child)) told.append(child);
+    }
+    return told;
+  }
+};
+
+class AccessibleForm : public AccessibleContainer {
+ public:
+  using AccessibleContainer::AccessibleContainer;
+
+  QAccessible::Role role() const override {
+    return widget()->isModal() ? QAccessible::Dialog : QAccessible::Window;
+  }
+};
+
+// Takes its name from the widget, which follows the caption; a picture tells its words, a tile can
+// be pressed.
+class AccessibleControl : public AccessibleContainer {
+ public:
+  using AccessibleContainer::AccessibleContainer;
+
+  QAccessible::Role role() const override {
+    const forms::Control& control = Painted().Model();
+    if (control.look == forms::Look::Tile) return QAccessible::Button;
+    if (control.kind == forms::Kind::Label) return QAccessible::StaticText;
+    return HasChildren(Painted()) ? QAccessible::Grouping : QAccessible::Graphic;
+  }
+
+  // The words of a picture describe it, or name it where it has no name.
+  QString text(QAccessible::Text kind) const override {
+    const QString told = AccessibleContainer::text(kind);
+    const forms::PicturePtr& picture = Painted().Model().picture;
+    const auto where =
+        widget()->accessibleName().isEmpty() ? QAccessible::Name : QAccessible::Description;
+    return picture && kind == where ? ToQt(forms::WordsOf(*picture)) : told;
+  }
 
   QStringList actionNames() const override {
-    QStringList names = QAccessibleWidget::actionNames();
+    QStringList names = AccessibleContainer::actionNames();
     if (role() == QAccessible::Button && widget()->isEnabled()) names.prepend(pressAction());
     return names;
   }
 
+  // Who asks for a press does not wait until the window that it opens is closed.
   void doAction(const QString& name) override {
     if (name == pressAction() && actionNames().contains(name)) {
-      static_cast<ControlWidget*>(widget())->Click();
+      QMetaObject::invokeMethod(
+          widget(), [painted = &Painted()] { painted->Click(); }, Qt::QueuedConnection);
     } else {
-      QAccessibleWidget::doAction(name);
+      AccessibleContainer::doAction(name);
     }
   }
+
+ private:
+  ControlWidget& Painted() const { return *static_cast<ControlWidget*>(widget()); }
 };
 
 QAccessibleInterface* Describe(const QString&, QObject* object) {
+  if (auto* window = qobject_cast<FormWindow*>(object)) return new AccessibleForm(window);
   auto* widget = qobject_cast<ControlWidget*>(object);
   return widget ? new AccessibleControl(widget) : nullptr;
 }

@@ -17,7 +17,7 @@ constexpr int kArrowInset = 14;  // pixels from the right edge to its middle
 }  // namespace
 
 ComboBoxWidget::ComboBoxWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
-    : QComboBox(parent), ControlView(control, std::move(dispatch)) {
+    : QComboBox(parent), ControlView(control, std::move(dispatch)), name_(new QLabel(parent)) {
   setMaxVisibleItems(kEntriesShown);
   setItemDelegate(new QStyledItemDelegate(this));  // takes the rows' height from the style sheet
   control_.items->onEntriesChanged = [self = QPointer(this)] {
@@ -25,6 +25,8 @@ ComboBoxWidget::ComboBoxWidget(forms::Control& control, Dispatch dispatch, QWidg
   };
   connect(this, &QComboBox::activated, this,
           [this](int index) { dispatch_([this, index] { forms::Choose(control_, index); }); });
+  name_->setBuddy(this);
+  name_->hide();
   Mirror();
 }
 
@@ -38,6 +40,7 @@ void ComboBoxWidget::Mirror() {
   const forms::Properties& now = control_;
   Dress(*this, control_, PlaceInPixels(control_));
   setFont(ToQt(now.font));
+  name_->setText(accessibleName());
 }
 
 // The style leaves the arrow to us.

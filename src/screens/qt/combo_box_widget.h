@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QLabel>
 
 #include "screens/qt/control_view.h"
 
@@ -21,6 +22,7 @@ class ComboBoxWidget : public QComboBox, public ControlView {
   void wheelEvent(QWheelEvent*) override;
 
  private:
+  QLabel* name_;  // for assistive programs, which are told what is chosen in place of a name
   bool entriesChanged_ = true;
 };
 

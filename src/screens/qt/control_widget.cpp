@@ -70,6 +70,7 @@ void ControlWidget::Mirror() {
   if (!TakeProperties()) return;
   const forms::Properties& now = control_;
   Dress(*this, control_, Geometry(control_));
+  if (control_.kind == forms::Kind::Label) setVisible(now.visible && !now.caption.empty());
   setCursor(now.grabCursor                  ? Qt::ClosedHandCursor
             : now.handCursor && now.enabled ? Qt::PointingHandCursor
                                             : Qt::ArrowCursor);

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
@@ -108,21 +107,6 @@ TEST_F(DashboardWindow, OpensMenuItemsByMouseAndKeyboard) {
   EXPECT_EQ(QApplication::focusWidget(), tile);  // the only item that opens anything
   Press(tile, Qt::Key_Return);
   EXPECT_EQ(opened, 2);
-}
-
-TEST_F(DashboardWindow, GivesAssistiveProgramsItsItemsAndFigures) {
-  QAccessibleInterface* tile =
-      QAccessible::queryAccessibleInterface(Widget(dashboard_.form.PIC[0]));
-  ASSERT_NE(tile, nullptr);
-  EXPECT_EQ(tile->role(), QAccessible::Button);
-  EXPECT_EQ(tile->text(QAccessible::Name), QStringLiteral("What is Durvela"));
-  EXPECT_TRUE(tile->state().disabled);
-  QAccessibleInterface* clock =
-      QAccessible::queryAccessibleInterface(Widget(dashboard_.form.lblTime));
-  EXPECT_EQ(clock->text(QAccessible::Name), QStringLiteral("12:0:0"));
-  dashboard_.form.lblTime.caption = "12:0:1";
-  window_->Mirror();
-  EXPECT_EQ(clock->text(QAccessible::Name), QStringLiteral("12:0:1"));
 }
 
 }  // namespace
