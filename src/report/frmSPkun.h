@@ -108,6 +108,7 @@ class frmSPkun : public forms::Form {
   const std::string& PageTitle(int number) const;
   void DrawDirectly(std::int16_t PageNum, forms::DrawingTarget& target);
   void PaintForm(forms::Form& page, double X, double Y);
+  void OpenPanel(bool open);
   void ResizePanel(float width);
   void LayOut();
   void SetOrientation();

@@ -37,6 +37,11 @@ void frmSPkun::HScroll1_Change() {
 }
 
 void frmSPkun::Form_KeyDown(forms::KeyPress& press) {
+  if (press.key == forms::Key::Escape) {
+    services_.host.Unload(*this);
+    press.handled = true;
+    return;
+  }
   const int step = press.key == forms::Key::Up     ? -kKeyStep
                    : press.key == forms::Key::Down ? kKeyStep
                                                    : 0;
@@ -78,15 +83,23 @@ void frmSPkun::PIC_MouseUp() {
 void frmSPkun::cmdHide_Click() {
   Timer1.enabled = true;
   Timer2.enabled = false;
-  cmdHide.visible = false;
-  cmdShow.visible = true;
+  OpenPanel(false);
 }
 
 void frmSPkun::cmdShow_Click() {
   Timer2.enabled = true;
   Timer1.enabled = false;
-  cmdHide.visible = true;
-  cmdShow.visible = false;
+  OpenPanel(true);
+}
+
+// The keyboard does not stay behind on what goes out of sight.
+void frmSPkun::OpenPanel(bool open) {
+  cmdHide.visible = lstPage.tabStop = open;
+  cmdShow.visible = !open;
+  forms::Control& gone = open ? cmdShow : cmdHide;
+  if (activeControl == &gone || (activeControl == &lstPage && !open)) {
+    activeControl = open ? &cmdHide : &cmdShow;
+  }
 }
 
 void frmSPkun::Timer1_Timer() {
@@ -117,8 +130,7 @@ void frmSPkun::Form_Load() {
   scaleHeight = preview_layout::kHeight * kTwips;
   windowState = forms::WindowState::Normal;
   Timer1.enabled = Timer2.enabled = false;
-  cmdHide.visible = true;
-  cmdShow.visible = false;
+  OpenPanel(true);
   ResizePanel(preview_layout::kPanelWidth * kTwips);
   activeControl = &cmbPage;
   LayOut();

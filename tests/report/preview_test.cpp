@@ -95,8 +95,11 @@ TEST_F(Preview, LaysItselfOutAndScrolls) {
 
 TEST_F(Preview, SlidesItsPanelInAndOut) {
   const float open = preview_.picLeft.place.width;
+  preview_.activeControl = &preview_.cmdHide;
   preview_.cmdHide.onClick();
   EXPECT_TRUE(preview_.cmdShow.visible);
+  EXPECT_EQ(preview_.activeControl, &preview_.cmdShow);
+  EXPECT_FALSE(preview_.lstPage.tabStop);
   int ticks = 0;
   for (; preview_.Timer1.enabled && ticks < 100; ++ticks) preview_.Timer1.onTimer();
   EXPECT_GT(ticks, 10);

@@ -26,7 +26,7 @@ QString InputStyle() {
              " border: 1px solid %3; border-radius: 10px; padding: 0 6px;"
              " selection-background-color: %4; }"
              "screens--qt--TextBoxWidget:focus, QComboBox:focus, QDateTimeEdit:focus,"
-             " QListView:focus { border: 2px solid %4; }"
+             " QListView:focus { border: 2px solid %6; }"
              "screens--qt--TextBoxWidget:focus, QComboBox:focus, QDateTimeEdit:focus"
              " { padding: 0 5px; }"
              "QDateTimeEdit QLineEdit { background: transparent; border: none; }"
@@ -39,7 +39,7 @@ QString InputStyle() {
              " selection-background-color: %4; selection-color: %2; }"
              "QListView:focus { padding: 0; }")
       .arg(Name(palette::kPaper), Name(palette::kInk), Name(palette::kRule), Name(palette::kGold),
-           Name(palette::kGoldOnPaper));
+           Name(palette::kGoldOnPaper), Name(palette::kFocus));
 }
 
 // A groove with a darker thumb, without buttons at its ends.
@@ -51,10 +51,22 @@ QString ScrollBarStyle() {
              "QScrollBar::handle:vertical { min-height: 28px; }"
              "QScrollBar::handle:horizontal { min-width: 28px; }"
              "QScrollBar::handle:hover { background: %3; }"
+             "QScrollBar:focus { border: 2px solid %4; }"
+             "QScrollBar::handle:focus { background: %3; margin: 0; border-radius: 3px; }"
              "QScrollBar::handle:disabled { background: transparent; }"
              "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }"
              "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }")
-      .arg(Name(palette::kGroove), Name(palette::kThumb), Name(palette::kQuiet));
+      .arg(Name(palette::kGroove), Name(palette::kThumb), Name(palette::kQuiet),
+           Name(palette::kFocus));
+}
+
+// Windows of the toolkit's own: the calendar, boxes and their buttons.
+QString OthersStyle() {
+  return QStringLiteral(
+             "QCalendarWidget > QWidget { border: 1px solid %1; }"
+             "QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }"
+             "QDialogButtonBox QPushButton { min-width: 72px; min-height: 28px; }")
+      .arg(Name(palette::kRule));
 }
 
 }  // namespace
@@ -81,8 +93,11 @@ void DressApplication() {
   colours.setColor(QPalette::Highlight, ToQt(palette::kGold));
   colours.setColor(QPalette::ToolTipBase, ToQt(palette::kPaper));
   colours.setColor(QPalette::PlaceholderText, ToQt(palette::kQuiet));
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    colours.setColor(QPalette::Disabled, role, ToQt(palette::kQuiet));
+  }
   QApplication::setPalette(colours);
-  qApp->setStyleSheet(InputStyle() + ScrollBarStyle() + ButtonStyle());
+  qApp->setStyleSheet(InputStyle() + ScrollBarStyle() + ButtonStyle() + OthersStyle());
 
   InstallAccessibility();
   foundation::SetUserNames(SystemNames());

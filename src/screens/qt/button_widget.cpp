@@ -67,10 +67,11 @@ QString ButtonStyle() {
              "QPushButton[look=onEarth]:hover { background: %6; }"
              "QPushButton[look=onEarth]:pressed { background: %7; }"
              "QPushButton[look=onEarth]:focus { border: 2px solid %1; }"
-             "QPushButton[look=flat] { border: none; }")
+             "QPushButton[look=flat] { border: none; }"
+             "QPushButton[look=flat]:focus { border: 2px solid %8; }")
              .arg(name(palette::kGold), name(palette::kRule), name(palette::kQuiet),
                   name(palette::kCream), name(palette::kFaintOnEarth), name(palette::kHill),
-                  name(palette::kNight));
+                  name(palette::kNight), name(palette::kFocus));
 }
 
 }  // namespace screens::qt

@@ -22,7 +22,9 @@ QSize ToPixels(float width, float height) {
   return {screens::qt::ToPixels(width), screens::qt::ToPixels(height)};
 }
 
+// A key together with Alt or Ctrl is the toolkit's own.
 forms::Key KeyOf(const QKeyEvent& event) {
+  if (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) return forms::Key::Other;
   switch (event.key()) {
     case Qt::Key_Up:
       return forms::Key::Up;
@@ -104,10 +106,18 @@ void FormWindow::Mirror() {
   MirrorBackground();
   MirrorSize();
   MirrorPosition();
-  for (ControlView* view : views_) view->Mirror();
+  MirrorControls();
   for (SecondTimer* timer : timers_) timer->Mirror();
   MirrorState();
   MirrorFocus();
+}
+
+// A control that is hidden passes the focus on, wherever the form wants it.
+void FormWindow::MirrorControls() {
+  forms::Control* const wanted = form_.activeControl;
+  const bool moved = wanted != shownFocus_;
+  for (ControlView* view : views_) view->Mirror();
+  if (moved) form_.activeControl = wanted;
 }
 
 void FormWindow::MirrorBackground() {

@@ -47,6 +47,7 @@ class FormWindow : public QWidget {
  private:
   // Runs a handler of the form, if there is one, and then mirrors.
   void Dispatch(const std::function<void()>& handler);
+  void MirrorControls();
   void MirrorBackground();
   void MirrorSize();
   void MirrorPosition();

@@ -1,7 +1,9 @@
 #include "screens/qt/picker_widget.h"
 
 #include <QCalendarWidget>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QTextCharFormat>
 #include <QWheelEvent>
@@ -76,6 +78,21 @@ void PickerWidget::paintEvent(QPaintEvent* event) {
     PaintArrow(painter, {x, middle - 5}, -1);
     PaintArrow(painter, {x, middle + 5}, 1);
   }
+}
+
+// The toolkit drops the calendar down for the mouse alone, so its arrow is pressed for Alt and
+// Down, and for F4, as in a drop-down list.
+void PickerWidget::keyPressEvent(QKeyEvent* event) {
+  const bool drop = event->key() == Qt::Key_F4 ||
+                    (event->key() == Qt::Key_Down && event->modifiers() & Qt::AltModifier);
+  if (!drop || !calendarPopup()) {
+    QDateTimeEdit::keyPressEvent(event);
+    return;
+  }
+  const QPointF arrow(width() - kArrowInset, height() / 2.0);
+  QMouseEvent press(QEvent::MouseButtonPress, arrow, mapToGlobal(arrow), Qt::LeftButton,
+                    Qt::LeftButton, Qt::NoModifier);
+  mousePressEvent(&press);
 }
 
 // Turned only while it has the focus.

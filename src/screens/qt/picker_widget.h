@@ -18,6 +18,7 @@ class PickerWidget : public QDateTimeEdit, public ControlView {
 
  protected:
   void paintEvent(QPaintEvent*) override;
+  void keyPressEvent(QKeyEvent*) override;
   void wheelEvent(QWheelEvent*) override;
 
  private:

@@ -156,6 +156,27 @@ TEST(TimetableWindow, DrawsTheRangeThatItsPickersShow) {
   EXPECT_EQ(rows[14], "Print 4900 680 09:36:45");
 }
 
+// Which the toolkit does for the mouse alone.
+TEST(TimetableWindow, DropsTheCalendarDownByKey) {
+  ShownTimetable<QtHost> shown;
+  auto* picker = shown.window.findChild<QDateTimeEdit*>(QStringLiteral("DT1"));
+  const auto press = [](QWidget* widget, Qt::Key key, Qt::KeyboardModifiers with = {}) {
+    QKeyEvent event(QEvent::KeyPress, key, with);
+    QApplication::sendEvent(widget, &event);
+  };
+  for (const auto& [key, with] :
+       {std::pair(Qt::Key_F4, Qt::NoModifier), std::pair(Qt::Key_Down, Qt::AltModifier)}) {
+    press(picker, key, with);
+    QWidget* calendar = QApplication::activePopupWidget();
+    ASSERT_NE(calendar, nullptr);
+    const QDate before = picker->date();
+    press(calendar->focusWidget(), Qt::Key_Down);
+    EXPECT_EQ(picker->date(), before.addDays(7));
+    press(calendar->focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  }
+}
+
 // What is drawn is seen, and a move of the form moves its window.
 TEST(TimetableWindow, ShowsItsPageAndMoves) {
   ShownTimetable<QtHost> shown;
