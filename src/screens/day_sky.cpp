@@ -49,9 +49,10 @@ class SkyPainter {
     Stars();
     Hills();
     Arc();
+    if (scene_.divided) Sun();
     Earth();
     if (scene_.divided) {
-      Sun();
+      if (scene_.sun > 1) SunBelow(scene_.sun - 1);
       Times();
     } else {
       Text("Daylight is not divided here today", {centre_.x, centre_.y - 166 * y_},
@@ -133,15 +134,14 @@ class SkyPainter {
     Add(Path::Box({0, centre_.y}, picture_.width, picture_.height - centre_.y), palette::kEarth);
   }
 
+  // It rises from below the horizon, and its glow stays clear of the names along the arc.
   void Sun() {
-    if (scene_.sun > 1) {
-      SunBelow(scene_.sun - 1);
-      return;
-    }
+    if (scene_.sun > 1) return;
+    constexpr double kGlow = 38;
     const Point at = OnArc((kInnerRadius + kOuterRadius) / 2, AngleAt(scene_.sun));
-    Add(Path::Circle(at, 44 * scale_),
+    Add(Path::Circle(at, kGlow * scale_),
         forms::RadialGradient{at,
-                              44 * scale_,
+                              kGlow * scale_,
                               {{0, palette::kSun.WithOpacity(0.95)},
                                {0.35, palette::kGold.WithOpacity(0.45)},
                                {1, palette::kGold.WithOpacity(0)}}});

@@ -1,5 +1,6 @@
 #include "screens/period_pictures.h"
 
+#include <algorithm>
 #include <memory>
 
 #include "dayperiods/weekday_segments.h"
@@ -106,13 +107,17 @@ forms::PicturePtr SampleDay(const std::vector<Period>& periods) {
   const DayScene scene = SampleScene();
   auto picture = Blank(208);
   for (int segment = 1; segment <= dayperiods::kSegmentsOfDaylight; ++segment) {
-    DrawPart(*picture, segment, palette::kRule, palette::kInk);
+    const auto period = std::find_if(periods.begin(), periods.end(), [&](Period of) {
+      return TimesOf(scene, of).segment == segment;
+    });
+    const bool free = period == periods.end();
+    DrawPart(*picture, segment, free ? palette::kRule : LookOf(*period).colour,
+             free ? palette::kInk : palette::kWhite);
   }
   double line = kFoot.y - 10 - 20 * static_cast<double>(periods.size() - 1);
   for (const Period period : periods) {
     const PeriodLook& look = LookOf(period);
     const DayScene::Period& times = TimesOf(scene, period);
-    DrawPart(*picture, times.segment, look.colour, palette::kWhite);
     const std::string name = periods.size() == 1 ? std::string(look.name) + " " : "";
     Write(*picture, name + times.times, {kFoot.x, line}, Alignment::Centre, 14, look.colour, true);
     line += 20;

@@ -39,7 +39,7 @@ TEST(PeriodPictures, TellTheTableAndTheSampleDay) {
   EXPECT_EQ(WordsOf(*WeekdayTable({Period::Durvela, Period::Yum})),
             "Sun Mon Tue Wed Thu Fri Sat\nDurvela 8 2 7 5 6 4 3\nYum 5 4 3 2 8 7 6");
   EXPECT_EQ(WordsOf(*SampleDay({Period::Gulik})),
-            "1\n2\n3\n4 5\n6\n7\n8 8\nGulik 16:55 - 18:23\n06:43 18:23\nSaturday, 5-3-2011, Delhi");
+            "1\n2\n3\n4 5\n6\n7\n8\nGulik 16:55 - 18:23\n06:43 18:23\nSaturday, 5-3-2011, Delhi");
 }
 
 class About : public testing::Test {
