@@ -23,6 +23,7 @@ bool HasAnswered(std::string_view option) {
 
 int main(int argc, char** argv) {
   if (argc == 2 && HasAnswered(argv[1])) return 0;
+  screens::qt::LeaveThemeAside();
   QApplication application(argc, argv);
   screens::qt::DressApplication();
   screens::qt::Program program;

@@ -115,6 +115,7 @@ class Tour {
 }  // namespace
 
 int main(int argc, char** argv) {
+  screens::qt::LeaveThemeAside();
   QApplication application(argc, argv);
   if (argc != 2) {
     std::fprintf(stderr, "usage: durvela_tour FOLDER\n");

@@ -63,27 +63,13 @@ QString ScrollBarStyle() {
 // Windows of the toolkit's own: the calendar, boxes and their buttons.
 QString OthersStyle() {
   return QStringLiteral(
-             "QCalendarWidget > QWidget { border: 1px solid %1; }"
+             "QWidget#qt_calendar_navigationbar { background: %1; }"
              "QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }"
              "QDialogButtonBox QPushButton { min-width: 72px; min-height: 28px; }")
-      .arg(Name(palette::kRule));
+      .arg(Name(palette::kGroove));
 }
 
-}  // namespace
-
-void DressApplication() {
-  QApplication::setApplicationName(foundation::kProgramName);
-  QApplication::setApplicationVersion(QString::fromLatin1(foundation::kVersion));
-  QApplication::setDesktopFileName(QStringLiteral("org.durvela.Durvela"));
-  QApplication::setWindowIcon(ToIcon(*ProgramSign()));
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-
-  QFont font(QStringList{QStringLiteral("Noto Sans"), QStringLiteral("Lohit Devanagari"),
-                         QStringLiteral("Lohit Malayalam"), QStringLiteral("Lohit Kannada"),
-                         QApplication::font().family()});
-  font.setPixelSize(14);
-  QApplication::setFont(font);
-
+QPalette Colours() {
   QPalette colours(ToQt(palette::kRule), ToQt(palette::kPaper));
   colours.setColor(QPalette::Base, ToQt(palette::kPaper));
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
@@ -96,8 +82,35 @@ void DressApplication() {
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     colours.setColor(QPalette::Disabled, role, ToQt(palette::kQuiet));
   }
-  QApplication::setPalette(colours);
+  return colours;
+}
+
+QFont Letters() {
+  QFont font(QStringList{QStringLiteral("Noto Sans"), QStringLiteral("Lohit Devanagari"),
+                         QStringLiteral("Lohit Malayalam"), QStringLiteral("Lohit Kannada"),
+                         QApplication::font().family()});
+  font.setPixelSize(14);
+  return font;
+}
+
+}  // namespace
+
+void LeaveThemeAside() {
+  QApplication::setDesktopSettingsAware(false);
+}
+
+void DressApplication() {
+  QApplication::setApplicationName(foundation::kProgramName);
+  QApplication::setApplicationVersion(QString::fromLatin1(foundation::kVersion));
+  QApplication::setDesktopFileName(QStringLiteral("org.durvela.Durvela"));
+  QApplication::setWindowIcon(ToIcon(*ProgramSign()));
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+
+  QApplication::setPalette(Colours());
   qApp->setStyleSheet(InputStyle() + ScrollBarStyle() + ButtonStyle() + OthersStyle());
+
+  // Behind the style, which takes over the theme's fonts for widgets of the toolkit's own.
+  QApplication::setFont(Letters());
 
   InstallAccessibility();
   foundation::SetUserNames(SystemNames());

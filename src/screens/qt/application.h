@@ -18,6 +18,10 @@
 
 namespace screens::qt {
 
+// Before there is a QApplication: fonts and colours, those of a printed page too, are the program's
+// own under any theme of the desktop.
+void LeaveThemeAside();
+
 // Fonts, colours, icon and names of the whole program, for a fresh QApplication.
 void DressApplication();
 

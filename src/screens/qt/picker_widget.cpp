@@ -20,6 +20,18 @@ constexpr int kArrowInset = 14;  // from the right edge to the middle of an arro
 
 const QDate kFirstDate(100, 1, 1), kLastDate(9999, 12, 31);
 
+// With a line around it; and no day of the week is more than another.
+void DressCalendar(QCalendarWidget& calendar) {
+  QPalette colours = calendar.palette();
+  colours.setColor(QPalette::Window, ToQt(palette::kRule));
+  calendar.setPalette(colours);
+  calendar.setAutoFillBackground(true);
+  calendar.setContentsMargins(1, 1, 1, 1);
+  QTextCharFormat plain;
+  plain.setForeground(ToQt(palette::kInk));
+  for (const auto day : {Qt::Saturday, Qt::Sunday}) calendar.setWeekdayTextFormat(day, plain);
+}
+
 }  // namespace
 
 PickerWidget::PickerWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
@@ -29,13 +41,7 @@ PickerWidget::PickerWidget(forms::Control& control, Dispatch dispatch, QWidget* 
   setDateRange(kFirstDate, kLastDate);
   setDisplayFormat(date ? QStringLiteral("d/MMMM/yyyy") : QStringLiteral("hh:mm AP"));
   setCalendarPopup(date);
-  if (date) {
-    QTextCharFormat plain;  // no day of the week is more than another
-    plain.setForeground(ToQt(palette::kInk));
-    for (const auto day : {Qt::Saturday, Qt::Sunday}) {
-      calendarWidget()->setWeekdayTextFormat(day, plain);
-    }
-  }
+  if (date) DressCalendar(*calendarWidget());
   setKeyboardTracking(false);  // half a year is none
   connect(this, &QDateTimeEdit::dateTimeChanged, this, [this] {
     if (!mirroring_) dispatch_([this] { forms::SetMoment(control_, Picked()); });

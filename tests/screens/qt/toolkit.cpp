@@ -13,6 +13,7 @@ namespace {
 class Toolkit : public testing::Environment {
  public:
   void SetUp() override {
+    LeaveThemeAside();
     application_ = std::make_unique<QApplication>(argc_, argv_);
     DressApplication();
     foundation::SetUserNames(foundation::EnglishNames());
