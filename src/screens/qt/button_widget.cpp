@@ -50,7 +50,7 @@ QString ButtonStyle() {
              " border-radius: 10px; padding: 0 4px; }"
              "QPushButton:hover { background: %3; }"
              "QPushButton:pressed { background: %4; }"
-             "QPushButton:focus { border: 2px solid %5; }"
+             "QPushButton:focus { border: 2px solid %5; outline: none; }"
              "QPushButton:disabled { color: %6; border-color: %4; }"
              "QPushButton[look=primary] { background: %7; color: %8; border-color: %7; }"
              "QPushButton[look=primary]:hover { background: %9; }"
