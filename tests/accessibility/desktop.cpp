@@ -27,11 +27,10 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, Reference& refere
 namespace {
 
 constexpr int kFocusable = 11, kFocused = 12, kShowing = 25;  // bits of a state
+constexpr uint kSymbol = 3;                                   // of the ways to name a key
+constexpr uint kLabelledBy = 2;                               // of the relations
 constexpr int kEntriesRead = 3;
 constexpr int kAnswerIn = 5000;  // milliseconds
-
-constexpr uint kSymbol = 3;      // of the ways to name a key
-constexpr uint kLabelledBy = 2;  // of the relations
 
 const QString kAccessible = QStringLiteral("org.a11y.atspi.Accessible");
 const QString kRegistry = QStringLiteral("org.a11y.atspi.Registry");

@@ -62,16 +62,18 @@ class AccessibleControl : public AccessibleContainer {
   using AccessibleContainer::AccessibleContainer;
 
   QAccessible::Role role() const override {
-    const forms::Control& control = Painted().Model();
-    if (control.look == forms::Look::Tile) return QAccessible::Button;
-    if (control.kind == forms::Kind::Label) return QAccessible::StaticText;
-    return HasChildren(Painted()) ? QAccessible::Grouping : QAccessible::Graphic;
+    const ControlWidget* painted = Painted();
+    if (painted == nullptr) return QAccessible::NoRole;
+    if (painted->Model().look == forms::Look::Tile) return QAccessible::Button;
+    if (painted->Model().kind == forms::Kind::Label) return QAccessible::StaticText;
+    return HasChildren(*painted) ? QAccessible::Grouping : QAccessible::Graphic;
   }
 
   // The words of a picture describe it, or name it where it has no name.
   QString text(QAccessible::Text kind) const override {
     const QString told = AccessibleContainer::text(kind);
-    const forms::PicturePtr& picture = Painted().Model().picture;
+    const ControlWidget* painted = Painted();
+    const forms::PicturePtr picture = painted ? painted->Model().picture : nullptr;
     const auto where =
         widget()->accessibleName().isEmpty() ? QAccessible::Name : QAccessible::Description;
     return picture && kind == where ? ToQt(forms::WordsOf(*picture)) : told;
@@ -87,14 +89,15 @@ class AccessibleControl : public AccessibleContainer {
   void doAction(const QString& name) override {
     if (name == pressAction() && actionNames().contains(name)) {
       QMetaObject::invokeMethod(
-          widget(), [painted = &Painted()] { painted->Click(); }, Qt::QueuedConnection);
+          widget(), [painted = Painted()] { painted->Click(); }, Qt::QueuedConnection);
     } else {
       AccessibleContainer::doAction(name);
     }
   }
 
  private:
-  ControlWidget& Painted() const { return *static_cast<ControlWidget*>(widget()); }
+  // Null while it is being destroyed, which is told as well.
+  ControlWidget* Painted() const { return qobject_cast<ControlWidget*>(object()); }
 };
 
 QAccessibleInterface* Describe(const QString&, QObject* object) {
