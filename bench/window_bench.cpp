@@ -122,6 +122,7 @@ void NeedToolkit() {
   static char name[] = "durvela_bench";
   static char* argv[] = {name, nullptr};
   if (qApp != nullptr) return;
+  screens::qt::LeaveThemeAside();
   new QApplication(argc, argv);  // lives until the process ends
   screens::qt::DressApplication();
 }
@@ -132,6 +133,7 @@ bool IsAlone(std::string_view argument) {
 
 int RunAlone(int argc, char** argv) {
   const double made = *foundation::WholeNumber(argv[1]);
+  screens::qt::LeaveThemeAside();
   QApplication application(argc, argv);
   screens::qt::DressApplication();
   FirstPaint paint;

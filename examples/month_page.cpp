@@ -98,6 +98,7 @@ std::optional<DateTime> FirstOf(const char* year, const char* month) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  screens::qt::LeaveThemeAside();
   const QApplication application(argc, argv);
   const auto first = argc == 4 ? FirstOf(argv[1], argv[2]) : std::nullopt;
   if (!first) {

@@ -22,6 +22,7 @@
 #include "screens/period_pictures.h"
 #include "screens/qt/application.h"
 #include "support/machine_fakes.h"
+#include "support/session_at.h"
 
 namespace screens::qt {
 namespace {
@@ -81,10 +82,7 @@ void CheckLettering(const forms::Picture& picture, forms::Colour ground, const s
 }
 
 TEST(Contrast, IsEnoughOnTheSkyAtAnyHourOfTheWeek) {
-  foundation::SessionTable session;
-  session.Current().LatitudeText = "28.40N";
-  session.Current().LongitudeText = "77.13E";
-  session.Current().ZoneMeridianText = "82.30E";
+  const foundation::SessionTable session = support::Delhi();
   for (int day = 1; day <= 7; ++day) {
     DayScene scene = SceneOf(foundation::DateFromParts(2011, 3, day) + 0.5, session);
     for (const auto& [width, height] : {std::pair(840, 560), {630, 1000}, {1280, 560}}) {
