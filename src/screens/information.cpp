@@ -69,11 +69,11 @@ InformationScreen::InformationScreen(const InformationPage& page, forms::FormHos
 void InformationScreen::AddPictures(const std::vector<Period>& periods) {
   const auto add = [&](const char* box, const char* spokenName, float y,
                        const forms::PicturePtr& drawn) {
-    const auto height = static_cast<float>(drawn->height);
-    AddControl(forms::Kind::PictureBox, box,
-               {.place = At(kPictureLeft, y, kPictureWidth, height),
-                .spokenName = spokenName,
-                .picture = drawn});
+    forms::Properties properties;
+    properties.place = At(kPictureLeft, y, kPictureWidth, static_cast<float>(drawn->height));
+    properties.spokenName = spokenName;
+    properties.picture = drawn;
+    AddControl(forms::Kind::PictureBox, box, properties);
   };
   add("Day", "A day in eight parts", 92, SampleDay(periods));
   add("Week", "The part of each weekday", 320, WeekdayTable(periods));
