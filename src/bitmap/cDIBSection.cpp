@@ -13,9 +13,11 @@
 namespace bitmap {
 namespace {
 
-BITMAPINFOHEADER HeaderOf(const Pixels& pixels) {
-  const auto imageSize = static_cast<std::int32_t>(pixels.Bytes().size());
-  return {40, pixels.Width(), pixels.Height(), 1, 24, 0, imageSize};
+// The size of an image beyond 2 GiB is cut to its lowest bits.
+BITMAPINFOHEADER HeaderOf(std::int32_t width, std::int32_t height) {
+  const auto imageSize =
+      static_cast<std::uint64_t>(Pixels::StrideOf(width)) * static_cast<std::uint64_t>(height);
+  return {40, width, height, 1, 24, 0, static_cast<std::int32_t>(imageSize)};
 }
 
 forms::PicturePtr PictureOf(const Pixels& pixels) {
@@ -61,9 +63,9 @@ bool cDIBSection::Create(std::int32_t lWidth, std::int32_t lHeight) {
 }
 
 bool cDIBSection::CreateDIB(std::int32_t lWidth, std::int32_t lHeight, Pixels& hDib) {
+  header_ = HeaderOf(lWidth, lHeight);
   try {
     hDib = Pixels(lWidth, lHeight);
-    header_ = HeaderOf(hDib);
     return true;
   } catch (const foundation::Error&) {
     return false;

@@ -40,7 +40,7 @@ class cDIBSection {
   std::uint8_t* DIBSectionBitsPtr() { return pixels_.Bytes().data(); }
   const std::uint8_t* DIBSectionBitsPtr() const { return pixels_.Bytes().data(); }
 
-  // Of the bitmap made last, also after ClearUp.
+  // Of the bitmap that was asked for last, also where it could not be had, and after ClearUp.
   const BITMAPINFOHEADER& Header() const { return header_; }
   std::int32_t Width() const { return header_.width; }
   std::int32_t Height() const { return header_.height; }

@@ -84,7 +84,9 @@ int LibjpegLibrary::ijlWrite(const JpegProperties& record, JpegMode mode) {
   std::FILE* const file = std::fopen(record.JPGFile, "wb");
   if (file == nullptr) return kNoFile;
   const bool written = compressor_->Write(record, file);
-  return std::fclose(file) == 0 && written ? 0 : kFailed;
+  if (std::fclose(file) == 0 && written) return 0;
+  std::remove(record.JPGFile);  // what there is of it
+  return kFailed;
 }
 
 int LibjpegLibrary::ijlFree(JpegProperties& record) {

@@ -185,7 +185,8 @@ class PDFPrinter : public forms::DrawingTarget {
   // Vertical between points of one x, else horizontal from the first of them.
   void DrawLINE(double x1, double y1, double x2, double y2, const Argument& ignored);
   // By way of a JPEG file in the temp folder, which is gone afterwards. ObjectNotSet for no picture
-  // or without means, JpegLibraryError; one that cannot be written is left out, and the user told.
+  // or without means, JpegLibraryError; one that cannot be written is left out, and the user told
+  // twice: by SaveJPG, and as of any file that is no picture.
   void PaintPicture(const forms::PicturePtr& Picture, double x, double y, double Width1,
                     double Height1) override;
 
@@ -264,7 +265,7 @@ class PDFPrinter : public forms::DrawingTarget {
   void SetRightToLeft(bool on) override;
   void Print(std::string_view text) override;
   void Line(double x1, double y1, double x2, double y2, forms::Colour, forms::LineStyle) override;
-  bool PictureToJpegFile(const forms::Picture& Picture, const std::filesystem::path& path);
+  void PictureToJpegFile(const forms::Picture& Picture, const std::filesystem::path& path);
 
   const foundation::Clock& clock_;
   foundation::MessageBoxes& boxes_;

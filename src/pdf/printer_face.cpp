@@ -63,16 +63,16 @@ void PDFPrinter::PaintPicture(const forms::PicturePtr& Picture, double x, double
                               double Height1) {
   if (!Picture || !means_) throw foundation::Error(foundation::ErrorKind::ObjectNotSet);
   const TemporaryFile file("temp.jpg");
-  if (!PictureToJpegFile(*Picture, file.path)) return;
+  PictureToJpegFile(*Picture, file.path);
   PDFImage(file.path.string(), DecimalOf(static_cast<float>(x)), DecimalOf(static_cast<float>(y)),
            Width1, Height1, "");
 }
 
 // A picture without dots reaches the library all the same, which refuses it: the user is told.
-bool PDFPrinter::PictureToJpegFile(const forms::Picture& Picture, const fs::path& path) {
+void PDFPrinter::PictureToJpegFile(const forms::Picture& Picture, const fs::path& path) {
   bitmap::cDIBSection dib;
   dib.CreateFromPicture(Picture, means_->rasteriser);
-  return bitmap::SaveJPG(dib, path, kJpegQuality, means_->library, boxes_);
+  bitmap::SaveJPG(dib, path, kJpegQuality, means_->library, boxes_);
 }
 
 void PDFPrinter::SetCurrentX(double x) {

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "foundation/numbers.h"
 #include "foundation/resume.h"
 #include "report/display_settings.h"
 
@@ -89,11 +90,12 @@ class FormDrawing {
     });
   }
 
+  // A size of 32 bits is what its decimal text says, as a document's numbers go through texts.
   void Paint(const Control& control, const forms::PicturePtr& picture) {
     Resume([&] {
-      target_.PaintPicture(picture, BaseX(control) + control.place.left,
-                           BaseY(control) + control.place.top, control.place.width,
-                           control.place.height);
+      target_.PaintPicture(
+          picture, BaseX(control) + control.place.left, BaseY(control) + control.place.top,
+          foundation::DecimalOf(control.place.width), foundation::DecimalOf(control.place.height));
     });
   }
 

@@ -34,7 +34,7 @@ Decoded Decode(const std::filesystem::path& path) {
   jpeg_read_header(&codec, TRUE);
   jpeg_start_decompress(&codec);
   Decoded decoded = {static_cast<int>(codec.output_width), static_cast<int>(codec.output_height),
-                     codec.progressive_mode == FALSE, codec.quant_tbl_ptrs[0]->quantval[0]};
+                     file.find("\xFF\xC0") != file.npos, codec.quant_tbl_ptrs[0]->quantval[0]};
   decoded.bytes.resize(codec.output_width * codec.output_height * 3);
   while (codec.output_scanline < codec.output_height) {
     unsigned char* row = &decoded.bytes[codec.output_scanline * codec.output_width * 3];
@@ -132,6 +132,7 @@ TEST_F(SavedJpeg, TellsTheUserOfAFailure) {
   cDIBSection tooWide;
   tooWide.Create(65501, 1);
   EXPECT_FALSE(Save(tooWide, 90));
+  EXPECT_FALSE(std::filesystem::exists(path_));
   EXPECT_FALSE(Save(cDIBSection(), 90));
   EXPECT_FALSE(SaveJPG(tooWide, folder_.path / "none" / "day.jpg", 90, libjpeg_, boxes_));
   EXPECT_ERROR(FileAccess, SaveJPG(tooWide, folder_.path, 90, libjpeg_, boxes_));

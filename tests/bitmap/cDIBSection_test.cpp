@@ -46,6 +46,7 @@ TEST(DibSection, HoldsOneBitmapOrNone) {
     EXPECT_EQ(dib.Header().imageSize, stride * 2);
   }
   EXPECT_FALSE(dib.Create(65536, 65536));
+  EXPECT_EQ(dib.Width(), 65536);
   EXPECT_EQ(dib.hdc(), nullptr);
   EXPECT_FALSE(dib.Create(0, 1));
 }
