@@ -1,4 +1,4 @@
-# What Durvela needs of a Debian 12 machine. Sourced by ./run and ./test.
+# What Durvela needs of a Debian 12 machine. Sourced by every script.
 
 run_packages=(cmake g++ ninja-build qt6-base-dev qt6-wayland libjpeg62-turbo-dev fonts-noto-core
   fonts-lohit-deva fonts-lohit-mlym fonts-lohit-knda)

@@ -41,7 +41,9 @@ class clsAtlas {
   // with its number from 0 beside it; a list of 31,800 entries is emptied before the next.
   void LoadCities(std::string_view CountrySelected, forms::ListControl* lstC);
 
-  // Writes the new record over every line that holds the old one, in all fields and their case.
+  // Writes the new record over every line that holds the old one, in all fields and their case. A
+  // line whose scrambled bytes hold a comma, which no printable ASCII makes, comes apart there, in
+  // DeletePlace too.
   void EditPlace(std::string_view Country, const PlaceRecord& old, const PlaceRecord& changed);
   // Writes a copy of the line before over every line that holds the record. The file keeps its
   // number of lines; a record that stood first leaves an empty line, which ends a load.

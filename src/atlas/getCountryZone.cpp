@@ -13,7 +13,7 @@ struct CountryZone {
 };
 
 // The first row of a name holds. Names are spelled, and cut to 18 characters, as the country field
-// of the city files has them. Up to ZIMBABWE a minus stands east of Greenwich; the rows behind it
+// of the city files has them. Up to ZIMBABWE a minus stands east of Greenwich; the rows after it
 // do not keep to that, and five of them are never reached: their names stand above already.
 constexpr CountryZone kZones[] = {
     {"AFGHANISTAN", "-4.30"},

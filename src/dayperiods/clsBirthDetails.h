@@ -13,13 +13,15 @@
 
 namespace dayperiods {
 
-// Sunrise and sunset of one day in decimal hours, always whole minutes.
+// Sunrise and sunset of one day in decimal hours. By the zone's clock they are whole minutes, and 0
+// beyond 63 degrees of latitude; local mean times are those moved by the place's way from the
+// zone's meridian.
 struct SunriseRows {
   double localMeanRise = 0;  // row 1
   double localMeanSet = 0;   // row 2
-  double clockRise = 0;      // row 3: by the zone's clock
+  double clockRise = 0;      // row 3
   double clockSet = 0;       // row 4
-  std::string date;          // row 5: "5 March 2011"
+  std::string date;          // row 5: "5 March 2011"; before sunrise on a first "0 March 2011"
 };
 
 // A number, or the name that belongs to it, as the caller asked.
@@ -34,17 +36,17 @@ using GhatRow = std::array<std::string_view, 18>;
 class clsBirthDetails {
  public:
   // Rows of the Hindu day, sunrise to sunrise, that holds the moment. Before sunrise that is the
-  // day before: nDay is then lowered by 1 in place, to 0 on the first of a month. Both times are
-  // 0 beyond 63 degrees of latitude.
+  // day before: nDay is then lowered by 1 in place, to 0 on the first of a month.
   // InvalidCall or DivisionByZero where the sun does not cross the horizon (|tan latitude * tan
-  // declination| of 1 or more).
+  // declination| of 1 or more); TypeMismatch for a moment that does not exist.
   SunriseRows Sunrise(double& Latitude, double& Longitude, double& ZoneRelativeGMT,
                       std::int16_t& nDay, std::int16_t& nMonth, std::int16_t& nYear,
                       std::int16_t& nHour, std::int16_t& nMin, std::int16_t& nSec);
 
   // One time: the text of SRS, or with blnDEC decimal hours, 0 where that text is no time.
-  // RiseOrSet is "R" or "S". The coordinates are decimal numbers as texts with blnDecConvdata,
-  // else degrees.minutes with a hemisphere letter at their end.
+  // RiseOrSet is "S" or "s" for the sunset, any other text for the sunrise. The coordinates are
+  // decimal numbers as texts with blnDecConvdata, else degrees.minutes with a hemisphere letter at
+  // their end.
   std::variant<std::string, double> GetRISESET(std::int16_t nDay, std::int16_t nMonth,
                                                std::int16_t nYear, std::string_view RiseOrSet,
                                                std::string_view Latitude,
@@ -53,7 +55,8 @@ class clsBirthDetails {
 
   // "hh:mm" by the zone's clock; "" where the sun does not rise or set that day; "{invalid
   // latitude}" beyond 63 degrees. Where the sun is more than 90 degrees of hour angle from noon
-  // at its rise, rise and set come 12 hours wrong; Sunrise puts that right.
+  // at its rise, rise and set come 12 hours wrong; Sunrise puts that right. The date is given from
+  // the year down, unlike everywhere else.
   std::string SRS(double Latitude, double Longitude, double ZoneRelativeGMT,
                   std::string_view RiseOrSet, std::int16_t year, std::int16_t month,
                   std::int16_t day);
@@ -114,9 +117,9 @@ class clsBirthDetails {
   // The lunar month of a code, "CHAITRA"; "" for any other code.
   std::string Mas(std::int16_t code);
 
-  // The lunar month of a date: that of its solar month, or the next one where the full moon is past
-  // on the date or later in the month, at that time of day. Place texts are those of GenHoro, whose
-  // errors come through; the session gives ayanamsa and node alone.
+  // The lunar month of a date: that of its solar month, or the next one where the first day of the
+  // month with tithi 16 or 17, at that time of day, is the date or a later one. Place texts are
+  // those of GenHoro, whose errors come through; the session gives ayanamsa and node alone.
   std::string GetMas(std::int16_t day, std::int16_t month, std::int16_t year, std::int16_t hour,
                      std::int16_t minute, std::int16_t second, std::string_view Longitude,
                      std::string_view Lattitude, std::string_view zone,

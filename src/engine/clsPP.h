@@ -20,8 +20,8 @@
 
 namespace engine {
 
-// Made afresh by each caller; a call of GenHoro overwrites everything but pp_14, no body's, which
-// gathers what the ayanamsa modes add to all.
+// Make one for each chart: a call of GenHoro overwrites everything but pp_14, which is no body's
+// and to which every call adds what its mode adds to all.
 class clsPP {
  public:
   double ppStdLongitude = 0;   // the zone's meridian, decimal degrees, east positive
@@ -104,7 +104,7 @@ class clsPP {
   // Works out the chart of a civil moment at the clock of a place ("28.40N", "77.13E", standard
   // meridian "82.30E"). nAyan is the ayanamsa mode (see ApplyAyanMode), blnRahuKetu chooses the
   // corrected node over the mean one, WarTimeCorrection is hours added to the clock. A text that
-  // begins with no number counts as 0.
+  // begins with no number counts as 0. The longitude comes before the latitude.
   //
   // Overflow where a field of the moment, or nAyan, does not fit its 16 or 32 bits; TypeMismatch
   // for a date that does not exist, and in the years 100 and 9999 with the corrected node;
@@ -124,8 +124,8 @@ class clsPP {
   static LatLongParts SepLatLong(std::string_view text) { return engine::SepLatLong(text); }
 
   // "RET" where a body stands lower an hour later, else a blank; a body that goes forward over 0 in
-  // that hour counts as going back. 0 is the slot of the ayanamsa, which has no later value, 1 the
-  // Sun, and so on as in BodyOrder; Subscript from 13 on.
+  // that hour counts as going back. 0 is the slot of the ayanamsa, which has no later value and
+  // so no answer that means anything, 1 the Sun, and so on as in BodyOrder; Subscript from 13 on.
   std::string_view getRET(std::int16_t PlanetNum) const;
 
   Positions getPLNT() const { return positions_; }

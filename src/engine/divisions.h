@@ -28,6 +28,7 @@ using VargaTable = foundation::BoundedArray<foundation::BoundedArray<std::int16_
 // One longitude of 0 to 360 degrees under every wide division.
 DivRow WideDivisions(double longitude);
 
+// Of the ascendant and all positions, 0 to 360 degrees.
 DivTable FillDivTable(double ascendant, const Positions& positions);
 VargaTable FillVargaTable(double ascendant, const Positions& positions);
 

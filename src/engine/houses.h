@@ -29,7 +29,8 @@ struct RisingFrame {
 double AscendantAt(double Hours, double Lat, const RisingFrame& frame);
 
 // Sidereal time in hours, latitude in degrees; T in Julian centuries, for the obliquity. The
-// ayanamsa in degrees is taken off every cusp.
+// ayanamsa in degrees is taken off every cusp. Cusps and junctions are 0 to 360 degrees; errors as
+// AscendantAt.
 Houses CalcHouses(double siderealTime, double latitude, double T, double ayanamsa);
 
 }  // namespace engine

@@ -54,8 +54,8 @@ std::string_view SubLordOf(double seconds, foundation::MessageBoxes& boxes);
 
 // The code of the lord of the part's part, "MER". Only the star's lord and the place in the sign
 // are looked up in SubSubTable, so that stars of the later two thirds of the zodiac, and of a
-// second sign, take the first row of that lord that begins after the place. Where none does, or
-// there is no star (after StarLordOf's box), the table's last.
+// second sign, take the row before the first one of that lord that begins after the place. Where
+// none does, or there is no star (after StarLordOf's box), the table's last.
 std::string_view SubSubLordOf(double seconds, foundation::MessageBoxes& boxes);
 
 }  // namespace engine

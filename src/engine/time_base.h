@@ -24,8 +24,8 @@ struct TimeBase {
 TimeBase TimeBaseOf(std::int32_t dayNumber, double hours, double zoneHours, double correction);
 
 // The midnight that begins a date given by its fields. A year below 100 is taken as a text of two
-// figures is: 0 to 29 for 2000 to 2029. InvalidCall for a month that has no name, TypeMismatch for
-// a day that does not exist or a year outside 100 to 9999.
+// figures is: 0 to 29 for 2000 to 2029, 30 to 99 for 1930 to 1999. InvalidCall for a month that has
+// no name, TypeMismatch for a day that does not exist or a year outside 100 to 9999.
 foundation::DateTime CivilDate(int day, int month, std::int32_t year);
 
 }  // namespace engine

@@ -57,9 +57,9 @@ class Form {
   virtual void PrintForm();
 
   // Events, raised by the host.
-  virtual void Form_Load() {}
-  virtual void Form_Resize() {}
-  // Cancel keeps the form.
+  virtual void Form_Load() {}    // once for each window, before it shows
+  virtual void Form_Resize() {}  // scaleWidth, scaleHeight or the window's state has changed
+  // The user closes the window, as Unload does not. Cancel keeps the form.
   virtual void Form_QueryUnload([[maybe_unused]] bool& cancel) {}
   virtual void Form_MouseMove() {}  // where no control is that answers
   virtual void Form_MouseLeave() {}

@@ -11,7 +11,7 @@ namespace forms {
 
 class ItemList : public ListControl {
  public:
-  // A sorted list puts a new entry behind those not above it, case aside and commas before all
+  // A sorted list puts a new entry after those not above it, case aside and commas before all
   // else; another list at its end.
   explicit ItemList(bool sorted) : sorted_(sorted) {}
 

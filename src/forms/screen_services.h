@@ -11,15 +11,17 @@ class FormHost {
  public:
   virtual ~FormHost() = default;
 
+  // Makes the window at the first call and loads the form; brings an open window to the front.
   virtual void Show(Form& form) = 0;
   // Returns when the form is hidden or unloaded; timers of all forms go on meanwhile.
   virtual void ShowModal(Form& form, Form& owner) = 0;
   virtual void Hide(Form& form) = 0;
-  virtual bool IsShown(const Form& form) const = 0;
-  virtual void Unload(Form& form) = 0;
+  virtual bool IsShown(const Form& form) const = 0;  // a minimised one too
+  virtual void Unload(Form& form) = 0;               // without asking the form
   // At once, with no clean-up; does not return.
   virtual void EndProgram() = 0;
-  // Draws on a picture box. Stays good as long as the form is loaded.
+  // Draws on a picture box, of a form that need not be loaded. The same until the form is unloaded
+  // or the target forgotten.
   virtual DrawingTarget& TargetOf(Control& pictureBox) = 0;
   // The next target of the box begins anew, with its present size.
   virtual void ForgetTarget(Control& pictureBox) = 0;
@@ -35,7 +37,8 @@ class Rasteriser {
 
 enum class Orientation { Portrait = 1, Landscape = 2 };
 
-// Pages of a printer, drawn like any target.
+// Pages of a printer, drawn like any target. The first call that draws opens the document; a page
+// on which nothing was drawn is not printed. FileAccess where the printer does not take a page.
 class Printer : public DrawingTarget {
  public:
   // The system's dialog. Cancelled when the user cancels it.

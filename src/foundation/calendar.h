@@ -14,8 +14,8 @@ struct DateTimeFields {
 };
 
 // The midnight that begins a date; fields out of range carry, so day 0 is the last day of the
-// month before and month 13 the next January. The fields are rounded to 16 bits (Overflow). A
-// year 0 to 99 means itself. InvalidCall outside the years 100 to 9999.
+// month before and month 13 the next January. The fields are rounded to 16 bits (Overflow). No
+// century is added to a short year. InvalidCall outside the years 100 to 9999.
 DateTime DateFromParts(double year, double month, double day);
 
 // A time of day in days, with carries: 24 hours are 1, 60 seconds a minute. The fields are
@@ -25,7 +25,7 @@ DateTime TimeFromParts(double hour, double minute, double second);
 // InvalidCall outside the years 100 to 9999.
 DateTimeFields FieldsOf(DateTime moment);
 
-// 1 = Sunday to 7 = Saturday.
+// 1 = Sunday to 7 = Saturday. InvalidCall as FieldsOf.
 int WeekdayOf(DateTime moment);
 
 }  // namespace foundation

@@ -63,7 +63,7 @@ class Transcoder {
       PutReph();
     } else if (code == kShortI) {
       EndCluster();
-      shortI_ = true;  // written before its cluster, spoken behind it
+      shortI_ = true;  // written before its cluster, spoken after it
     } else if (code == kSubjoinedR) {
       unicode_ += kSubjoinedRText;
     } else if (const std::string_view half = Find(kHalfLetters, code); !half.empty()) {
@@ -106,7 +106,7 @@ class Transcoder {
     open_ = complete_ = false;
   }
 
-  // Before the cluster that it was written behind, signs and all.
+  // Before the cluster that it was written after, signs and all.
   void PutReph() {
     EndCluster();
     unicode_.insert(cluster_, kRephText);

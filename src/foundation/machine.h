@@ -10,7 +10,7 @@ namespace foundation {
 class Clock {
  public:
   virtual ~Clock() = default;
-  virtual DateTime Now() const = 0;  // local time
+  virtual DateTime Now() const = 0;  // local time, whole seconds
 };
 
 enum class MessageIcon { None, Information, Question, Exclamation, Critical };
@@ -20,7 +20,8 @@ enum class MessageAnswer { Ok, Yes, No };
 class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;
-  // Shows a modal box and waits. Closing a box of Yes and No without an answer is No.
+  // Shows a modal box and waits; without a title it has the program's name. Closing a box of Yes
+  // and No without an answer is No.
   virtual MessageAnswer Show(std::string_view text, MessageIcon icon,
                              MessageButtons buttons = MessageButtons::Ok,
                              std::string_view title = {}) = 0;

@@ -27,11 +27,13 @@ std::int32_t FloorToInt32(double x);
 // Overflow where the number exceeds 64-bit range.
 double LeadingNumber(std::string_view text);
 
-// The number that the whole text is, blanks around it aside; nothing if it is not one.
+// The number that the whole text is, blanks around it aside; nothing if it is not one. Overflow as
+// LeadingNumber.
 std::optional<double> WholeNumber(std::string_view text);
 
 // The shortest decimal text that reads back as x: "28", "0.5", "-0.05". An exponent ("1E+16",
-// "1E-05") stands only from 1E+16 up and below 0.0001.
+// "1E-05") stands only from 1E+16 up and below 0.0001. Overflow for infinity, InvalidCall for no
+// number.
 std::string NumberText(double x);
 
 // What the shortest decimal text of a 32-bit number says: 4000.2 of 4000.2F, which in 64 bits is
@@ -41,7 +43,8 @@ double DecimalOf(float x);
 // A whole number with a comma before each group of three digits: "21,032".
 std::string GroupedText(std::int64_t number);
 
-// x with that many decimals, correctly rounded: FixedText(2.5, 2) is "2.50".
+// x with that many decimals, 0 to 100, correctly rounded: FixedText(2.5, 2) is "2.50". InvalidCall
+// for other decimals; else as NumberText.
 std::string FixedText(double x, int decimals);
 
 }  // namespace foundation

@@ -21,13 +21,13 @@ struct SessionRecord {
   double Hour = 0;
   double Minute = 0;
   double Second = 0;
-  std::string LatitudeText;      // degrees.minutes and hemisphere, "28.40N"
-  std::string LongitudeText;     // "77.13E"
-  std::string ZoneMeridianText;  // the zone's standard meridian, "82.30E"
-  std::string ZoneTimeText;      // hours.minutes, minus east of Greenwich, "-5.30"
-  double WarTimeCorrection = 0;  // hours
-  std::int32_t AyanamsaChoice = 0;
-  Boolean16 RahuKetuFlag = kFalse16;
+  std::string LatitudeText;           // degrees.minutes and hemisphere, "28.40N"
+  std::string LongitudeText;          // "77.13E"
+  std::string ZoneMeridianText;       // the zone's standard meridian, "82.30E"
+  std::string ZoneTimeText;           // hours.minutes, minus east of Greenwich, "-5.30"
+  double WarTimeCorrection = 0;       // hours
+  std::int32_t AyanamsaChoice = 0;    // a mode of the engine, 0 Lahiri
+  Boolean16 RahuKetuFlag = kFalse16;  // the corrected node in place of the mean one
   std::string CityName;
   std::string CountryName;
 };
@@ -46,7 +46,8 @@ class SessionTable {
   const SessionRecord& Current() const { return Records[CurrentRecord]; }
 };
 
-// Fills the moment of the current record from `now` if its Day is still 0; else leaves it alone.
+// Fills the current record if its Day is still 0: the moment from `now`, no name, both flags true,
+// ayanamsa 0. Subscript where there is no such record.
 void InitSessionRecord(SessionTable& session, DateTime now);
 
 }  // namespace foundation

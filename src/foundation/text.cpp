@@ -23,7 +23,7 @@ std::size_t CharacterLength(std::string_view text) {
   return length;
 }
 
-// Capitals of two bytes in UTF-8 whose small letters stand a fixed distance behind, or, at
+// Capitals of two bytes in UTF-8 whose small letters stand a fixed distance further on, or, at
 // distance 1, at every other place from the first. After the Unicode case-folding data.
 struct CapitalRange {
   char32_t first, last;

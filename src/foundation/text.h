@@ -17,7 +17,8 @@ std::string_view LastCharacter(std::string_view text);
 // The first `count` characters, or the whole text if it is shorter. InvalidCall below 0.
 std::string_view FirstCharacters(std::string_view text, int count);
 
-// The text with case taken away, for comparison: Latin, Greek, Cyrillic and Armenian letters.
+// The text in small letters, for comparison: Latin, Greek, Cyrillic and Armenian ones. Every
+// character keeps its length in bytes.
 std::string FoldCase(std::string_view text);
 
 // Whether the text begins with the other one, case (as FoldCase takes it away) aside.

@@ -14,10 +14,10 @@ double FracPart(double x);
 std::string PadDigits(std::string_view value, int width);
 std::string PadDigits(double value, int width);
 
-// Decimal hours as "hh:mm:ss", or "hh:mm" with noSeconds: minutes cut, seconds rounded. Hours are
-// brought into 0 to `limit`. At limit 24 the result is a time of day (59.6 seconds carry, 24 is
-// "00:00:00"); at any other limit it is a duration whose fields do not carry.
-// InvalidCall where hours lie outside a limit that is not above 0.
+// Decimal hours as "hh:mm:ss", seconds rounded, or "hh:mm" with noSeconds. Hours are brought into 0
+// to `limit`. At limit 24 the result is a time of day (59.6 seconds carry, also where they are not
+// shown; 24 is "00:00:00"); at any other limit it is a duration whose fields do not carry.
+// InvalidCall where hours lie outside a limit that is not above 0, and for no number.
 std::string DecimalToTimeText(double hours, double limit = 24, bool noSeconds = false);
 
 // The fields of "h:m:s"; an empty text or 0 where a field is missing or fails.

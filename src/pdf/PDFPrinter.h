@@ -34,8 +34,9 @@ struct PictureMeans {
 // PDFFileName, PDFBeginDoc, drawing with PDFEndPage and PDFNewPage between pages, PDFEndDoc. Texts
 // are UTF-8 and go into the file as one byte of Windows code page 1252 a character; coordinates
 // are user units from the top left of the page. A wrong code is told to the user in French and
-// replaced by a default. Only the open page and the images are held in memory; a document has some
-// ten thousand pages at most, of which the first thousand may have links, a thousand each.
+// replaced by a default where no other outcome is named. Only the open page and the images are held
+// in memory; a document has some ten thousand pages at most, of which the first thousand may have
+// links, a thousand each.
 class PDFPrinter : public forms::DrawingTarget {
  public:
   // The fonts are those of the program's own folder. Without means, PaintPicture fails.
@@ -70,7 +71,7 @@ class PDFPrinter : public forms::DrawingTarget {
   // 0 whole page, 1 page width, 2 true size, else a percentage.
   void PDFSetZoomMode(std::int32_t zoomMode) { settings_.zoomMode = zoomMode; }
   std::optional<std::int32_t> PDFGetZoomMode() const { return settings_.zoomMode; }
-  void PDFSetLayoutMode(std::int32_t layoutMode);  // 0 single page, 1 a column, 2 two columns, 3
+  void PDFSetLayoutMode(std::int32_t layoutMode);  // 0 single page, 1 a column, 2 two columns
   std::optional<std::int32_t> PDFGetLayoutMode() const { return settings_.layoutMode; }
   // Each digit of the code is a preference: 1 no toolbar, 2 no menu bar, 3 no window controls,
   // 4 window fitted, 5 window centred, 6 title shown.
@@ -111,14 +112,18 @@ class PDFPrinter : public forms::DrawingTarget {
   void PDFPathConfiguration(std::string_view folder);
   void PDFLoadAfm(std::string_view folder);
   // 0 Helvetica, 1 Courier, 2 Times, 3 Symbol, 4 ZapfDingbats. Each digit of the style is a flag:
-  // 1 italic, 2 bold, 3 underlined; an underline stays on until a text has used it.
+  // 1 italic, 2 bold, 3 underlined; an underline stays on until a text has used it. The size is
+  // points, rounded: Overflow beyond 16 bits. A wrong code chooses "TimesRoman", which no metric
+  // file of the usual set is called.
   void PDFSetFont(std::int32_t font, double size, std::int32_t style);
   // In points; the present font for an empty name. The errors of FontFolder::Widths, Subscript for
   // a character of code 0, Overflow where the widths do not fit 32 bits.
   double PDFGetStringWidth(std::string_view text, std::string_view fontName, double size);
-  double PDFTextHeight() const;
+  double PDFTextHeight() const;  // the size times the points of a unit
 
   // Texts. A coordinate of exactly 0 is the present one; the left margin is added to x, here alone.
+  // The position moves right by the text's width and down by the font size, both in points whatever
+  // the unit.
   void PDFTextOut(std::string_view text, double x, double y);
   void PDFSetRotation(double angle) { pen_.rotation = -angle; }  // degrees, counterclockwise
   void PDFFiligran(std::string_view watermark);
@@ -137,7 +142,8 @@ class PDFPrinter : public forms::DrawingTarget {
   // A text that leads to the link, or to itself where the link is empty.
   void PDFLink(double x, double y, std::string_view text, const Argument& link);
 
-  // Colours: three numbers of 0 to 255, "#RRGGBB", or red + 256 green + 65536 blue.
+  // Colours: three numbers of 0 to 255, "#RRGGBB", or red + 256 green + 65536 blue. Subscript for
+  // fewer than three numbers, Overflow beyond 32 bits.
   void PDFSetTextColor(const Argument& colour);
   void PDFSetLineColor(const Argument& colour);
   void PDFSetDrawColor(const Argument& colour);
@@ -154,11 +160,12 @@ class PDFPrinter : public forms::DrawingTarget {
   void PDFDrawLine(double x1, double y1, double x2, double y2);
   void PDFDrawRectangle(double x, double y, double w, double h, const Argument& link);
   void PDFDrawEllipse(double x, double y, double w, double h, const Argument& link);  // h 0: circle
-  void PDFDrawPolygon(const std::vector<double>& points);  // x1, y1, x2, y2...
+  void PDFDrawPolygon(const std::vector<double>&
+                          points);  // x1, y1, x2, y2...; Subscript for none and for half a point
 
   // JPEG files, "jpg" or "jpeg" in small letters. A width or height of 0 follows from the other,
-  // both from the pixels. DivisionByZero where a file without a size is to give one. The position
-  // is left in points.
+  // both from the pixels. DivisionByZero where a file without a size is to give one, FileAccess
+  // where it cannot be read. The position is left in points.
   void PDFImage(std::string_view file, double x, double y, double w, double h,
                 const Argument& link);
   double PDFImageWidth(std::string_view file);  // pixels; 0 where the file cannot be used

@@ -21,7 +21,7 @@ bool Holds(std::string_view letters, char letter) {
   return letters.find(letter) != std::string_view::npos;
 }
 
-// A line end behind the text loses its second half, in a text of three characters alone.
+// A line end after the text loses its second half, in a text of three characters alone.
 std::string WithoutTrailingHalf(std::string text) {
   if (text.size() == 3 && text.ends_with("\r\n")) text.pop_back();
   return text;

@@ -16,7 +16,8 @@ struct Rgb {
 // Of the number blue * 65536 + green * 256 + red.
 Rgb PDFColorFromLong(std::int32_t number);
 
-// Of "#RRGGBB", black where the digits are none; nothing for a text that does not begin so.
+// Of "#RRGGBB", black where the digits are none, fewer filled with 0 from the left; nothing for a
+// text that does not begin so.
 std::optional<Rgb> PDFColorFromHtml(std::string_view text);
 
 // "1.000 0.000 0.000 rg"; the operator is "rg" for what is filled, "RG" for lines.

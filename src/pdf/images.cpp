@@ -73,7 +73,7 @@ void PDFPrinter::PDFImage(std::string_view file, double x, double y, double w, d
   linked_.imageWidth = w;
   linked_.imageHeight = h;
   PDFAttachLink(link, LinkKind::Image, x, y);
-  // Points, unlike every other position.
+  // Both in points: a picture does not go by the unit.
   x_ = page_.Across(x + w);
   y_ = page_.Across(y + h);
 }

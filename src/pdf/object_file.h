@@ -1,4 +1,4 @@
-// A document's file: numbered objects one behind the other, and the table of where they stand.
+// A document's file: numbered objects one after the other, and the table of where they stand.
 #pragma once
 
 #include <cstddef>
@@ -35,7 +35,7 @@ class ObjectFile {
   void WriteLine(std::string_view text);
   // Overflow beyond 32766 offsets, or 32 bits.
   void PDFAddOffset(std::size_t length);
-  // The table and all behind it up to the last offset.
+  // The table and all after it up to the last offset.
   void PDFPutXref(int catalog);
 
   int LastObject() const { return counter_; }

@@ -1,5 +1,5 @@
 // Lines, rectangles, ellipses and polygons. The order of the operators is what counts, also where
-// a width comes behind the painting that it no longer affects.
+// a width comes after the painting that it no longer affects.
 
 #include <algorithm>
 #include <cmath>

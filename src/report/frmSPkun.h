@@ -1,4 +1,5 @@
-// frmSPkun, the print preview: the pages of a report one at a time, as pictures.
+// frmSPkun, the print preview: the pages of a report one at a time, as pictures. A page comes from
+// its file, or by the direct path, for which a form is drawn at once and which no report takes.
 #pragma once
 
 #include <cstdint>
@@ -65,15 +66,15 @@ class frmSPkun : public forms::Form {
   // Empties the lists of pages and deletes the page files of the report before.
   void RESET();
 
-  // The direct path: the form's picture and its picture boxes onto PIC, moved by X and Y twips; the
-  // first page clears it and gives it its size.
+  // The direct path, both alike: the form's picture and its picture boxes onto PIC, moved by X and
+  // Y twips; the first page clears it and gives it its size.
   void setPage(forms::Form& page, double X = 0, double Y = 0);
   void setPage2(forms::Form& page, double X = 0, double Y = 0);
 
   void KillAllTmpFile();
   // Writes what stands on the picture box; failures are ignored.
   void CreateTMPfile(std::int16_t PageNum, const forms::Control& pictureBox);
-  // Pname "cachepage" for a page file, whose number the title tells behind its first "P".
+  // Pname "cachepage" for a page file, whose number the title tells after its first "P".
   void AddPage(std::string_view Pname, std::string_view PTitle);
 
   void cmbPage_Click();
@@ -81,7 +82,8 @@ class frmSPkun : public forms::Form {
   void cmdHide_Click();
   void cmdPrintPage_Click();
 
-  // A page onto PIC or the printer. PageNum takes the number that the title tells.
+  // A page onto PIC or the printer. PageNum takes the number that the title tells. Errors as of
+  // GenHoro and LoadPage; PIC has lost its picture by then.
   void ShowPage(std::int16_t& PageNum, std::string_view Pname, std::string_view PTitle,
                 bool ToPrinter);
 

@@ -84,19 +84,19 @@ class ReportMaker {
                                foundation::MonthName(at.month) + " " + NumberText(at.year);
   }
 
-  // `behind` is the first day that is not on the page; its year goes into the title.
-  void EndPage(int month, DateTime behind) {
+  // `next` is the first day that is not on the page; its year goes into the title.
+  void EndPage(int month, DateTime next) {
     forms::DrawingTarget& target = services_.host.TargetOf(preview_.PIC);
     target.Cls();
     DrawFormOnTarget(*page_, target, 0, 0);
     preview_.CreateTMPfile(number_, preview_.PIC);
-    preview_.AddPage(kCachePage, Title(month, behind));
+    preview_.AddPage(kCachePage, Title(month, next));
     number_ = foundation::RoundToInt16(number_ + 1);
   }
 
-  std::string Title(int month, DateTime behind) const {
+  std::string Title(int month, DateTime next) const {
     return "Durvela " + foundation::MonthName(month) + " " +
-           NumberText(foundation::FieldsOf(behind).year) + " ..P" + NumberText(number_);
+           NumberText(foundation::FieldsOf(next).year) + " ..P" + NumberText(number_);
   }
 
   void Present() {

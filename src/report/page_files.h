@@ -8,7 +8,7 @@
 namespace report {
 
 // Writes a page over a former one of its number; makes the folder where it has no files. FileAccess
-// where it cannot be written.
+// where it cannot be written, InvalidCall for no dots.
 void SavePage(std::int16_t PageNum, const forms::Raster& dots);
 
 // The page as a picture in twips. FileNotFound where there is none, InvalidCall where it is no

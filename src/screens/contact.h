@@ -1,4 +1,5 @@
-// The maker's contact lines. An empty one shows nothing, and a click on it does nothing.
+// The maker's contact lines. An empty one shows nothing; a click on any opens the website, if there
+// is one.
 #pragma once
 
 #include <string_view>

@@ -26,6 +26,7 @@ void ShowDefaultPlace(foundation::Settings& settings, const PlaceLabels& labels)
 // Makes the labels' place the default. FileAccess where it cannot be saved.
 void SaveDefaultPlace(foundation::Settings& settings, const PlaceLabels& labels);
 
+// Makes the labels' place that of a record.
 void CopyPlace(const PlaceLabels& labels, foundation::SessionRecord& record);
 
 }  // namespace screens

@@ -8,8 +8,8 @@
 namespace screens {
 
 // Clears the page and draws a row for each day from `start`, at its time of day, up to `end`; a
-// last day whose time has passed `end` has none. Positions are twips. An error ends the list with
-// the row in which it arose.
+// last day whose time has passed `end` has none. Positions are twips. The errors of
+// the calculations and of the page come through; rows drawn until then stay.
 void DrawQuickView(forms::DrawingTarget& page, foundation::DateTime start, foundation::DateTime end,
                    const foundation::SessionTable& session);
 

@@ -77,7 +77,7 @@ class Coordinates {
 void CheckRecord(const std::string& line, const std::string& row, const std::string& country,
                  Coordinates& coordinates) {
   SCOPED_TRACE(country + ": " + row);
-  ASSERT_TRUE(AllWithin(line, 0x50, 0xD8));
+  ASSERT_TRUE(AllWithin(line, 0x51, 0xD5));
   const std::string record = Decoded(line);
   ASSERT_TRUE(AllWithin(record, 0x20, 0x7E)) << record;
 
