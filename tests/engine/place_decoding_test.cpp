@@ -1,16 +1,14 @@
 #include <gtest/gtest.h>
 
 #include "engine/clsPP.h"
-#include "foundation/error.h"
 #include "support/errors.h"
+#include "support/table.h"
 
 namespace engine {
 namespace {
 
-struct Angle {
-  const char* text;
-  double degrees;
-};
+using support::ExpectRows;
+using support::Row;
 
 clsPP Decoded(const char* longitude, const char* latitude, const char* zone) {
   clsPP pp;
@@ -19,85 +17,53 @@ clsPP Decoded(const char* longitude, const char* latitude, const char* zone) {
 }
 
 TEST(PlaceDecoding, TakesLatitudes) {
-  const Angle kCases[] = {
-      {"28.40N", 28.666666666666668},
-      {"28.40S", -28.666666666666668},
-      {"28.00N", 28},
-      {"28N", 28},
-      {"28.05N", 28 + 5 / 60.0},
-      {"0.13S", -13 / 60.0},
-      {"89.59N", 89.98333333333333},
-      {"28N40", 28.666666666666668},
-      {"N", 0},
-      {"", 0},
-  };
-  for (const auto& [text, degrees] : kCases) {
-    EXPECT_DOUBLE_EQ(Decoded("77.13E", text, "82.30E").ppLatitude, degrees) << text;
-  }
+  const auto latitude = [](auto text) { return Decoded("77.13E", text, "82.30E").ppLatitude; };
+  ExpectRows(latitude, Row("28.40N", 28.666666666666668), Row("28.40S", -28.666666666666668),
+             Row("28.00N", 28), Row("28N", 28), Row("28.05N", 28 + 5 / 60.0),
+             Row("0.13S", -13 / 60.0), Row("89.59N", 89.98333333333333),
+             Row("28N40", 28.666666666666668), Row("N", 0), Row("", 0));
   // No letter at the end: the last digit comes again after it.
-  EXPECT_DOUBLE_EQ(Decoded("77.13E", "28.40", "82.30E").ppLatitude, 34.666666666666664);
+  ExpectRows(latitude, Row("28.40", 34.666666666666664));
 }
 
 TEST(PlaceDecoding, TakesLongitudes) {
-  const Angle kCases[] = {
-      {"77.30E", 77.5},
-      {"77.05E", 77.08333333333333},
-      {"77.10E", 77 + 10 / 60.0},
-      {"74.01W", -74.01666666666667},
-      {"77E13", 77.21666666666667},
-      // Whole degrees lose their point and their letter, and are read as minutes east.
-      {"77.00E", 1.2833333333333334},
-      {"77.00W", 1.2833333333333334},
-      {"100.00W", 1.6666666666666667},
-  };
-  for (const auto& [text, degrees] : kCases) {
-    EXPECT_DOUBLE_EQ(Decoded(text, "28.40N", "82.30E").ppLongitude, degrees) << text;
-  }
+  const auto longitude = [](auto text) { return Decoded(text, "28.40N", "82.30E").ppLongitude; };
+  ExpectRows(longitude, Row("77.30E", 77.5), Row("77.05E", 77.08333333333333),
+             Row("77.10E", 77 + 10 / 60.0), Row("74.01W", -74.01666666666667),
+             Row("77E13", 77.21666666666667));
+  // Whole degrees lose their point and their letter, and are read as minutes east.
+  ExpectRows(longitude, Row("77.00E", 1.2833333333333334), Row("77.00W", 1.2833333333333334),
+             Row("100.00W", 1.6666666666666667));
 }
 
 TEST(PlaceDecoding, TakesZones) {
-  const Angle kCases[] = {
-      {"82.30E", 82.5}, {"75.0W", -75}, {"52.30E", 52.5}, {"180.0E", 180},
-      {"82.30", 82.5},  {"W", 0},       {"no zone", 0},
-  };
-  for (const auto& [text, degrees] : kCases) {
+  const auto zone = [](auto text) {
     const clsPP pp = Decoded("77.13E", "28.40N", text);
-    EXPECT_DOUBLE_EQ(pp.ppZoneDegrees, degrees) << text;
-    EXPECT_DOUBLE_EQ(pp.ppZoneHours, degrees / 15) << text;
-    EXPECT_DOUBLE_EQ(pp.ppStdLongitude, degrees) << text;
-  }
+    EXPECT_DOUBLE_EQ(pp.ppZoneHours, pp.ppZoneDegrees / 15) << text;
+    EXPECT_EQ(pp.ppStdLongitude, pp.ppZoneDegrees) << text;
+    return pp.ppZoneDegrees;
+  };
+  ExpectRows(zone, Row("82.30E", 82.5), Row("75.0W", -75), Row("52.30E", 52.5), Row("180.0E", 180),
+             Row("82.30", 82.5), Row("W", 0), Row("no zone", 0));
 }
 
 TEST(PlaceDecoding, SplitsAtTheLastCharacterThatIsNoDigit) {
-  const struct {
-    const char* text;
-    double degrees, minutes;
-    const char* hemisphere;
-  } kCases[] = {
-      {"28N4", 28, 40, "N"}, {"28N", 28, 0, "N"}, {"28N04", 28, 4, "N"}, {"28.40N", 40, 0, "N"},
-      {"77", 0, 77, ""},     {"", 0, 0, ""},      {"1N2S3", 2, 30, "S"}, {"28°40", 28, 40, "°"},
+  const auto split = [](std::string_view text) {
+    const LatLongParts parts = clsPP::SepLatLong(text);
+    return std::tuple(parts.degrees, parts.minutes, parts.hemisphere);
   };
-  for (const auto& expected : kCases) {
-    const LatLongParts parts = clsPP::SepLatLong(expected.text);
-    EXPECT_EQ(parts.degrees, expected.degrees) << expected.text;
-    EXPECT_EQ(parts.minutes, expected.minutes) << expected.text;
-    EXPECT_EQ(parts.hemisphere, expected.hemisphere) << expected.text;
-  }
+  ExpectRows(split, Row("28N4", std::tuple(28, 40, "N")), Row("28N", std::tuple(28, 0, "N")),
+             Row("28N04", std::tuple(28, 4, "N")), Row("28.40N", std::tuple(40, 0, "N")),
+             Row("77", std::tuple(0, 77, "")), Row("", std::tuple(0, 0, "")),
+             Row("1N2S3", std::tuple(2, 30, "S")), Row("28°40", std::tuple(28, 40, "°")));
 }
 
 TEST(PlaceDecoding, KeepsTextsAndRoundsTheMoment) {
   clsPP pp;
-  pp.GenHoro(4.5, 2.5, 2011.5, 5.5, 12.4, 9.5, "77.13E", "28.40N", "82.30E", 0, foundation::kTrue16,
-             0.5);
-  EXPECT_EQ(pp.ppLongitudeText, "77.13E");
-  EXPECT_EQ(pp.ppLatitudeText, "28.40N");
-  EXPECT_EQ(pp.ppZoneText, "82.30E");
-  EXPECT_EQ(pp.ppDay, 4);
-  EXPECT_EQ(pp.ppMonth, 2);
-  EXPECT_EQ(pp.ppYear, 2012);
-  EXPECT_EQ(pp.ppHour, 6);
-  EXPECT_EQ(pp.ppMin, 12);
-  EXPECT_EQ(pp.ppSec, 9.5);
+  pp.GenHoro(4.5, 2.5, 2011.5, 5.5, 12.4, 9.5, "77.13E", "28.40N", "82.30E", 0, -1, 0.5);
+  EXPECT_EQ(pp.ppLongitudeText + pp.ppLatitudeText + pp.ppZoneText, "77.13E28.40N82.30E");
+  EXPECT_EQ(std::tuple(pp.ppDay, pp.ppMonth, pp.ppYear), std::tuple(4, 2, 2012));
+  EXPECT_EQ(std::tuple(pp.ppHour, pp.ppMin, pp.ppSec), std::tuple(6, 12, 9.5));
   EXPECT_EQ(pp.WarTimeCorrection, 0.5);
   EXPECT_ERROR(Overflow, pp.GenHoro(1, 1, 2011, 32768, 0, 0, "", "", "", 0, 0, 0));
 }

@@ -9,14 +9,16 @@
 #include "support/app_folder.h"
 #include "support/errors.h"
 #include "support/machine_fakes.h"
+#include "support/table.h"
 
 namespace engine {
 namespace {
 
-class PlanetsTables : public testing::Test {
- protected:
-  PlanetsTables() { pp.GenHoro(5, 3, 2011, 6, 12, 9, "77.13E", "28.40N", "82.30E", 0, -1, 0); }
+using support::ExpectRows;
+using support::Row;
 
+struct PlanetsTables : testing::Test {
+  PlanetsTables() { pp.GenHoro(5, 3, 2011, 6, 12, 9, "77.13E", "28.40N", "82.30E", 0, -1, 0); }
   clsPP pp;
 };
 
@@ -30,9 +32,7 @@ std::string Text(const PlanetCells& row) {
 
 // Worked out independently of this code.
 constexpr struct {
-  const char* Cells;
-  const char* SubLords;
-  const char* State;  // combust, dignity, motion
+  const char *Cells, *SubLords, *State;  // State: combust, dignity, motion
 } kDelhi[13] = {
     {"Asc 10 08:16:29 24/1 SAT RAHU", "Rahu VEN", "||"},
     {"Sun 10 20:04:26 25/1 SAT JUPITER", "Jupiter JUP", "|| "},
@@ -56,11 +56,11 @@ TEST_F(PlanetsTables, HaveTheRowsWorkedOutElsewhere) {
   for (std::size_t i = 0; i < 13; ++i) {
     EXPECT_EQ(Text(table[i]), kDelhi[i].Cells);
     EXPECT_EQ(Text(table2[i]), kDelhi[i].Cells);
-    EXPECT_EQ(std::string(table[i].SubLord) + " " + std::string(table[i].SubSubLord),
-              kDelhi[i].SubLords);
-    EXPECT_EQ(std::string(table2[i].Combust) + "|" + table2[i].Dignity + "|" +
-                  std::string(table2[i].Motion),
-              kDelhi[i].State);
+    std::ostringstream lords, state;
+    lords << table[i].SubLord << ' ' << table[i].SubSubLord;
+    state << table2[i].Combust << '|' << table2[i].Dignity << '|' << table2[i].Motion;
+    EXPECT_EQ(lords.str(), kDelhi[i].SubLords);
+    EXPECT_EQ(state.str(), kDelhi[i].State);
   }
   EXPECT_NEAR(table[1].Longitude, 320.0738526393651, 1e-9);
   EXPECT_TRUE(boxes.shown.empty());
@@ -80,20 +80,13 @@ TEST_F(PlanetsTables, FailAtTheVeryEndOfTheZodiac) {
 }
 
 TEST(NamesOfAChart, ComeByNumberAndByLongitude) {
-  EXPECT_EQ(clsPP::getPlanetName(0), "");
-  EXPECT_EQ(clsPP::getPlanetName(1), "Asc");
-  EXPECT_EQ(clsPP::getPlanetName(2.5), "Sun");
-  EXPECT_EQ(clsPP::getPlanetName(13), "Pluto");
+  ExpectRows(clsPP::getPlanetName, Row(0, ""), Row(1, "Asc"), Row(2.5, "Sun"), Row(13, "Pluto"));
   EXPECT_ERROR(Subscript, clsPP::getPlanetName(14));
-  EXPECT_EQ(clsPP::getRashiName(0), "Aries");
-  EXPECT_EQ(clsPP::getRashiName(11), "Pisces");
+  ExpectRows(clsPP::getRashiName, Row(0, "Aries"), Row(11, "Pisces"));
   EXPECT_ERROR(Subscript, clsPP::getRashiName(12));
   EXPECT_ERROR(Subscript, clsPP::getRashiName(-1));
-  EXPECT_EQ(clsPP::GetNakLord(0), "Ketu");
-  EXPECT_EQ(clsPP::GetNakLord(13.34), "Venus");
-  EXPECT_EQ(clsPP::GetNakLord(359.9), "Mercury");
-  EXPECT_EQ(clsPP::GetRashiLord(0), "4");
-  EXPECT_EQ(clsPP::GetRashiLord(330), "6");
+  ExpectRows(clsPP::GetNakLord, Row(0, "Ketu"), Row(13.34, "Venus"), Row(359.9, "Mercury"));
+  ExpectRows(clsPP::GetRashiLord, Row(0, "4"), Row(330, "6"));
   EXPECT_ERROR(Subscript, clsPP::GetRashiLord(360));
 }
 

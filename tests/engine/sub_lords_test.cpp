@@ -13,25 +13,9 @@ namespace {
 TEST(SubLords, AgreeWithLordsWorkedOutElsewhere) {
   const struct {
     double seconds;
-    const char* star;
-    const char* sub;
-    const char* subSub;
+    const char *star, *sub, *subSub;
   } kCases[] = {
-      {0, "Ketu", "Ketu", "KET"},  // row 1 begins after it
-      {121200.5, "Sun", "Rahu", "MER"},
-      {143856, "Sun", "Venus", "MER"},
-      {287712, "Rahu", "Mercury", "SUN"},
-      {324000.5, "Jupiter", "Sun", "MOO"},
-      {405600.5, "Mercury", "Venus", "JUP"},
-      {468864.00000000006, "Ketu", "Venus", "VEN"},
-      {629600, "Mars", "Moon", "SAT"},
-      {673992, "Rahu", "Rahu", "JUP"},
-      {772560, "Saturn", "Saturn", "MOO"},
-      {866799.5, "Ketu", "Ketu", "MER"},
-      {883116, "Ketu", "Mercury", "KET"},
-      {1065600, "Mars", "Moon", "MAR"},
-      {1188000.25, "Jupiter", "Sun", "MOO"},
-      {1277599.5, "Mercury", "Venus", "SAT"},
+#include "engine/sub_lords.inc"
   };
   support::FakeMessageBoxes boxes;
   for (const auto& expected : kCases) {
@@ -73,10 +57,7 @@ TEST(SubLords, OutsideTheZodiacThereIsAMessageAndNoStar) {
 }
 
 TEST(SubSubTable, HasThePrintedRows) {
-  const struct {
-    int row;
-    SubSubRow columns;
-  } kRows[] = {
+  const std::pair<int, SubSubRow> kRows[] = {
       {0, {"1402", "KET", "KET", "KET", "0", "0 0 0", "0"}},
       {1, {"1403", "KET", "KET", "VEN", "163", "0 2 43", "163"}},
       {2, {"1404", "KET", "KET", "SUN", "630", "0 10 30", "630"}},
@@ -88,7 +69,7 @@ TEST(SubSubTable, HasThePrintedRows) {
       {648, {"2050", "MER", "MER", "MER", "384000", "16 40 0", "60000"}},
       {728, {"2130", "MER", "SAT", "JUP", "430987", "29 43 7", "106987"}},
   };
-  for (const auto& printed : kRows) EXPECT_EQ(SubSubTable()[printed.row], printed.columns);
+  for (const auto& [row, columns] : kRows) EXPECT_EQ(SubSubTable()[row], columns);
 }
 
 // Every star has each pair of lords once.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <stdexcept>
 
 #include "foundation/bounded_array.h"
@@ -22,16 +23,13 @@ TEST(Resume, GoesOnAfterAFailedStatementAndTellsSo) {
   EXPECT_THROW(Resume([] { throw std::logic_error("a fault of the program"); }), std::logic_error);
 }
 
-TEST(BoundedArray, RefusesAnIndexBeforeTouchingAnElement) {
+TEST(Errors, KeepFromReadingWhatIsNotThere) {
   BoundedArray<int, 1, 9> boundaries;
   boundaries[1] = 10;
   boundaries[9] = 90;
   EXPECT_EQ(boundaries[1] + boundaries[9], 100);
   EXPECT_ERROR(Subscript, boundaries[0]);
   EXPECT_ERROR(Subscript, boundaries[10]);
-}
-
-TEST(Filled, RefusesAResultThatWasNeverSet) {
   EXPECT_EQ(Filled(std::optional<int>(3)), 3);
   EXPECT_ERROR(Subscript, Filled(std::optional<int>()));
 }
@@ -43,29 +41,25 @@ TEST(SessionTable, HoldsRecords0To1000) {
   EXPECT_EQ(session.Records[1000].CityName, "Delhi");
   for (const std::int16_t outside : {std::int16_t{-1}, std::int16_t{1001}}) {
     session.CurrentRecord = outside;
-    EXPECT_ERROR(Subscript, session.Current().CityName = "elsewhere");
+    EXPECT_ERROR(Subscript, session.Current());
     EXPECT_ERROR(Subscript, InitSessionRecord(session, 0));
   }
 }
 
 TEST(SessionTable, FillsOnlyAFreshRecord) {
   SessionTable session;
-  session.Current().PersonName = "left over";
+  SessionRecord& record = session.Current();
+  record.PersonName = "left over";
   InitSessionRecord(session, DateFromParts(2011, 3, 5) + TimeFromParts(6, 12, 9));
-  const SessionRecord& record = session.Current();
   EXPECT_EQ(record.PersonName, "");
   EXPECT_EQ(record.RecordFlag, -1);
   EXPECT_EQ(record.RahuKetuFlag, -1);
   EXPECT_EQ(record.AyanamsaChoice, 0);
-  EXPECT_EQ(record.Day, 5);
-  EXPECT_EQ(record.Month, 3);
-  EXPECT_EQ(record.Year, 2011);
-  EXPECT_EQ(record.Hour, 6);
-  EXPECT_EQ(record.Minute, 12);
-  EXPECT_EQ(record.Second, 9);
-
+  const std::array filled = {record.Day,  record.Month,  record.Year,
+                             record.Hour, record.Minute, record.Second};
+  EXPECT_EQ(filled, (std::array<double, 6>{5, 3, 2011, 6, 12, 9}));
   InitSessionRecord(session, DateFromParts(2030, 1, 1));
-  EXPECT_EQ(session.Current().Year, 2011);
+  EXPECT_EQ(record.Year, 2011);
 }
 
 }  // namespace

@@ -14,22 +14,9 @@ namespace {
 
 using Phrases = std::map<std::string, std::string>;
 
-// The words the calculations give out; the three-letter codes beside the names they shorten.
 constexpr std::string_view kVocabulary =
-    "Asc,Sun,Moon,Mars,Mercury,Jupiter,Venus,Saturn,Rahu,Ketu,Uranus,Neptune,Pluto,MOO,MON,MAR,"
-    "MER,JUP,VEN,SAT,RAH,KET,URA,NEP,PLU,Aries,Taurus,Gemini,Cancer,Leo,Virgo,Libra,Scorpio,"
-    "Sagittarius,Capricorn,Aquarius,Pisces,Ashwini,Bharani,Krittika,Rohini,Mrigasira,Ardra,"
-    "Punarva,Pushya,Ashlesha,Magha,P. Phalg,U. Phalg,Hasta,Chitra,Swati,Vishakha,Anuradha,"
-    "Jyeshtha,Moola,P. Asadh,U. Asadh,Shravana,Dhanista,Shatabhi,P. Bhadra,U. Bhadra,Revati,"
-    "Ashvani,Bharni,Kartika,Mrigsira,Punarvasu,Pusya,Aslesha,P.Phalguni,U.Phalguni,P.Ashadha,"
-    "U.Ashadha,Sharvana,Dhanishtha,Satbisa,P.Bhadrapa,U.Bhadrapad,Revti,Pratipada,Dvitiya,Tritiya,"
-    "Chaturthi,Panchami,Shashthi,Saptami,Ashtami,Navami,Dashmi,Ekadashi,Dwadashi,Trayodashi,"
-    "Chaturdashi,Purnima,Amavasya,Shukla,Krishna,Viskumbh,Priti,Ayushman,Saubhagya,Sobhana,"
-    "Atiganda,Sukarma,Dhriti,Sula,Gand,Vriddhi,Dhruva,Vyaghata,Harsana,Vajra,Siddhi,Vyatipata,"
-    "Variyan,Parigha,Siva,Siddha,Sadhya,Subha,Brahma,Indra,Vaidhriti,KINSTUGHNA,BAVA,BALAVA,"
-    "KAULAV,TAITIL,GAR,VANIJ,VISHTI,SHAKUNI,CHATUSHPAD,NAG,VASANT,GRISHMA,VARSHA,SHARAD,HEMANT,"
-    "SHISHIR,UTTAR,DAKSHIN,CHAITRA,VAISAKHA,JYAISTHA,ASADHA,SRAVANA,BHADRA,ASVINA,MARGSHIRSH,"
-    "PAUSA,PHALGUNA,COM,DEB,EXL,Ayanamsa,:";
+#include "foundation/vocabulary.inc"
+    ;
 
 // Whether every character stands in the block of 128 from `start`, of those with three bytes.
 bool InScript(std::string_view phrase, int start) {

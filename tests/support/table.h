@@ -1,0 +1,34 @@
+// A function held against a table: a row has its arguments and, last, its result.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <tuple>
+
+namespace support {
+
+template <typename... Columns>
+std::tuple<Columns...> Row(Columns... columns) {
+  return {columns...};
+}
+
+// Figures of a row are plain numbers, whatever the function takes.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wconversion"
+template <typename Function, typename... Columns>
+void ExpectRow(const Function& function, const std::tuple<Columns...>& row) {
+  constexpr std::size_t kArguments = sizeof...(Columns) - 1;
+  const auto result = [&]<std::size_t... I>(std::index_sequence<I...>) {
+    return function(std::get<I>(row)...);
+  };
+  EXPECT_EQ(result(std::make_index_sequence<kArguments>()), std::get<kArguments>(row))
+      << "in the row " << testing::PrintToString(row);
+}
+#pragma GCC diagnostic pop
+
+template <typename Function, typename... Rows>
+void ExpectRows(const Function& function, const Rows&... rows) {
+  (ExpectRow(function, rows), ...);
+}
+
+}  // namespace support
