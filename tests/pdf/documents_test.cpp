@@ -19,22 +19,18 @@ constexpr char kWrapped[] =
 #include "documents/wrap_size12.inc"
     ;
 
-// With the metrics of the fourteen faces.
-struct FullPaper : Paper {
-  FullPaper() { printer.PDFLoadAfm(METRICS_FOLDER); }
-};
+using Documents = PaperTest;
 
-TEST(Documents, TwoBookmarks) {
-  FullPaper paper;
-  paper.printer.PDFUseOutlines(true);
-  paper.printer.PDFSetBookmark("A", 0, 10);
-  paper.printer.PDFSetBookmark("A1", 1, 20);
-  EXPECT_TRUE(Holds(paper.Whole(), AsWritten(kOutline)));
+TEST_F(Documents, TwoBookmarks) {
+  printer.PDFLoadAfm(METRICS_FOLDER);
+  printer.PDFUseOutlines(true);
+  printer.PDFSetBookmark("A", 0, 10);
+  printer.PDFSetBookmark("A1", 1, 20);
+  EXPECT_TRUE(Holds(Whole(), AsWritten(kOutline)));
 }
 
-TEST(Documents, ShapesFilledAndOutlined) {
-  FullPaper paper;
-  PDFPrinter& printer = paper.printer;
+TEST_F(Documents, ShapesFilledAndOutlined) {
+  printer.PDFLoadAfm(METRICS_FOLDER);
   printer.PDFSetFont(0, 14, 0);
   printer.PDFSetLineColor("#C00000");
   printer.PDFSetDrawColor("#2060A0");
@@ -47,84 +43,75 @@ TEST(Documents, ShapesFilledAndOutlined) {
   printer.PDFDrawEllipse(450, 60, 90, 0, "");
   printer.PDFDrawPolygon({60, 300, 140, 200, 220, 300, 140, 260});
   printer.PDFDrawPolygon({260, 200, 420, 200, 420, 300, 260, 300});
-  EXPECT_EQ(printer.PDFGetX(), 450);
-  EXPECT_EQ(printer.PDFGetY(), 105);
-  EXPECT_EQ(paper.Content(), AsWritten(kShapes));
+  EXPECT_EQ(std::tuple(printer.PDFGetX(), printer.PDFGetY()), std::tuple(450, 105));
+  EXPECT_EQ(Content(), AsWritten(kShapes));
 }
 
-TEST(Documents, AWrappedText) {
-  FullPaper paper;
-  paper.printer.PDFSetFont(2, 12, 0);
-  paper.printer.PDFSetBorder(1);
-  paper.printer.PDFCell(
+TEST_F(Documents, AWrappedText) {
+  printer.PDFLoadAfm(METRICS_FOLDER);
+  printer.PDFSetFont(2, 12, 0);
+  printer.PDFSetBorder(1);
+  printer.PDFCell(
       "The five limbs of the almanac are reckoned from the places of the Sun and the Moon, and "
       "each of them ends at a moment that differs from day to day.",
       60, 60, 300, 16, "");
-  EXPECT_EQ(paper.Whole(), AsWritten(kWrapped));
-  EXPECT_EQ(paper.printer.PDFNbPage(), 1);
+  EXPECT_EQ(Whole(), AsWritten(kWrapped));
+  EXPECT_EQ(printer.PDFNbPage(), 1);
 }
 
-TEST(Documents, ASecondPageOpensWithTheMarkersOfTheTurn) {
-  Paper paper;
-  paper.printer.PDFFormatPage({200.5, 300});
-  paper.printer.PDFEndPage();
-  paper.printer.PDFNewPage();
-  EXPECT_EQ(paper.printer.PDFPageNumber(), 2);
-  paper.printer.PDFPageHeight(400);
-  EXPECT_EQ(paper.Content(2), AsWritten("%FIN_OBJ/%\n%DEBUT_OBJ/%\n%FIN_OBJ/%\n%DEBUT_OBJ/%\n"));
-  const std::string file = paper.File();
+TEST_F(Documents, ASecondPageOpensWithTheMarkersOfTheTurn) {
+  printer.PDFFormatPage({200.5, 300});
+  NewPage();
+  EXPECT_EQ(printer.PDFPageNumber(), 2);
+  printer.PDFPageHeight(400);
+  EXPECT_EQ(Content(2), AsWritten("%FIN_OBJ/%\n%DEBUT_OBJ/%\n%FIN_OBJ/%\n%DEBUT_OBJ/%\n"));
+  const std::string file = File();
   EXPECT_TRUE(Holds(file, AsWritten("/Kids [\n11 0 R\n12 0 R\n]\n/Count 2\n")));
   EXPECT_TRUE(
       Holds(file, AsWritten("/MediaBox [ 0 0 200.5 300]\n/Resources 10 0 R\n/Contents 2 ")));
   EXPECT_TRUE(
       Holds(file, AsWritten("/MediaBox [ 0 0 200.5 400]\n/Resources 10 0 R\n/Contents 4 ")));
-  EXPECT_EQ(paper.printer.PDFNbPage(), 2);
+  EXPECT_EQ(printer.PDFNbPage(), 2);
 }
 
-TEST(Documents, NeedAPageEndBeforeEachNewPage) {
-  Paper paper;
-  paper.printer.PDFNewPage();
-  EXPECT_ERROR(Subscript, paper.printer.PDFEndDoc());
+TEST_F(Documents, NeedAPageEndBeforeEachNewPage) {
+  printer.PDFNewPage();
+  EXPECT_ERROR(Subscript, printer.PDFEndDoc());
 }
 
-TEST(Documents, KeepTheirInformationAsGiven) {
-  Paper paper;
-  paper.printer.PDFTitle("a) été द");
-  paper.printer.PDFProducer("\\p");
-  paper.printer.PDFBeginDoc();
-  EXPECT_TRUE(Holds(paper.Whole(), AsWritten("/Producer (\\p)\n/Author ()\n")));
-  EXPECT_TRUE(Holds(paper.File(), "/Title (a) \xE9t\xE9 ?)"));
+TEST_F(Documents, KeepTheirInformationAsGiven) {
+  printer.PDFTitle("a) été द");
+  printer.PDFProducer("\\p");
+  printer.PDFBeginDoc();
+  EXPECT_TRUE(Holds(Whole(), AsWritten("/Producer (\\p)\n/Author ()\n")));
+  EXPECT_TRUE(Holds(File(), "/Title (a) \xE9t\xE9 ?)"));
 }
 
-TEST(Documents, OpenAsTheirSettingsAsk) {
-  struct Row {
-    void (*set)(PDFPrinter&);
-    std::string_view catalog;
-  };
-  const Row rows[] = {
-      {[](PDFPrinter& p) { p.PDFSetZoomMode(1), p.PDFSetLayoutMode(1); },
-       "/FitH null]\n/PageLayout /OneColumn\n>>"},
-      {[](PDFPrinter& p) { p.PDFSetZoomMode(2), p.PDFSetLayoutMode(2); },
-       "/XYZ null null 1]\n/PageLayout /TwoColumnLeft\n>>"},
-      {[](PDFPrinter& p) { p.PDFSetZoomMode(3), p.PDFSetLayoutMode(3); },
-       "/XYZ null null 0.03]\n>>"},
-      {[](PDFPrinter& p) { p.PDFUseThumbs(true), p.PDFUseOutlines(true); },
-       "/SinglePage\n/PageMode /UseThumbs\n/Outlines 0 0 R\n/PageMode /UseOutlines\n>>"},
-      {[](PDFPrinter& p) { p.PDFSetViewerPreferences(123); },
-       "/SinglePage\n/ViewerPreferences<<\n/HideMenubar true\n/HideToolbar true\n"
-       "/HideWindowUI true\n>>\n>>"},
-      {[](PDFPrinter& p) { p.PDFSetViewerPreferences(456); },
-       "<<\n/DisplayDocTitle true\n/CenterWindow true\n/FitWindow true\n>>\n>>"},
-  };
-  for (const Row& row : rows) {
+TEST_F(Documents, OpenAsTheirSettingsAsk) {
+  const auto opens = [](void (*set)(PDFPrinter&), std::string_view catalog) {
     Paper paper;
-    row.set(paper.printer);
-    EXPECT_TRUE(Holds(paper.Whole(), AsWritten(row.catalog))) << row.catalog;
-  }
+    set(paper.printer);
+    EXPECT_TRUE(Holds(paper.Whole(), AsWritten(catalog))) << catalog;
+  };
+  opens([](PDFPrinter& p) { p.PDFSetZoomMode(1), p.PDFSetLayoutMode(1); },
+        "/FitH null]\n/PageLayout /OneColumn\n>>");
+  opens([](PDFPrinter& p) { p.PDFSetZoomMode(2), p.PDFSetLayoutMode(2); },
+        "/XYZ null null 1]\n/PageLayout /TwoColumnLeft\n>>");
+  opens([](PDFPrinter& p) { p.PDFSetZoomMode(3), p.PDFSetLayoutMode(3); },
+        "/XYZ null null 0.03]\n>>");
+  opens([](PDFPrinter& p) { p.PDFUseThumbs(true), p.PDFUseOutlines(true); },
+        "/SinglePage\n/PageMode /UseThumbs\n/Outlines 0 0 R\n/PageMode /UseOutlines\n>>");
+  opens([](PDFPrinter& p) { p.PDFSetViewerPreferences(123); },
+        "/SinglePage\n/ViewerPreferences<<\n/HideMenubar true\n/HideToolbar true\n/HideWindowUI "
+        "true\n>>\n>>");
+  opens([](PDFPrinter& p) { p.PDFSetViewerPreferences(456); },
+        "<<\n/DisplayDocTitle true\n/CenterWindow true\n/FitWindow true\n>>\n>>");
 }
+
+using Outlines = PaperTest;
 
 // Objects 10 and on are the bookmarks, object 7 the page tree; worked out by hand.
-TEST(Outlines, TieBookmarksByTheirLevels) {
+TEST_F(Outlines, TieBookmarksByTheirLevels) {
   const std::pair<std::vector<std::int16_t>, std::string_view> rows[] = {
       {{0}, "/Parent 7"},
       {{0, 0, 0}, "/Parent 7/Parent 13/Parent 13/Next 12/Parent 13/Prev 11/Last 10"},
@@ -148,29 +135,28 @@ TEST(Outlines, TieBookmarksByTheirLevels) {
     }
     EXPECT_EQ(found, references);
   }
-  Paper paper;
-  paper.printer.PDFSetBookmark("", 0, 0);
-  paper.printer.PDFSetBookmark("", -1, 0);
-  EXPECT_ERROR(Subscript, paper.printer.PDFEndDoc());
+  printer.PDFSetBookmark("", 0, 0);
+  printer.PDFSetBookmark("", -1, 0);
+  EXPECT_ERROR(Subscript, printer.PDFEndDoc());
 }
 
-TEST(Files, ThatCannotBeMadeFailAtTheFirstWrite) {
-  Paper paper;
-  const std::string nowhere = (paper.folder.path / "none" / "a.pdf").string();
-  paper.printer.PDFFileName(nowhere);
-  EXPECT_EQ(paper.printer.PDFGetFileName(), nowhere);
-  EXPECT_ERROR(ObjectNotSet, paper.printer.PDFBeginDoc());
-  EXPECT_TRUE(paper.boxes.shown.empty());
+using Files = PaperTest;
+
+TEST_F(Files, ThatCannotBeMadeFailAtTheFirstWrite) {
+  const std::string nowhere = (folder.path / "none" / "a.pdf").string();
+  printer.PDFFileName(nowhere);
+  EXPECT_EQ(printer.PDFGetFileName(), nowhere);
+  EXPECT_ERROR(ObjectNotSet, printer.PDFBeginDoc());
+  EXPECT_TRUE(boxes.shown.empty());
 }
 
-TEST(Files, AreClosedAndConfirmed) {
-  Paper paper;
-  paper.printer.PDFConfirm(true);
-  paper.printer.PDFEndDoc();
-  ASSERT_EQ(paper.boxes.shown.size(), 1U);
-  EXPECT_EQ(paper.boxes.shown[0].text, "Fichier PDF généré.");
-  EXPECT_EQ(paper.boxes.shown[0].title, "Génération du Fichier PDF - vrPDF 4.0");
-  EXPECT_ERROR(ObjectNotSet, paper.printer.PDFBeginDoc());
+TEST_F(Files, AreClosedAndConfirmed) {
+  printer.PDFConfirm(true);
+  printer.PDFEndDoc();
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_EQ(boxes.shown[0].text, "Fichier PDF généré.");
+  EXPECT_EQ(boxes.shown[0].title, "Génération du Fichier PDF - vrPDF 4.0");
+  EXPECT_ERROR(ObjectNotSet, printer.PDFBeginDoc());
 }
 
 }  // namespace

@@ -4,36 +4,38 @@
 
 #include "paper.h"
 #include "support/errors.h"
+#include "support/table.h"
 
 namespace pdf {
 namespace {
 
+using support::ExpectRows;
+using support::Row;
+
 namespace fs = std::filesystem;
 
-TEST(Fonts, AreNamedByFamilyAndStyle) {
-  struct Row {
-    int font, style;
-    std::string_view width;  // of "Durvela" in thousandths of the size, added up from the files
-  };
-  const Row rows[] = {{0, 0, "3445"}, {1, 0, "4200"}, {2, 0, "3221"}, {0, 12, "3668"},
-                      {2, 2, "3444"}, {2, 1, "3277"}, {2, 12, "3333"}};
-  Paper paper;
-  paper.printer.PDFLoadAfm(METRICS_FOLDER);
-  EXPECT_EQ(paper.printer.PDFGetStringWidth("A", "Helvetica", 10), 6.67);
-  EXPECT_EQ(paper.printer.PDFGetStringWidth("", "Helvetica", 10), 0);
+using Fonts = PaperTest;
+
+TEST_F(Fonts, AreNamedByFamilyAndStyle) {
+  printer.PDFLoadAfm(METRICS_FOLDER);
+  EXPECT_EQ(printer.PDFGetStringWidth("A", "Helvetica", 10), 6.67);
+  EXPECT_EQ(printer.PDFGetStringWidth("", "Helvetica", 10), 0);
   // The files know another encoding, in which the byte is that of "Ø".
-  EXPECT_EQ(paper.printer.PDFGetStringWidth("é", "Helvetica", 10), 7.78);
-  for (const Row& row : rows) {
-    paper.printer.PDFSetFont(row.font, 10, row.style);
-    EXPECT_EQ(foundation::NumberText(paper.printer.PDFGetStringWidth("Durvela", "", 1000)),
-              row.width);
-  }
-  paper.printer.PDFSetFont(9, 10, 0);
-  EXPECT_ERROR(FileNotFound, paper.printer.PDFGetStringWidth("", "", 10));
+  EXPECT_EQ(printer.PDFGetStringWidth("é", "Helvetica", 10), 7.78);
+  // Thousandths of the size, added up from the files.
+  const auto width = [&](int font, int style) {
+    printer.PDFSetFont(font, 10, style);
+    return foundation::NumberText(printer.PDFGetStringWidth("Durvela", "", 1000));
+  };
+  ExpectRows(width, Row(0, 0, "3445"), Row(1, 0, "4200"), Row(2, 0, "3221"), Row(0, 12, "3668"),
+             Row(2, 2, "3444"), Row(2, 1, "3277"), Row(2, 12, "3333"));
+  printer.PDFSetFont(9, 10, 0);
+  EXPECT_ERROR(FileNotFound, printer.PDFGetStringWidth("", "", 10));
 }
 
-TEST(FontFolders, GrowFromTheStart) {
-  const MetricsScope folder;
+using FontFolders = PaperTest;
+
+TEST_F(FontFolders, GrowFromTheStart) {
   FontFolder fonts;
   fonts.PDFLoadAfm(folder.path);
   EXPECT_EQ(fonts.Names(), (std::vector<std::string>{"Courier", "Helvetica", "Times-Roman"}));
@@ -50,18 +52,15 @@ TEST(FontFolders, GrowFromTheStart) {
   EXPECT_ERROR(Subscript, FontFolder().Widths(""));
 }
 
-TEST(FontFolders, SeeAChangedFileOnTheNextPage) {
-  Paper paper;
-  const auto width = [&] { return paper.printer.PDFGetStringWidth("A", "Courier", 10); };
+TEST_F(FontFolders, SeeAChangedFileOnTheNextPage) {
+  const auto width = [&] { return printer.PDFGetStringWidth("A", "Courier", 10); };
   EXPECT_EQ(width(), 5);
-  paper.folder.Write("Courier.afm", "StartCharMetrics 1\nC 65 ; WX 900 ;\nEndCharMetrics\n");
+  folder.Write("Courier.afm", "StartCharMetrics 1\nC 65 ; WX 900 ;\nEndCharMetrics\n");
   EXPECT_EQ(width(), 5);
-  paper.printer.PDFEndPage();
-  paper.printer.PDFNewPage();
+  NewPage();
   EXPECT_EQ(width(), 9);
-  fs::remove(paper.folder.path / "Courier.afm");
-  paper.printer.PDFEndPage();
-  paper.printer.PDFNewPage();
+  fs::remove(folder.path / "Courier.afm");
+  NewPage();
   EXPECT_ERROR(FileNotFound, width());
 }
 

@@ -29,30 +29,22 @@ std::string Jpeg(const std::string& segments, std::size_t size = 250) {
 }
 
 TEST(JpegScan, FindsSizeAndColours) {
-  struct Row {
-    std::string segments;
-    int width, height, bits;
-    std::string_view colourSpace;
-  };
-  const Row rows[] = {
-      {Jfif(0) + Frame('\xC0', 20, 12, 1), 20, 12, 8, "DeviceGray"},
-      {Jfif(2) + Frame('\xC2', 600, 400, 3), 600, 400, 8, "DeviceRGB"},
-      {Frame('\xC7', 1, 65535, 4), 1, 65535, 8, "DeviceCMYK"},
-      {Frame('\xC1', 3, 2, 2), 3, 2, 16, ""},
-      {Frame('\xC4', 3, 2, 3) + Frame('\xC0', 20, 12, 3), 20, 12, 8, "DeviceRGB"},
-      {Frame('\xC0', 20, 12, 3) + Frame('\xC5', 9, 8, 1), 9, 8, 8, "DeviceGray"},
-      // Fill bytes hide the marker behind them.
-      {"\xFF" + Frame('\xC0', 20, 12, 3) + Frame('\xC0', 9, 8, 1), 9, 8, 8, "DeviceGray"},
-  };
-  for (const Row& row : rows) {
+  const auto finds = [](const std::string& segments, int width, int height, int bits,
+                        std::string_view colourSpace) {
     PDFImageRecord record;
-    EXPECT_EQ(PDFParseJpeg(Jpeg(row.segments), record), "");
-    EXPECT_EQ(record.width, row.width);
-    EXPECT_EQ(record.height, row.height);
-    EXPECT_EQ(record.bitsPerComponent, row.bits);
-    EXPECT_EQ(record.colourSpace, row.colourSpace);
-    EXPECT_EQ(record.data, Jpeg(row.segments));
-  }
+    EXPECT_EQ(PDFParseJpeg(Jpeg(segments), record), "");
+    EXPECT_EQ(std::tuple(record.width, record.height, record.bitsPerComponent, record.colourSpace),
+              std::tuple(width, height, bits, colourSpace));
+    EXPECT_EQ(record.data, Jpeg(segments));
+  };
+  finds(Jfif(0) + Frame('\xC0', 20, 12, 1), 20, 12, 8, "DeviceGray");
+  finds(Jfif(2) + Frame('\xC2', 600, 400, 3), 600, 400, 8, "DeviceRGB");
+  finds(Frame('\xC7', 1, 65535, 4), 1, 65535, 8, "DeviceCMYK");
+  finds(Frame('\xC1', 3, 2, 2), 3, 2, 16, "");
+  finds(Frame('\xC4', 3, 2, 3) + Frame('\xC0', 20, 12, 3), 20, 12, 8, "DeviceRGB");
+  finds(Frame('\xC0', 20, 12, 3) + Frame('\xC5', 9, 8, 1), 9, 8, 8, "DeviceGray");
+  // Fill bytes hide the marker behind them.
+  finds("\xFF" + Frame('\xC0', 20, 12, 3) + Frame('\xC0', 9, 8, 1), 9, 8, 8, "DeviceGray");
 }
 
 TEST(JpegScan, RefusesWhatItCannotUse) {
@@ -65,8 +57,7 @@ TEST(JpegScan, RefusesWhatItCannotUse) {
       {Jpeg("") + "\n", marker},
       {late, marker},
       {Jpeg(Jfif(3)),
-       "Erreur de résolution d'image , l'Opcode est 3Les Opcodes valides sont  0, "
-       "1, 2."}};
+       "Erreur de résolution d'image , l'Opcode est 3Les Opcodes valides sont  0, 1, 2."}};
   for (const auto& [file, text] : rows) {
     PDFImageRecord record;
     EXPECT_EQ(PDFParseJpeg(file, record), text + outcome);
@@ -78,39 +69,34 @@ TEST(JpegScan, RefusesWhatItCannotUse) {
   EXPECT_ERROR(Subscript, PDFParseJpeg(lying, record));
 }
 
-TEST(Images, ArePlacedInTheirSize) {
-  struct Row {
-    double w, h;
-    std::string_view operation;
-    int x, y;  // points, whatever the unit
-  };
-  const Row rows[] = {{0, 0, "60.00 0 0 30.00 10.00 801.89 cm", 70, 40},
-                      {2, 0, "144.00 0 0 72.00 10.00 759.89 cm", 154, 82},
-                      {0, 2, "288.00 0 0 144.00 10.00 687.89 cm", 298, 154},
-                      {1, 1, "72.00 0 0 72.00 10.00 759.89 cm", 82, 82}};
-  for (const Row& row : rows) {
+using Images = PaperTest;
+
+TEST_F(Images, ArePlacedInTheirSize) {
+  // Inches to an operation, and the position then: points, whatever the unit.
+  const auto placed = [](double width, double height, const std::string& operation, int x, int y) {
     Paper paper;
     paper.folder.Write("a.jpg", Jpeg(Frame('\xC0', 60, 30, 3)));
-    paper.printer.PDFSetUnit(3);
-    const double unit = 1440;
-    paper.printer.PDFImage((paper.folder.path / "a.jpg").string(), 200, 200, row.w * unit,
-                           row.h * unit, "");
-    EXPECT_EQ(paper.printer.PDFGetX(), row.x);
-    EXPECT_EQ(paper.printer.PDFGetY(), row.y);
-    EXPECT_EQ(paper.Content(), AsWritten("q\n" + std::string(row.operation) + " /ImgJPEG1 Do Q\n"));
-  }
+    PDFPrinter& p = paper.printer;
+    p.PDFSetUnit(3);
+    p.PDFImage((paper.folder.path / "a.jpg").string(), 200, 200, width * 1440, height * 1440, "");
+    EXPECT_EQ(std::tuple(p.PDFGetX(), p.PDFGetY()), std::tuple(x, y));
+    EXPECT_EQ(paper.Content(), AsWritten("q\n" + operation + " /ImgJPEG1 Do Q\n"));
+  };
+  placed(0, 0, "60.00 0 0 30.00 10.00 801.89 cm", 70, 40);
+  placed(2, 0, "144.00 0 0 72.00 10.00 759.89 cm", 154, 82);
+  placed(0, 2, "288.00 0 0 144.00 10.00 687.89 cm", 298, 154);
+  placed(1, 1, "72.00 0 0 72.00 10.00 759.89 cm", 82, 82);
 }
 
-TEST(Images, StandWholeInTheirObjects) {
-  Paper paper;
+TEST_F(Images, StandWholeInTheirObjects) {
   const std::string jpeg = Jpeg(Jfif(1));
-  paper.folder.Write("a.jpeg", jpeg);
-  const std::string file = (paper.folder.path / "a.jpeg").string();
-  EXPECT_EQ(paper.printer.PDFImageWidth(file), 0);
-  paper.printer.PDFImage(file, 1, 1, 5, 5, 7);
-  EXPECT_EQ(paper.boxes.shown.at(0).title, "Lien URL Fichier Image - vrPDF 4.0");
-  EXPECT_ERROR(DivisionByZero, paper.printer.PDFImage(file, 1, 1, 0, 0, ""));
-  const std::string whole = paper.Whole();
+  folder.Write("a.jpeg", jpeg);
+  const std::string file = (folder.path / "a.jpeg").string();
+  EXPECT_EQ(printer.PDFImageWidth(file), 0);
+  printer.PDFImage(file, 1, 1, 5, 5, 7);
+  EXPECT_EQ(boxes.shown.at(0).title, "Lien URL Fichier Image - vrPDF 4.0");
+  EXPECT_ERROR(DivisionByZero, printer.PDFImage(file, 1, 1, 0, 0, ""));
+  const std::string whole = Whole();
   EXPECT_TRUE(Holds(whole, AsWritten("/XObject << \n/ImgJPEG1 9 0 R\n>>\n")));
   EXPECT_TRUE(
       Holds(whole,
@@ -120,7 +106,7 @@ TEST(Images, StandWholeInTheirObjects) {
                 jpeg + AsWritten("\nendstream\nendobj\n\n10 0 obj\n")));
 }
 
-TEST(Images, AreRefusedByTheirNames) {
+TEST_F(Images, AreRefusedByTheirNames) {
   const std::string outcome = "\r\nImpossible d'inclure l'image dans le fichier PDF.";
   const std::string kind =
       "Format d'image non supportée.\r\nSeule les images de types JPG sont supportées.";

@@ -5,89 +5,61 @@
 #include "paper.h"
 #include "pdf/tokens.h"
 #include "support/errors.h"
+#include "support/table.h"
 
 namespace pdf {
 namespace {
 
+using support::ExpectRows;
+using support::Row;
+
 TEST(Numbers, AreWrittenWithoutALocale) {
-  struct Row {
-    double value;
-    int decimals;
-    std::string_view text;
-  };
-  const Row rows[] = {
-      {12, 2, "12.00"},
-      {0.5, 2, "0.50"},
-      {-0.003, 2, "-0.00"},
-      {-0.0, 2, "0.00"},
-      {0.125, 2, "0.12"},
-      {0.375, 2, "0.38"},
-      {1.005, 2, "1.00"},
-      {-2.675, 2, "-2.67"},
-      {0.995, 2, "0.99"},
-      {9.999, 2, "10.00"},
-      {-41.996, 2, "-42.00"},
-      {0.0005, 3, "0.001"},
-      {1234567.891, 1, "1234567.9"},
-      {3e9, 2, "3000000000.00"},
-      {0.7071054, 5, "0.70711"},
-  };
-  for (const Row& row : rows) EXPECT_EQ(PDFFormatNumber(row.value, row.decimals), row.text);
+  ExpectRows(PDFFormatNumber, Row(12, 2, "12.00"), Row(0.5, 2, "0.50"), Row(-0.003, 2, "-0.00"),
+             Row(-0.0, 2, "0.00"), Row(0.125, 2, "0.12"), Row(0.375, 2, "0.38"),
+             Row(1.005, 2, "1.00"), Row(-2.675, 2, "-2.67"), Row(0.995, 2, "0.99"),
+             Row(9.999, 2, "10.00"), Row(-41.996, 2, "-42.00"), Row(0.0005, 3, "0.001"),
+             Row(1234567.891, 1, "1234567.9"), Row(3e9, 2, "3000000000.00"),
+             Row(0.7071054, 5, "0.70711"));
   EXPECT_EQ(PDFFormatNumber(1e300, 2).size(), 304U);
   EXPECT_ERROR(Overflow, PDFFormatNumber(1e308 * 10, 2));
-
-  const std::pair<double, std::string_view> general[] = {{595.28, "595.28"},
-                                                         {0.5, "0.5"},
-                                                         {-0.0, "0"},
-                                                         {0.00001, "0.00001"},
-                                                         {1e17, "100000000000000000"}};
-  for (const auto& [value, text] : general) EXPECT_EQ(GeneralNumber(value), text);
+  ExpectRows(GeneralNumber, Row(595.28, "595.28"), Row(0.5, "0.5"), Row(-0.0, "0"),
+             Row(0.00001, "0.00001"), Row(1e17, "100000000000000000"));
 }
 
-TEST(PageSetup, TakesItsUnits) {
-  Paper paper;
-  PDFPrinter& printer = paper.printer;
+using PageSetup = PaperTest;
+
+TEST_F(PageSetup, TakesItsUnits) {
   printer.PDFSetFont(0, 10, 0);
-  const std::tuple<int, std::string_view, double> units[] = {{0, "pt", 10},
-                                                             {1, "mm", 720 / 25.4},
-                                                             {2, "cm", 720 / 2.54},
-                                                             {3, "", 0.5},
-                                                             {4, "cm", 720 / 2.54}};
-  for (const auto& [code, name, height] : units) {
+  const auto unit = [&](int code, double height) {
     printer.PDFSetUnit(code);
-    EXPECT_EQ(printer.PDFGetUnit(), name);
     EXPECT_DOUBLE_EQ(printer.PDFTextHeight(), height) << code;
-  }
+    return printer.PDFGetUnit();
+  };
+  ExpectRows(unit, Row(0, 10, "pt"), Row(1, 720 / 25.4, "mm"), Row(2, 720 / 2.54, "cm"),
+             Row(3, 0.5, ""), Row(4, 720 / 2.54, "cm"));
 }
 
-TEST(PageSetup, RoundsMarginsToWholeUnits) {
-  Paper paper;
-  PDFPrinter& printer = paper.printer;
+TEST_F(PageSetup, RoundsMarginsToWholeUnits) {
   printer.PDFSetMargins(2, 3, -1, -1);
-  EXPECT_EQ(printer.PDFGetRightMargin(), 2);
-  EXPECT_EQ(printer.PDFGetBottomMargin(), 3);
+  EXPECT_EQ(std::tuple(printer.PDFGetRightMargin(), printer.PDFGetBottomMargin()),
+            std::tuple(2, 3));
   printer.PDFSetLeftMargin(2.5);
-  EXPECT_EQ(printer.PDFGetLeftMargin(), 2);
   printer.PDFSetTopMargin(3.5);
-  EXPECT_EQ(printer.PDFGetTopMargin(), 4);
+  EXPECT_EQ(std::tuple(printer.PDFGetLeftMargin(), printer.PDFGetTopMargin()), std::tuple(2, 4));
   EXPECT_EQ(printer.PDFGetCellMargin(), 3);
   EXPECT_ERROR(Overflow, printer.PDFSetCellMargin(32768));
   EXPECT_EQ(printer.PDFGetX(), 1);
-  printer.PDFEndPage();
-  printer.PDFNewPage();
-  EXPECT_EQ(printer.PDFGetX(), 2);
-  EXPECT_EQ(printer.PDFGetY(), 4);
+  NewPage();
+  EXPECT_EQ(std::tuple(printer.PDFGetX(), printer.PDFGetY()), std::tuple(2, 4));
 }
 
-TEST(PageSetup, TakesItsFormats) {
-  Paper paper;
-  PDFPrinter& printer = paper.printer;
-  const std::pair<Argument, std::pair<double, double>> formats[] = {
+TEST_F(PageSetup, TakesItsFormats) {
+  const std::pair<Argument, std::tuple<double, double>> formats[] = {
       {2, {420.94, 595.28}},  {3, {612, 792}},          {9, {595.28, 841.89}},
       {1, {841.89, 1190.55}}, {"A3", {595.28, 841.89}}, {Argument{7.5, 8}, {7.5, 8}}};
   for (const auto& [format, size] : formats) {
     printer.PDFFormatPage(format);
-    EXPECT_EQ(std::pair(printer.PDFGetPageWidth(), printer.PDFGetPageHeight()), size);
+    EXPECT_EQ(std::tuple(printer.PDFGetPageWidth(), printer.PDFGetPageHeight()), size);
   }
   printer.PDFOrientation(0);
   EXPECT_EQ(printer.PDFGetPageWidth(), 8);
@@ -97,12 +69,14 @@ TEST(PageSetup, TakesItsFormats) {
   EXPECT_EQ(printer.PDFGetPageWidth(), 7.5);
 }
 
-TEST(WrongCodes, AreToldAndReplaced) {
-  struct Row {
+using WrongCodes = PaperTest;
+
+TEST_F(WrongCodes, AreToldAndReplaced) {
+  struct Told {
     void (*call)(PDFPrinter&);
     std::string_view subject, text;
   };
-  const Row rows[] = {
+  const Told rows[] = {
       {[](PDFPrinter& p) { p.PDFSetLayoutMode(4); }, "Layout Mode",
        "Layout incorrect : 4.\r\nLe Layout utilisé sera le layout simple."},
       {[](PDFPrinter& p) { p.PDFSetUnit(-1); }, "Code Unité de Mesure",
@@ -131,17 +105,17 @@ TEST(WrongCodes, AreToldAndReplaced) {
       {[](PDFPrinter& p) { p.PDFDrawEllipse(0, 0, 9, 9, 0.5); }, "Lien URL Objet Ellipse",
        "URL objet ellipse non valide : 0.5.\r\nImpossible d'inclure le lien dans l'ellipse."},
   };
-  for (const Row& row : rows) {
+  for (const Told& row : rows) {
     Paper paper;
     row.call(paper.printer);
     ASSERT_EQ(paper.boxes.shown.size(), 1U) << row.subject;
-    EXPECT_EQ(paper.boxes.shown[0].title, std::string(row.subject) + " - vrPDF 4.0");
-    EXPECT_EQ(paper.boxes.shown[0].text, row.text);
-    EXPECT_EQ(paper.boxes.shown[0].icon, foundation::MessageIcon::Critical);
+    const auto& box = paper.boxes.shown[0];
+    EXPECT_EQ(box.title, std::string(row.subject) + " - vrPDF 4.0");
+    EXPECT_EQ(box.text, row.text);
+    EXPECT_EQ(box.icon, foundation::MessageIcon::Critical);
   }
-  Paper paper;
-  paper.printer.PDFDrawRectangle(0, 0, 9, 9, 5);
-  EXPECT_TRUE(paper.boxes.shown.empty());
+  printer.PDFDrawRectangle(0, 0, 9, 9, 5);
+  EXPECT_TRUE(boxes.shown.empty());
 }
 
 }  // namespace

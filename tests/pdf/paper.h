@@ -2,6 +2,8 @@
 // wide as the font is high.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <string_view>
 
@@ -26,6 +28,17 @@ inline std::string AsWritten(std::string_view text) {
     bytes += c == '~' ? '\r' : c;
   }
   return bytes;
+}
+
+// A content of documents/contents.inc.
+inline std::string KnownContent(std::string_view name) {
+  constexpr std::pair<std::string_view, std::string_view> kContents[] = {
+#include "pdf/documents/contents.inc"
+  };
+  for (const auto& [known, content] : kContents) {
+    if (known == name) return AsWritten(content);
+  }
+  return "no content of that name";
 }
 
 struct MetricsScope : support::AppFolderScope {
@@ -54,6 +67,11 @@ struct Paper {
 
   std::string File() const { return foundation::ReadFile(folder.path / "paper.pdf"); }
 
+  void NewPage() {
+    printer.PDFEndPage();
+    printer.PDFNewPage();
+  }
+
   // Ends the document.
   std::string Whole() {
     printer.PDFEndDoc();
@@ -69,6 +87,17 @@ struct Paper {
     return file.substr(start, file.find("endstream\r\n", start) - start);
   }
 };
+
+// A test of a document.
+struct PaperTest : testing::Test, Paper {};
+
+// The content of a page on which `draw` has drawn.
+template <typename Draw>
+std::string ContentOf(const Draw& draw) {
+  Paper paper;
+  draw(paper.printer);
+  return paper.Content();
+}
 
 inline bool Holds(std::string_view text, std::string_view part) {
   return text.find(part) != std::string_view::npos;
