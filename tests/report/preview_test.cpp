@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "foundation/version.h"
 #include "report/page_bands.h"
 #include "report/page_files.h"
@@ -12,14 +14,14 @@
 namespace report {
 namespace {
 
-using Calls = std::vector<std::string>;
-
 class Preview : public testing::Test {
  protected:
   Preview() {
     reporting_.Make(foundation::DateFromParts(2011, 1, 30), foundation::DateFromParts(2011, 3, 2));
     preview_.Form_Load();
   }
+
+  auto PagesPrinted() const { return std::ranges::count(reporting_.printer.calls, "NewPage"); }
 
   Reporting reporting_;
   frmSPkun& preview_ = reporting_.preview;
@@ -118,21 +120,20 @@ TEST_F(Preview, SlidesItsPanelInAndOut) {
 
 TEST_F(Preview, PrintsAllPages) {
   preview_.cmdPrint.onClick();
-  const Calls all = {
-      "AskUser",           "Orientation 1", "Print 0 0 ",        "PaintPicture 0 0 ", "NewPage",
-      "PaintPicture 0 0 ", "NewPage",       "PaintPicture 0 0 ", "NewPage",           "EndDoc"};
-  Calls calls = reporting_.printer.calls;
-  for (std::string& call : calls) {
-    if (call.starts_with("PaintPicture 0 0 ")) call.resize(17);  // the size is the picture's
+  std::string calls;
+  for (const std::string& call : reporting_.printer.calls) {
+    const bool paints = call.starts_with("PaintPicture 0 0 ");  // and then the picture's size
+    calls += (paints ? call.substr(0, 17) : call) + "|";
   }
-  EXPECT_EQ(calls, all);
+  EXPECT_EQ(calls,
+            "AskUser|Orientation 1|Print 0 0 |PaintPicture 0 0 |NewPage|PaintPicture 0 0 |"
+            "NewPage|PaintPicture 0 0 |NewPage|EndDoc|");
 }
 
 TEST_F(Preview, PrintsNoMorePagesThanThereAre) {
   preview_.AddPage(kCachePage, "Durvela again ..P1");
   preview_.cmdPrint.onClick();
-  EXPECT_EQ(std::count(reporting_.printer.calls.begin(), reporting_.printer.calls.end(), "NewPage"),
-            4);
+  EXPECT_EQ(PagesPrinted(), 4);
 }
 
 TEST_F(Preview, AsksWhetherToGoOnAfterAFailure) {
@@ -142,15 +143,14 @@ TEST_F(Preview, AsksWhetherToGoOnAfterAFailure) {
   ASSERT_EQ(reporting_.boxes.shown.size(), 1U);
   EXPECT_EQ(reporting_.boxes.shown[0].text,
             "Invalid procedure call or argument. Do you want to continue with the next page?");
-  EXPECT_EQ(std::count(reporting_.printer.calls.begin(), reporting_.printer.calls.end(), "NewPage"),
-            3);
+  EXPECT_EQ(PagesPrinted(), 3);
   reporting_.boxes.answer = foundation::MessageAnswer::No;
   reporting_.printer.calls.clear();
   reporting_.printer.cancelled = true;
   preview_.cmdPrint.onClick();
   EXPECT_EQ(reporting_.boxes.shown[1].text,
             "Cancel was selected. Do you want to continue with the next page?");
-  EXPECT_EQ(reporting_.printer.calls, (Calls{"AskUser", "EndDoc"}));
+  EXPECT_EQ(reporting_.printer.calls, (std::vector<std::string>{"AskUser", "EndDoc"}));
 }
 
 TEST_F(Preview, PrintsThePageThatItShows) {

@@ -40,13 +40,8 @@ struct Reporting {
     return pages;
   }
 
-  int Files() const {
-    int files = 0;
-    for ([[maybe_unused]] const auto& entry :
-         std::filesystem::directory_iterator(folder.path / "temp")) {
-      ++files;
-    }
-    return files;
+  auto Files() const {
+    return std::distance(std::filesystem::directory_iterator(folder.path / "temp"), {});
   }
 
   // Texts of the target's Print calls, of the last page drawn.
