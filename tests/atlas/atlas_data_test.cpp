@@ -1,6 +1,7 @@
 // The city files as the build makes them, read back and held against the tables of places.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -26,10 +27,8 @@ std::vector<std::string> Lines(const fs::path& path, std::string_view lineEnd) {
   std::vector<std::string> lines;
   for (std::size_t begin = 0; begin < text.size();) {
     const std::size_t end = text.find(lineEnd, begin);
-    if (end == std::string::npos) {
-      ADD_FAILURE() << path << " ends within a line";
-      break;
-    }
+    EXPECT_NE(end, std::string::npos) << path << " ends within a line";
+    if (end == std::string::npos) break;
     lines.push_back(text.substr(begin, end - begin));
     begin = end + lineEnd.size();
   }
@@ -37,45 +36,26 @@ std::vector<std::string> Lines(const fs::path& path, std::string_view lineEnd) {
 }
 
 bool AllWithin(std::string_view text, unsigned char first, unsigned char last) {
-  for (const unsigned char c : text) {
-    if (c < first || c > last) return false;
-  }
-  return true;
+  return std::ranges::all_of(text, [&](unsigned char c) { return c >= first && c <= last; });
 }
 
 std::string Decoded(const std::string& line) {
   return atlas::DecodeText(foundation::ByteText(line), atlas::kAtlasKey).Bytes();
 }
 
-// Decimal degrees of a coordinate's text, as every calculation reads it; each text decoded once.
-class Coordinates {
- public:
-  double Latitude(const std::string& text) {
-    return Cached(latitudes_, text, [&] { return Decode("0.01E", text).ppLatitude; });
-  }
-  double Longitude(const std::string& text) {
-    return Cached(longitudes_, text, [&] { return Decode(text, "0.00N").ppLongitude; });
-  }
+// Decimal degrees of a latitude or longitude, as every calculation reads its text; each text is
+// decoded once.
+double Degrees(const std::string& text) {
+  static std::map<std::string, double> known;
+  if (const auto found = known.find(text); found != known.end()) return found->second;
+  const bool isLatitude = text.ends_with('N') || text.ends_with('S');
+  engine::clsPP place;
+  place.GenHoro(1, 1, 2000, 12, 0, 0, isLatitude ? "0.01E" : text, isLatitude ? text : "0.00N",
+                "0.0E", 0, foundation::kFalse16, 0);
+  return known[text] = isLatitude ? place.ppLatitude : place.ppLongitude;
+}
 
- private:
-  static engine::clsPP Decode(std::string_view longitude, std::string_view latitude) {
-    engine::clsPP place;
-    place.GenHoro(1, 1, 2000, 12, 0, 0, longitude, latitude, "0.0E", 0, foundation::kFalse16, 0);
-    return place;
-  }
-
-  static double Cached(std::map<std::string, double>& known, const std::string& text,
-                       const auto& decode) {
-    const auto found = known.find(text);
-    return found != known.end() ? found->second : known[text] = decode();
-  }
-
-  std::map<std::string, double> latitudes_;
-  std::map<std::string, double> longitudes_;
-};
-
-void CheckRecord(const std::string& line, const std::string& row, const std::string& country,
-                 Coordinates& coordinates) {
+void CheckRecord(const std::string& line, const std::string& row, const std::string& country) {
   SCOPED_TRACE(country + ": " + row);
   ASSERT_TRUE(AllWithin(line, 0x51, 0xD5));
   const std::string record = Decoded(line);
@@ -95,12 +75,13 @@ void CheckRecord(const std::string& line, const std::string& row, const std::str
   const auto text = [&](std::size_t i) { return std::string(fields[i]) += fields[i + 1]; };
   const double latitude = foundation::WholeNumber(given[2]).value();
   const double longitude = foundation::WholeNumber(given[3]).value();
-  ASSERT_NEAR(coordinates.Latitude(text(4)) * 60, latitude * 60, 0.5001) << record;
-  ASSERT_NEAR(coordinates.Longitude(text(6)) * 60, longitude * 60, 1.0001) << record;
+  ASSERT_TRUE(fields[5] == "N" || fields[5] == "S") << record;
+  ASSERT_TRUE(fields[7] == "E" || fields[7] == "W") << record;
+  ASSERT_NEAR(Degrees(text(4)) * 60, latitude * 60, 0.5001) << record;
+  ASSERT_NEAR(Degrees(text(6)) * 60, longitude * 60, 1.0001) << record;
 }
 
 TEST(AtlasData, HoldsEveryPlaceOfTheTablesAndDecodesToItsCoordinates) {
-  Coordinates coordinates;
   std::size_t records = 0;
   int countries = 0;
   for (const fs::path& table : fs::directory_iterator(PLACES_FOLDER)) {
@@ -109,7 +90,7 @@ TEST(AtlasData, HoldsEveryPlaceOfTheTablesAndDecodesToItsCoordinates) {
     const auto lines = Lines(fs::path(ATLAS_FOLDER) / (country + ".city"), "\r\n");
     ASSERT_EQ(lines.size() + 1, rows.size()) << country;
     for (std::size_t i = 0; i < lines.size(); ++i) {
-      CheckRecord(lines[i], rows[i + 1], country, coordinates);
+      CheckRecord(lines[i], rows[i + 1], country);
       if (HasFatalFailure()) return;
     }
     EXPECT_NE(atlas::getCountryZone(country), "") << country;
@@ -122,13 +103,10 @@ TEST(AtlasData, HoldsEveryPlaceOfTheTablesAndDecodesToItsCoordinates) {
 
 // Published coordinates of the towns, to a tenth of a degree.
 TEST(AtlasData, KnowsWhereTownsLie) {
-  struct Row {
-    const char* country;
-    const char* placeAndState;
-    double latitude;
-    double longitude;
-  };
-  const Row rows[] = {
+  const struct {
+    std::string country, placeAndState;
+    double latitude, longitude;
+  } towns[] = {
       {"India", "Delhi,Delhi,Delhi", 28.61, 77.23},
       {"India", "Mumbai,Mumbai,Maharashtra", 19.08, 72.88},
       {"India", "Ujjain,Ujjain,Madhya Pradesh", 23.18, 75.78},
@@ -139,22 +117,17 @@ TEST(AtlasData, KnowsWhereTownsLie) {
       {"USA", "New York City,New York City,New York", 40.71, -74.01},
       {"Fiji", "Nadi,Nadi,Western", -17.80, 177.42},
   };
-  for (const Row& row : rows) {
-    const std::string beginning = std::string(row.placeAndState) + ',' + row.country + ',';
-    std::vector<std::string> found;
-    for (const std::string& line :
-         Lines(fs::path(ATLAS_FOLDER) / (std::string(row.country) + ".city"), "\r\n")) {
-      if (const std::string record = Decoded(line); record.starts_with(beginning)) {
-        found.push_back(record);
-      }
+  for (const auto& [country, placeAndState, latitude, longitude] : towns) {
+    int found = 0;
+    for (const std::string& line : Lines(fs::path(ATLAS_FOLDER) / (country + ".city"), "\r\n")) {
+      const std::string record = Decoded(line);
+      if (!record.starts_with(placeAndState + ',' + country + ',')) continue;
+      const auto fields = Split(record, ',');
+      EXPECT_NEAR(Degrees(std::string(fields[4]) += fields[5]), latitude, 0.1) << record;
+      EXPECT_NEAR(Degrees(std::string(fields[6]) += fields[7]), longitude, 0.1) << record;
+      ++found;
     }
-    ASSERT_EQ(found.size(), 1U) << beginning;
-    const auto fields = Split(found[0], ',');
-    Coordinates coordinates;
-    EXPECT_NEAR(coordinates.Latitude(std::string(fields[4]) += fields[5]), row.latitude, 0.1)
-        << found[0];
-    EXPECT_NEAR(coordinates.Longitude(std::string(fields[6]) += fields[7]), row.longitude, 0.1)
-        << found[0];
+    EXPECT_EQ(found, 1) << placeAndState;
   }
 }
 

@@ -3,11 +3,14 @@
 #include "atlas/getCountryZone.h"
 #include "atlas/modEncDec.h"
 #include "support/errors.h"
+#include "support/table.h"
 
 namespace atlas {
 namespace {
 
 using foundation::ByteText;
+using support::ExpectRows;
+using support::Row;
 
 TEST(Scrambling, AddsTheKeyFromItsSecondCharacter) {
   EXPECT_EQ(EncodeText(ByteText("AB"), kAtlasKey), ByteText("\x90\x99"));
@@ -35,27 +38,12 @@ TEST(Scrambling, CountsIn16Bits) {
 }
 
 TEST(CountryZone, IsThatOfTheFirstRowOfTheName) {
-  const std::pair<std::string_view, std::string_view> rows[] = {
-      {"", "-5.30"},
-      {"iNDia", "-5.30"},
-      {"Nepal", "-5.45"},
-      {"Kirkistan", "-4.5"},
-      {"Surinam", "3"},
-      {"Croatia", "+1"},
-      {"Yemen", "-3"},
-      {"Wake Island", "0"},
-      {"Western Samoa", "0"},
-      {"Mauritania", "0"},
-      {"Saint Vincent - Gr", "+4"},
-      {"Burkina Fabo", "0"},
-      {"White Rubia", "+4"},
-      {"Afghanistan", "-4.30"},
-      {"Zimbabwe", "-2"},
-      {" India", ""},
-      {"Saint Vincent", ""},
-      {"Atlantis", ""},
-  };
-  for (const auto& [country, zone] : rows) EXPECT_EQ(getCountryZone(country), zone) << country;
+  ExpectRows(getCountryZone, Row("", "-5.30"), Row("iNDia", "-5.30"), Row("Nepal", "-5.45"),
+             Row("Kirkistan", "-4.5"), Row("Surinam", "3"), Row("Croatia", "+1"),
+             Row("Yemen", "-3"), Row("Wake Island", "0"), Row("Western Samoa", "0"),
+             Row("Mauritania", "0"), Row("Saint Vincent - Gr", "+4"), Row("Burkina Fabo", "0"),
+             Row("White Rubia", "+4"), Row("Afghanistan", "-4.30"), Row("Zimbabwe", "-2"),
+             Row(" India", ""), Row("Saint Vincent", ""), Row("Atlantis", ""));
 }
 
 }  // namespace
