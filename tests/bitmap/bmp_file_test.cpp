@@ -46,26 +46,24 @@ TEST_F(BmpFile, IsReadAndWrittenByteForByte) {
 }
 
 TEST_F(BmpFile, IsRefusedWhereItIsAnotherKindOrCut) {
-  const std::pair<std::size_t, std::string> changes[] = {
-      // Another mark, header, depth; planes, compression.
-      {0, "PM"},
-      {14, "\x0C"},
-      {28, "\x08"},
-      {26, "\2"},
-      {30, "\1"},
-      // Sizes of the file and the image, and a start, beyond the end; a start in the header.
-      {2, "\x4F"},
-      {34, "\x19"},
-      {10, "\x37"},
-      {10, "\x0E"},
-      // Width and height.
-      {18, "\5"},
-      {18, "\0"s},
-      {18, "\xFF\xFF\xFF\x7F"},
-      {18, "\xFF\xFF\xFF\xFF"},
-      {18, "\0\0\0\x40\2\0\0\0\1\0\x20"s},  // rows of 4 GiB
-      {22, "\3"},
-      {22, "\0\0\0\x80"s}};
+  // Another mark, header, depth, planes or compression; sizes of the file and the image and a start
+  // beyond the end, a start in the header; width (the last of rows of 4 GiB) and height.
+  const std::pair<std::size_t, std::string> changes[] = {{0, "PM"},
+                                                         {14, "\x0C"},
+                                                         {28, "\x08"},
+                                                         {26, "\2"},
+                                                         {30, "\1"},
+                                                         {2, "\x4F"},
+                                                         {34, "\x19"},
+                                                         {10, "\x37"},
+                                                         {10, "\x0E"},
+                                                         {18, "\5"},
+                                                         {18, "\0"s},
+                                                         {18, "\xFF\xFF\xFF\x7F"},
+                                                         {18, "\xFF\xFF\xFF\xFF"},
+                                                         {18, "\0\0\0\x40\2\0\0\0\1\0\x20"s},
+                                                         {22, "\3"},
+                                                         {22, "\0\0\0\x80"s}};
   for (const auto& [at, change] : changes) {
     SCOPED_TRACE(at);
     EXPECT_ERROR(InvalidCall, Read(std::string(kFile).replace(at, change.size(), change)));

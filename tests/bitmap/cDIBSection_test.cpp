@@ -11,8 +11,8 @@
 namespace bitmap {
 namespace {
 
-using Rows =
-    std::vector<std::string>;  // two hexadecimal digits a byte, bottom row first, no padding
+// Two hexadecimal digits a byte, the bottom row first, without padding.
+using Rows = std::vector<std::string>;
 
 cDIBSection DibOf(int width, const Rows& rows) {
   cDIBSection dib;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "dayperiods/clsBirthDetails.h"
 #include "dayperiods/clsUtilities.h"
 #include "engine/clsPP.h"
@@ -10,10 +12,12 @@
 namespace dayperiods {
 namespace {
 
+struct Moment {
+  std::int16_t day, month, year, hour, minute, second;
+};
+
 struct KnownDay {
-  struct {
-    std::int16_t day, month, year, hour, minute, second;
-  } moment;
+  Moment moment;
   struct {
     const char *latitude, *longitude, *zone;
   } place;
@@ -23,9 +27,7 @@ struct KnownDay {
   } rows;
   std::int16_t dayAfter;   // what Sunrise makes of its day
   const char *rise, *set;  // SRS of the Hindu day's date
-  struct {
-    const char *durvelaStart, *durvelaEnd, *gulikStart, *gulikEnd, *yumStart, *yumEnd;
-  } periods;
+  std::array<std::string, 6> periods;
 };
 
 // Summer days whose rise and set come exchanged, moments before sunrise that keep them so, months'
@@ -38,29 +40,33 @@ std::string Name(const KnownDay& day) {
   return std::string(day.rows.date) + " at " + day.place.latitude + " " + day.place.longitude;
 }
 
-engine::clsPP PlaceOf(const KnownDay& day) {
+engine::clsPP PlaceAt(const char* latitude, const char* longitude, const char* zone) {
   engine::clsPP pp;
-  pp.GenHoro(day.moment.day, day.moment.month, day.moment.year, day.moment.hour, day.moment.minute,
-             day.moment.second, day.place.longitude, day.place.latitude, day.place.zone, 0,
-             foundation::kTrue16, 0);
+  pp.GenHoro(1, 1, 2011, 12, 0, 0, longitude, latitude, zone, 0, foundation::kTrue16, 0);
   return pp;
+}
+
+engine::clsPP PlaceOf(const KnownDay& day) {
+  return PlaceAt(day.place.latitude, day.place.longitude, day.place.zone);
+}
+
+SunriseRows SunriseOf(engine::clsPP& place, Moment& at) {
+  return clsBirthDetails().Sunrise(place.ppLatitude, place.ppLongitude, place.ppZoneHours, at.day,
+                                   at.month, at.year, at.hour, at.minute, at.second);
 }
 
 TEST(KnownDays, HaveTheirSunrise) {
   for (const KnownDay& day : kDays) {
     SCOPED_TRACE(Name(day));
     engine::clsPP place = PlaceOf(day);
-    auto moment = day.moment;
-    const SunriseRows rows = clsBirthDetails().Sunrise(
-        place.ppLatitude, place.ppLongitude, place.ppZoneHours, moment.day, moment.month,
-        moment.year, moment.hour, moment.minute, moment.second);
+    Moment moment = day.moment;
+    const SunriseRows rows = SunriseOf(place, moment);
     EXPECT_DOUBLE_EQ(rows.localMeanRise, day.rows.localMeanRise);
     EXPECT_DOUBLE_EQ(rows.localMeanSet, day.rows.localMeanSet);
     EXPECT_DOUBLE_EQ(rows.clockRise, day.rows.clockRise);
     EXPECT_DOUBLE_EQ(rows.clockSet, day.rows.clockSet);
     EXPECT_EQ(rows.date, day.rows.date);
-    EXPECT_EQ(moment.day, day.dayAfter);
-    EXPECT_EQ(moment.month, day.moment.month);
+    EXPECT_EQ(std::tuple(moment.day, moment.month), std::tuple(day.dayAfter, day.moment.month));
   }
 }
 
@@ -84,15 +90,12 @@ TEST(KnownDays, HaveTheirPeriods) {
     const auto session =
         support::SessionAt(day.place.latitude, day.place.longitude, day.place.zone);
     const auto& at = day.moment;
-    clsUtilities periods(session);
-    periods.CalcDurvela(at.day, at.month, at.year, at.hour, at.minute, at.second);
-    periods.CalcGulikYum(at.day, at.month, at.year, at.hour, at.minute, at.second);
-    EXPECT_EQ(periods.DurvelaStart, day.periods.durvelaStart);
-    EXPECT_EQ(periods.DurvelaEnd, day.periods.durvelaEnd);
-    EXPECT_EQ(periods.GulikStart, day.periods.gulikStart);
-    EXPECT_EQ(periods.GulikEnd, day.periods.gulikEnd);
-    EXPECT_EQ(periods.YumStart, day.periods.yumStart);
-    EXPECT_EQ(periods.YumEnd, day.periods.yumEnd);
+    clsUtilities of(session);
+    of.CalcDurvela(at.day, at.month, at.year, at.hour, at.minute, at.second);
+    of.CalcGulikYum(at.day, at.month, at.year, at.hour, at.minute, at.second);
+    EXPECT_EQ((std::array{of.DurvelaStart, of.DurvelaEnd, of.GulikStart, of.GulikEnd, of.YumStart,
+                          of.YumEnd}),
+              day.periods);
   }
 }
 
@@ -106,14 +109,9 @@ TEST(OrdinaryDays, AgreeWithThePublishedFormulasToTheMinute) {
 #include "dayperiods/ordinary_days.inc"
   };
   for (const auto& day : kOrdinaryDays) {
-    engine::clsPP place;
-    place.GenHoro(day.day, day.month, day.year, 12, 0, 0, day.longitude, day.latitude, day.zone, 0,
-                  foundation::kTrue16, 0);
-    std::int16_t nDay = day.day, nMonth = day.month, nYear = day.year;
-    std::int16_t nHour = 12, nMin = 0, nSec = 0;
-    const SunriseRows rows =
-        clsBirthDetails().Sunrise(place.ppLatitude, place.ppLongitude, place.ppZoneHours, nDay,
-                                  nMonth, nYear, nHour, nMin, nSec);
+    engine::clsPP place = PlaceAt(day.latitude, day.longitude, day.zone);
+    Moment noon = {day.day, day.month, day.year, 12, 0, 0};
+    const SunriseRows rows = SunriseOf(place, noon);
     EXPECT_NEAR(rows.clockRise, day.rise, 1 / 60.0) << rows.date << " " << day.latitude;
     EXPECT_NEAR(rows.clockSet, day.set, 1 / 60.0) << rows.date << " " << day.latitude;
   }

@@ -2,13 +2,17 @@
 
 #include "dayperiods/clsBirthDetails.h"
 #include "dayperiods/clsUtilities.h"
+#include "dayperiods/weekday_segments.h"
 #include "support/errors.h"
 #include "support/session_at.h"
+#include "support/table.h"
 
 namespace dayperiods {
 namespace {
 
 using Number = std::int16_t;
+using support::ExpectRows;
+using support::Row;
 
 SunriseRows SunriseOf(double latitude, Number day, Number month, Number year, Number hour,
                       Number minute, Number second) {
@@ -18,17 +22,10 @@ SunriseRows SunriseOf(double latitude, Number day, Number month, Number year, Nu
 }
 
 TEST(MilitaryTime, JoinsHoursAndMinutes) {
-  const struct {
-    double time, offset;
-    const char* text;
-  } kCases[] = {
-      {1.25, 5.5, "06:45"}, {20, 5.5, "01:30"},  {1, -5, "20:00"},      {18.5, 5.5, "24:00"},
-      {5.995, 0, "6:0"},    {23.995, 0, "24:0"}, {18.55, 5.5, "00:03"}, {0, 0, "00:00"},
-  };
-  for (const auto& [time, offset, text] : kCases) {
-    double t = time;
-    EXPECT_EQ(clsBirthDetails().GetMilitaryTime(t, offset), text) << time;
-  }
+  ExpectRows(
+      [](double time, double offset) { return clsBirthDetails().GetMilitaryTime(time, offset); },
+      Row(1.25, 5.5, "06:45"), Row(20, 5.5, "01:30"), Row(1, -5, "20:00"), Row(18.5, 5.5, "24:00"),
+      Row(5.995, 0, "6:0"), Row(23.995, 0, "24:0"), Row(18.55, 5.5, "00:03"), Row(0, 0, "00:00"));
   double written = 20;
   clsBirthDetails().GetMilitaryTime(written, 5.5);
   EXPECT_EQ(written, -4);
@@ -80,6 +77,24 @@ TEST(Periods, RefuseWhatIsNoDateOrTime) {
   EXPECT_EQ(periods.DurvelaStart, "");
   session.CurrentRecord = 1001;
   EXPECT_ERROR(Subscript, periods.CalcDurvela(5, 3, 2011, 12, 0, 0));
+}
+
+// The traditional table, Sunday first: Durvela, Gulika, Yamaghantaka.
+TEST(WeekdaySegments, FollowTheTradition) {
+  const auto segments = [](int weekday) {
+    return std::tuple(DurvelaSegment(weekday), GulikSegment(weekday), YumSegment(weekday));
+  };
+  ExpectRows(segments, Row(1, std::tuple(8, 7, 5)), Row(2, std::tuple(2, 6, 4)),
+             Row(3, std::tuple(7, 5, 3)), Row(4, std::tuple(5, 4, 2)), Row(5, std::tuple(6, 3, 8)),
+             Row(6, std::tuple(4, 2, 7)), Row(7, std::tuple(3, 8, 6)));
+  EXPECT_ERROR(Subscript, DurvelaSegment(8));
+  EXPECT_ERROR(Subscript, GulikSegment(0));
+}
+
+TEST(WeekdaySegments, AreRuledFromTheDaysOwnPlanetAndBackToIt) {
+  const std::array<std::string_view, 8> kThursday = {"JUPITER", "VENUS", "SATURN",  "SUN",
+                                                     "MOON",    "MARS",  "MERCURY", "JUPITER"};
+  EXPECT_EQ(SegmentLords(5), kThursday);
 }
 
 }  // namespace
