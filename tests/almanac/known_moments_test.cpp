@@ -5,12 +5,14 @@
 #include "support/errors.h"
 #include "support/locales.h"
 #include "support/session_at.h"
+#include "support/table.h"
 
 namespace dayperiods {
 namespace {
 
 using Number = std::int16_t;
 using Text = std::string;
+using support::Row;
 
 struct KnownMoment {
   struct {
@@ -48,14 +50,15 @@ foundation::SessionTable SessionAt(const KnownMoment& moment) {
 
 TEST(KnownMoments, HaveTheirElements) {
   ForEachMoment([](clsBirthDetails& details, const KnownMoment& m) {
-    EXPECT_EQ(details.getTITHI(m.moon, m.sun, true), ElementResult(m.tithi));
-    EXPECT_EQ(details.getTITHI(m.moon, m.sun, false), ElementResult(m.tithiName));
+    const auto expect = [&](auto element, Number number, const Text& name) {
+      EXPECT_EQ((details.*element)(m.moon, m.sun, true), ElementResult(number));
+      EXPECT_EQ((details.*element)(m.moon, m.sun, false), ElementResult(name));
+    };
+    expect(&clsBirthDetails::getTITHI, m.tithi, m.tithiName);
+    expect(&clsBirthDetails::getYOG, m.yoga, m.yogaName);
+    expect(&clsBirthDetails::GetKaran, m.karana, m.karanaName);
     EXPECT_EQ(details.getPaksh(m.moon, m.sun), m.paksh);
     EXPECT_EQ(details.getCharanPad(m.moon), m.quarter);
-    EXPECT_EQ(details.getYOG(m.moon, m.sun, true), ElementResult(m.yoga));
-    EXPECT_EQ(details.getYOG(m.moon, m.sun, false), ElementResult(m.yogaName));
-    EXPECT_EQ(details.GetKaran(m.moon, m.sun, true), ElementResult(m.karana));
-    EXPECT_EQ(details.GetKaran(m.moon, m.sun, false), ElementResult(m.karanaName));
   });
 }
 
@@ -131,10 +134,8 @@ Text MonthInDelhi(Number day, Number month, Number year, Number hour) {
 
 // Full moons: 18 April and 10 December 2011, 14:36 Universal Time.
 TEST(LunarMonth, IsTheNextOneUntilThePassedFullMoon) {
-  EXPECT_EQ(MonthInDelhi(19, 4, 2011, 6), "VAISAKHA");
-  EXPECT_EQ(MonthInDelhi(20, 4, 2011, 6), "CHAITRA");
-  EXPECT_EQ(MonthInDelhi(1, 12, 2011, 6), "PAUSA");
-  EXPECT_EQ(MonthInDelhi(12, 12, 2011, 6), "MARGSHIRSH");
+  ExpectRows(MonthInDelhi, Row(19, 4, 2011, 6, "VAISAKHA"), Row(20, 4, 2011, 6, "CHAITRA"),
+             Row(1, 12, 2011, 6, "PAUSA"), Row(12, 12, 2011, 6, "MARGSHIRSH"));
   clsBirthDetails details;
   EXPECT_EQ(details.Mas(details.MASatBirth(9)), "BHADRA");
   EXPECT_EQ(details.Mas(2), "");
@@ -152,11 +153,9 @@ TEST(EraYears, BeginAtTheFirstTithiFrom2April) {
     return clsBirthDetails().GetSamvat(day, month, year, hour, 0, 0, "77.13E", "28.40N", "82.30E",
                                        {})[0];
   };
-  EXPECT_EQ(shaka(3, 4, 2011, 6), "1932");
-  EXPECT_EQ(shaka(4, 4, 2011, 6), "1933");
   // New moons of 2022: 1 April, 06:24, and 30 April, 20:28 Universal Time.
-  EXPECT_EQ(shaka(10, 4, 2022, 23), "1943");
-  EXPECT_EQ(shaka(1, 5, 2022, 23), "1944");
+  ExpectRows(shaka, Row(3, 4, 2011, 6, "1932"), Row(4, 4, 2011, 6, "1933"),
+             Row(10, 4, 2022, 23, "1943"), Row(1, 5, 2022, 23, "1944"));
   // Of 2024: 8 April, 18:21. The first tithi is over before it is 03:08 again in Sydney.
   EXPECT_EQ(
       clsBirthDetails().GetSamvat(15, 4, 2024, 3, 8, 15, "151.10E", "34.00S", "150.0E", {})[0],

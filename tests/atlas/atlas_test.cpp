@@ -14,7 +14,6 @@
 namespace atlas {
 namespace {
 
-using support::ExpectRows;
 using support::Row;
 
 const PlaceRecord kBombay = {"Bombay", "Mumbai", "Maharashtra", "18.58", "N", "72.50", "E"};

@@ -9,7 +9,6 @@ namespace atlas {
 namespace {
 
 using foundation::ByteText;
-using support::ExpectRows;
 using support::Row;
 
 TEST(Scrambling, AddsTheKeyFromItsSecondCharacter) {

@@ -11,7 +11,6 @@ namespace dayperiods {
 namespace {
 
 using Number = std::int16_t;
-using support::ExpectRows;
 using support::Row;
 
 SunriseRows SunriseOf(double latitude, Number day, Number month, Number year, Number hour,

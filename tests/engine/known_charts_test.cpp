@@ -1,8 +1,10 @@
-// Whole charts worked out independently of this code, in every ayanamsa mode that has a result.
+// Whole charts worked out independently of this code, in every ayanamsa mode that has a result, and
+// places of the sky from an independent ephemeris, within what low-precision theories reach.
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cmath>
 #include <ostream>
 #include <string>
 
@@ -12,12 +14,8 @@ namespace engine {
 namespace {
 
 struct KnownChart {
-  struct {
-    double day, month, year, hour, minute, second;
-  } at;
-  struct {
-    const char *longitude, *latitude, *zone;
-  } place;
+  std::array<double, 6> at;
+  std::array<const char*, 3> place;
   std::int32_t mode;
   foundation::Boolean16 correctedNode;
   double correction;
@@ -31,7 +29,7 @@ struct KnownChart {
 };
 
 void PrintTo(const KnownChart& chart, std::ostream* os) {
-  *os << chart.place.longitude << ' ' << chart.at.year;
+  *os << chart.place[0] << ' ' << chart.at[2];
 }
 
 const KnownChart kCharts[] = {
@@ -41,9 +39,10 @@ const KnownChart kCharts[] = {
 class KnownCharts : public testing::TestWithParam<KnownChart> {
  protected:
   KnownCharts() {
-    pp.GenHoro(chart.at.day, chart.at.month, chart.at.year, chart.at.hour, chart.at.minute,
-               chart.at.second, chart.place.longitude, chart.place.latitude, chart.place.zone,
-               chart.mode, chart.correctedNode, chart.correction);
+    const auto& [day, month, year, hour, minute, second] = chart.at;
+    const auto& [longitude, latitude, zone] = chart.place;
+    pp.GenHoro(day, month, year, hour, minute, second, longitude, latitude, zone, chart.mode,
+               chart.correctedNode, chart.correction);
   }
 
   const KnownChart& chart = GetParam();
@@ -64,9 +63,10 @@ std::string Text(const Row& row, int first, int last) {
 constexpr double kDegrees = 1e-9;
 
 TEST_P(KnownCharts, HavePositions) {
-  const Positions positions = pp.getPLNT();
-  for (int i = 1; i <= 26; ++i) {
-    EXPECT_NEAR(positions[i], chart.positions[static_cast<std::size_t>(i - 1)], kDegrees) << i;
+  int i = 0;
+  for (const double position : chart.positions) {
+    ++i;
+    EXPECT_NEAR(pp.getPLNT()[i], position, kDegrees) << i;
   }
 }
 
@@ -80,14 +80,15 @@ TEST_P(KnownCharts, HaveHouses) {
 }
 
 TEST_P(KnownCharts, HaveDivisionsAndRelations) {
-  for (int row = 1; row <= 10; ++row) {
-    EXPECT_EQ(Text(pp.getaDiv()[row], 1, 20), chart.wideRows[static_cast<std::size_t>(row - 1)]);
+  int row = 0;
+  for (const char* wide : chart.wideRows) EXPECT_EQ(Text(pp.getaDiv()[++row], 1, 20), wide);
+  row = 0;
+  for (const char* narrow : chart.narrowDivisions) {
+    EXPECT_EQ(Text(pp.getVarga()[++row], 1, 13), narrow);
   }
-  for (int k = 1; k <= 7; ++k) {
-    EXPECT_EQ(Text(pp.getVarga()[k], 1, 13),
-              chart.narrowDivisions[static_cast<std::size_t>(k - 1)]);
-  }
-  for (int layer = 1; layer <= 3; ++layer) {
+  int layer = 0;
+  for (const char* relations : chart.relations) {
+    ++layer;
     std::string cells;
     for (int i = 1; i <= 9; ++i) {
       for (int j = 1; j <= 9; ++j) {
@@ -95,7 +96,7 @@ TEST_P(KnownCharts, HaveDivisionsAndRelations) {
         cells += cell == '\0' ? '.' : cell;
       }
     }
-    EXPECT_EQ(cells, chart.relations[static_cast<std::size_t>(layer - 1)]);
+    EXPECT_EQ(cells, relations);
   }
 }
 
@@ -128,6 +129,60 @@ TEST(PublicVariables, ShowThePositions) {
   EXPECT_EQ(pp.pp_ASC, pp.getBhavF2()[1]);
   EXPECT_EQ(pp.pp_ASC13, pp.pp_ASC);
   EXPECT_EQ(pp.getPLNTinSeq()[0], pp.pp_ASC);
+}
+
+struct Sky {
+  struct {
+    int day, month, year, hour, minute;
+  } at;
+  std::array<double, 11> longitudes;
+  double siderealTime;
+  std::array<double, 12> cusps;
+};
+
+const Sky kSkies[] = {
+#include "engine/known_sky.inc"
+};
+
+// Minutes of arc, once the zero point's constant distance has been taken off.
+constexpr struct {
+  Body body;
+  double tolerance;
+} kBodies[] = {
+    {Sun, 0.5},    {Moon, 1},   {Mercury, 1.5}, {Venus, 1.5},  {Mars, 7.5}, {Jupiter, 7.5},
+    {Saturn, 7.5}, {Rahu, 0.3}, {Uranus, 17},   {Neptune, 17}, {Pluto, 17},
+};
+constexpr double kZeroPoint = -0.53;
+
+clsPP ChartOf(const Sky& sky, const char* longitude, std::int32_t mode) {
+  clsPP pp;
+  pp.GenHoro(sky.at.day, sky.at.month, sky.at.year, sky.at.hour, sky.at.minute, 0, longitude,
+             "28.40N", "0.0E", mode, foundation::kFalse16, 0);
+  return pp;
+}
+
+TEST(KnownSky, HasTheBodiesNearTheirPlaces) {
+  for (const Sky& sky : kSkies) {
+    const clsPP pp = ChartOf(sky, "0.0E", 0);
+    std::size_t i = 0;
+    for (const auto& [body, tolerance] : kBodies) {
+      const double theirs = sky.longitudes[i++];
+      const double apart = std::remainder(pp.getPLNT()[body] + pp.pp_AYAN - theirs, 360);
+      EXPECT_NEAR(60 * apart, kZeroPoint, tolerance) << body << " in " << sky.at.year;
+    }
+    EXPECT_NEAR(pp.ppSidTime, sky.siderealTime, 4 / 3600.0) << sky.at.year;
+  }
+}
+
+TEST(KnownSky, HasTropicalHouses) {
+  constexpr std::int32_t kSayan = 6;
+  for (const Sky& sky : kSkies) {
+    const HouseTable cusps = ChartOf(sky, "77.13E", kSayan).getBhavF2();
+    for (int i = 1; i <= 12; ++i) {
+      const double theirs = sky.cusps[static_cast<std::size_t>(i - 1)];
+      EXPECT_NEAR(std::remainder(cusps[i] - theirs, 360), 0, 0.03) << i << " in " << sky.at.year;
+    }
+  }
 }
 
 }  // namespace

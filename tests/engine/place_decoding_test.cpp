@@ -7,7 +7,6 @@
 namespace engine {
 namespace {
 
-using support::ExpectRows;
 using support::Row;
 
 clsPP Decoded(const char* longitude, const char* latitude, const char* zone) {

@@ -17,7 +17,6 @@ namespace {
 using foundation::DateFromParts;
 using foundation::kFalse16;
 using foundation::kTrue16;
-using support::ExpectRows;
 using support::Row;
 
 clsPP ChartOf(double day, double month, double year, double hour, std::int32_t mode,
@@ -76,29 +75,17 @@ TEST(CorrectedNode, FollowsItsTables) {
   EXPECT_ERROR(TypeMismatch, CalcNode(100, 100, DateFromParts(9999, 3, 5)));
 }
 
+// In seconds of arc; the whole charts have all bodies.
 TEST(AyanamsaModes, CorrectTheBodies) {
-  const struct {
-    Body body;
-    double first, later;  // seconds of arc
-  } kMeanNode[] = {
-      {Sun, -29, -29},       {Moon, 17, 17},       {Mars, -49, -49},    {Mercury, -40, -40},
-      {Jupiter, -100, -100}, {Venus, -48, -48},    {Saturn, 48, 108},   {Rahu, 5, 65},
-      {Ketu, 5, 5},          {Uranus, -421, -421}, {Neptune, 238, 238}, {Pluto, 415, 415},
+  const auto corrected = [](foundation::Boolean16 node, int place) {
+    const Positions plain = ChartOf(5, 3, 2011, 6, 10, node).getPLNT();
+    const double shift = ChartOf(5, 3, 2011, 6, 0, node).getPLNT()[place] - plain[place];
+    return std::round(3600e6 * shift) / 1e6;
   };
-  const Positions plain = ChartOf(5, 3, 2011, 6, 10).getPLNT();
-  const Positions lahiri = ChartOf(5, 3, 2011, 6, 0).getPLNT();
-  const Positions tropical = ChartOf(5, 3, 2011, 6, 6).getPLNT();
-  for (const auto& [body, first, later] : kMeanNode) {
-    EXPECT_NEAR(3600 * (lahiri[body] - plain[body]), first, 1e-6) << body;
-    EXPECT_NEAR(3600 * (lahiri[body + 13] - plain[body + 13]), later, 1e-6) << body;
-    EXPECT_NEAR(std::remainder(tropical[body] - plain[body] - plain[Ayanamsa], 360), 0, 1e-9);
-  }
-  EXPECT_EQ(tropical[Ayanamsa], 0);
-  const Positions plainNode = ChartOf(5, 3, 2011, 6, 10, kTrue16).getPLNT();
-  const Positions correctedNode = ChartOf(5, 3, 2011, 6, 0, kTrue16).getPLNT();
-  for (const int body : {9, 10, 22, 23}) {
-    EXPECT_NEAR(3600 * (correctedNode[body] - plainNode[body]), 1045, 1e-6) << body;
-  }
+  ExpectRows(corrected, Row(kFalse16, Saturn, 48), Row(kFalse16, Saturn + kHourLater, 108),
+             Row(kFalse16, Rahu, 5), Row(kFalse16, Rahu + kHourLater, 65), Row(kFalse16, Ketu, 5),
+             Row(kFalse16, Ketu + kHourLater, 5), Row(kTrue16, Rahu, 1045),
+             Row(kTrue16, Ketu + kHourLater, 1045));
 }
 
 TEST(AyanamsaModes, ReadTheirRows) {

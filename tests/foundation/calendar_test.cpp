@@ -11,7 +11,6 @@
 namespace foundation {
 namespace {
 
-using support::ExpectRows;
 using support::Row;
 
 DateTimeFields Fields(int year, int month, int day, int hour = 0, int minute = 0, int second = 0) {

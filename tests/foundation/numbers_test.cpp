@@ -12,7 +12,6 @@
 namespace foundation {
 namespace {
 
-using support::ExpectRows;
 using support::Row;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();

@@ -1,14 +1,20 @@
+// Texts, and dates, times and angles as texts.
+
 #include "foundation/text.h"
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
+#include "foundation/modConvertFx.h"
+#include "foundation/zzVorin.h"
 #include "support/errors.h"
+#include "support/locales.h"
 #include "support/table.h"
 
 namespace foundation {
 namespace {
 
-using support::ExpectRows;
 using support::Row;
 
 TEST(Text, GoesByCharactersNotBytes) {
@@ -38,6 +44,81 @@ TEST(Text, BeginsWithAnotherCaseAside) {
 TEST(Text, SplitsAtEverySeparator) {
   using Fields = std::vector<std::string_view>;
   ExpectRows(Split, Row("", ':', Fields{""}), Row("6::9:", ':', Fields{"6", "", "9", ""}));
+}
+
+TEST(TimeTexts, ShowDecimalHoursAsATimeOfDay) {
+  ExpectRows([](double hours) { return DecimalToTimeText(hours); }, Row(6.2025, "06:12:09"),
+             Row(23.9999, "00:00:00"), Row(24, "00:00:00"), Row(-1.5, "22:30:00"),
+             Row(25.25, "01:15:00"), Row(26.31482736972486, "02:18:53"),
+             Row(12.641666666666667, "12:38:30"), Row(12.795833333333333, "12:47:45"),
+             Row(48, "00:00:00"), Row(-24, "00:00:00"), Row(-0.25, "23:45:00"), Row(0, "00:00:00"));
+  EXPECT_EQ(DecimalToTimeText(6.5, 24, true), "06:30");
+  EXPECT_EQ(DecimalToTimeText(1e18), DecimalToTimeText(std::fmod(1e18, 24)));  // and at once
+}
+
+TEST(TimeTexts, ShowDurationsWithoutCarries) {
+  EXPECT_EQ(DecimalToTimeText(24, 12, true), "12:00");
+  EXPECT_EQ(DecimalToTimeText(30.25, 100), "30:15:00");
+  EXPECT_EQ(DecimalToTimeText(5.99999, 100), "05:59:60");
+  EXPECT_EQ(DecimalToTimeText(123, 1000), "12:00:00");  // cut to two characters
+  EXPECT_ERROR(InvalidCall, DecimalToTimeText(1, 0));
+  EXPECT_ERROR(InvalidCall, DecimalToTimeText(std::nan("")));
+}
+
+TEST(TimeTexts, GiveTheirFields) {
+  EXPECT_EQ(TimeTextHour("06:12:09"), "06");
+  EXPECT_EQ(TimeTextHour("12abc:7x:8y"), "12abc");
+  ExpectRows(TimeTextMinute, Row("12abc:7x:8y", "7x"), Row("6", ""));
+  ExpectRows(TimeTextSecond, Row("12:30:45.5", 45.5), Row("a:b:c", 0), Row("6:12", 0),
+             Row("0:0:1e999", 0));
+  ExpectRows(TimeTextToDecimal, Row("6:12:9", 6.202500000000001),
+             Row("1:2:3:4", 1.0341666666666667), Row("-1:30:0", -0.5),
+             Row("12abc:7x:8y", 12.11888888888889));
+}
+
+TEST(DateTimeTexts, CarryOnceAndThenThroughTheCalendar) {
+  ExpectRows(DateTimeText, Row(5, 3, 2011, 6, 12, 9, "5-March-2011 6:12:9"),
+             Row(31, 4, 2011, 0, 0, 0, "1-May-2011 0:0:0"),
+             Row(15, 6, 2011, 5, 60, 0, "15-June-2011 6:0:0"),
+             Row(15, 6, 2011, 25, 61, 61, "16-June-2011 2:2:1"),
+             Row(28, 2, 2011, 23, 59, 60, "1-March-2011 0:0:0"),
+             Row(15, 6, 2011, 1, 1, 125, "15-June-2011 1:2:65"));
+  const support::UserNamesScope names(support::Hindi());
+  EXPECT_EQ(DateTimeText(0, 1, 2012, 1, 2, 3), "31-दिसंबर-2011 1:2:3");
+}
+
+TEST(PaddedDigits, AreCutToTheirWidth) {
+  EXPECT_EQ(PadDigits(0, 2), "00");
+  EXPECT_EQ(PadDigits(7, 0), "");
+  EXPECT_EQ(PadDigits(123, 2), "12");
+  EXPECT_EQ(PadDigits("é", 3), "00é");
+  EXPECT_ERROR(InvalidCall, PadDigits(1, -1));
+}
+
+TEST(FracPart, NeedsAFloorOf32Bits) {
+  ExpectRows(FracPart, Row(-0.25, 0.75), Row(2147483647.5, 0.5));
+  EXPECT_ERROR(Overflow, FracPart(2147483648.5));
+}
+
+TEST(Angles, FollowDegreesAndMinutes) {
+  const auto written = [](double degrees) {
+    EXPECT_EQ(DegMinToDecimal(degrees), degrees);
+    return degrees;
+  };
+  ExpectRows(written, Row(28.99, 29.65), Row(179.59, 179.98333333333335),
+             Row(-28.4, -27.999999999999996), Row(0, 0));
+}
+
+TEST(Angles, GiveAZoneItsMeridian) {
+  ExpectRows(ZoneToMeridianText, Row("-5.30", "82.30E"), Row("-3.30", "52.30E"), Row("5", "75.0W"),
+             Row("+0.20", "5.0W"), Row("+11", "165.0W"), Row("", "0.0W"));
+}
+
+TEST(Angles, ShowTheirPlaceInASign) {
+  // A carry raises the next field and stays to be seen in its own.
+  ExpectRows(DecimalToSignDMS, Row(269.6273716983858, "29:37:39"),
+             Row(15.159897598114863, "15:09:36"), Row(15, "15:00:00"), Row(10.9999, "11:60:60"),
+             Row(359.99999, "30:60:60"));
 }
 
 }  // namespace

@@ -9,7 +9,6 @@
 namespace pdf {
 namespace {
 
-using support::ExpectRows;
 using support::Row;
 
 namespace fs = std::filesystem;

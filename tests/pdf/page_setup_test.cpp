@@ -10,7 +10,6 @@
 namespace pdf {
 namespace {
 
-using support::ExpectRows;
 using support::Row;
 
 TEST(Numbers, AreWrittenWithoutALocale) {

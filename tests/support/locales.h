@@ -7,12 +7,6 @@
 
 namespace support {
 
-inline foundation::LocaleNames German() {
-  return {{"Januar", "Februar", "März", "April", "Mai", "Juni", "Juli", "August", "September",
-           "Oktober", "November", "Dezember"},
-          {"Sonntag", "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag"}};
-}
-
 inline foundation::LocaleNames Hindi() {
   return {{"जनवरी", "फ़रवरी", "मार्च", "अप्रैल", "मई", "जून", "जुलाई", "अगस्त", "सितंबर", "अक्तूबर", "नवंबर",
            "दिसंबर"},

@@ -8,9 +8,9 @@
 namespace support {
 
 template <typename... Columns>
-std::tuple<Columns...> Row(Columns... columns) {
-  return {columns...};
-}
+struct Row : std::tuple<Columns...> {
+  explicit Row(Columns... columns) : std::tuple<Columns...>(columns...) {}
+};
 
 // Figures of a row are plain numbers, whatever the function takes.
 #pragma GCC diagnostic push

@@ -1,12 +1,63 @@
+// Forms, their lists and targets, and how they are resized.
+
 #include <gtest/gtest.h>
 
 #include <vector>
 
 #include "forms/clsVSZ.h"
+#include "forms/drawing_target.h"
+#include "forms/item_list.h"
+#include "foundation/resume.h"
 #include "support/errors.h"
+#include "support/table.h"
 
 namespace forms {
 namespace {
+
+using support::Row;
+
+TEST(DrawingTarget, RefusesTheMembersThatItLacks) {
+  struct TextOnly : DrawingTarget {
+    std::string printed;
+    void Print(std::string_view text) override { printed = text; }
+  } target;
+  EXPECT_ERROR(NoSuchMember, target.SetDrawWidth(2));
+  EXPECT_ERROR(NoSuchMember, target.TextWidth("W"));
+  // Under resume, what it has still goes through.
+  foundation::Resume([&] { target.SetRightToLeft(false); });
+  foundation::Resume([&] { target.Print("Durvela"); });
+  EXPECT_EQ(target.printed, "Durvela");
+}
+
+TEST(ItemList, TellsThePlaceThatAnEntryTakes) {
+  ItemList sorted{true};
+  support::ExpectRows([&](auto text) { return sorted.AddItem(text); }, Row("Mumbai", 0),
+                      Row("agra", 0), Row("Agra Cantt", 1), Row("Zira", 3), Row("AGRA", 1),
+                      Row("mumbai", 4), Row("Agra, Uttar Pradesh", 2));
+  sorted.SetItemData(1, 7);
+  EXPECT_EQ(sorted.AddItem("Aden"), 0);
+  EXPECT_EQ(sorted.ItemData(2), 7);
+  EXPECT_EQ(sorted.List(2), "AGRA");
+  ItemList inOrder{false};
+  EXPECT_EQ(inOrder.AddItem("b"), 0);
+  EXPECT_EQ(inOrder.AddItem("a"), 1);
+}
+
+TEST(ItemList, KeepsItsSelectionOnTheEntry) {
+  ItemList list{true};
+  list.AddItem("b");
+  EXPECT_EQ(list.ListIndex(), -1);
+  EXPECT_ERROR(InvalidCall, list.SetListIndex(1));
+  EXPECT_ERROR(InvalidCall, list.SetListIndex(-1));
+  EXPECT_ERROR(InvalidCall, list.ItemData(-1));
+  list.SetListIndex(0);
+  list.AddItem("a");
+  EXPECT_EQ(list.ListIndex(), 1);
+  list.AddItem("c");
+  EXPECT_EQ(list.ListIndex(), 1);
+  list.Clear();
+  EXPECT_EQ(list.ListIndex(), -1);
+}
 
 // A control of every manner of resizing.
 struct SampleForm : Form {
@@ -26,19 +77,16 @@ struct SampleForm : Form {
     scaleHeight = height;
     sizes.ResizeControls(*this, keepSizes ? foundation::kTrue16 : foundation::kFalse16);
   }
-  std::vector<Properties> Layout() {
-    return std::vector<Properties>(Controls().begin(), Controls().end());
-  }
+  std::vector<Properties> Layout() { return {Controls().begin(), Controls().end()}; }
 
   clsVSZ sizes;
 };
 
 TEST(Form, KeepsItsControlsInTheOrderOfItsTable) {
   SampleForm form;
-  std::vector<std::string> names;
-  for (const Control& control : form.Controls()) names.push_back(control.name);
-  EXPECT_EQ(names, (std::vector<std::string>{"lblHead", "Timer1", "Line1", "Shape1", "cmbPage",
-                                             "Fixed", "SameFont", "LBL", "LBL"}));
+  std::string names;
+  for (const Control& control : form.Controls()) names += control.name + " ";
+  EXPECT_EQ(names, "lblHead Timer1 Line1 Shape1 cmbPage Fixed SameFont LBL LBL ");
   EXPECT_EQ(form.LBL[1].caption, "second");
   EXPECT_EQ(form.LBL[1].index, 1);
   EXPECT_EQ(form.lblHead.index, -1);

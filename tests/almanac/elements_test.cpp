@@ -1,3 +1,5 @@
+// The elements of a day and the attributes of a birth at the ends of their tables.
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -5,12 +7,57 @@
 
 #include "dayperiods/clsBirthDetails.h"
 #include "support/errors.h"
+#include "support/table.h"
 
 namespace dayperiods {
 namespace {
 
 using Text = std::string;
 using Words = std::set<Text>;
+using support::Row;
+
+Text Name(const ElementResult& result) {
+  return std::get<Text>(result);
+}
+
+int Number(const ElementResult& result) {
+  return std::get<std::int16_t>(result);
+}
+
+TEST(LunarDay, TithisMeetAtNewAndFullMoon) {
+  clsBirthDetails details;
+  const auto name = [&](double moon) { return Name(details.getTITHI(moon, 100, false)); };
+  const auto number = [&](double moon) { return Number(details.getTITHI(moon, 100, true)); };
+  ExpectRows(name, Row(99.999, "Amavasya"), Row(100, "Purnima"));
+  ExpectRows(number, Row(99.999, 30), Row(100, 0), Row(100.001, 1), Row(112, 1));
+  EXPECT_EQ(details.getPaksh(280, 100), "Shukla");  // the full moon itself
+  EXPECT_EQ(details.getPaksh(280.001, 100), "Krishna");
+  EXPECT_EQ(details.getTithiName(16), "Pratipada");
+  EXPECT_ERROR(Subscript, details.getTithiName(0));
+  EXPECT_ERROR(Subscript, details.getTithiName(31));
+}
+
+TEST(LunarDay, YogasWrap) {
+  clsBirthDetails details;
+  const auto yoga = [&](double moon, double sun) {
+    return Number(details.getYOG(moon, sun, true));
+  };
+  ExpectRows(yoga, Row(180, 180, 1), Row(180, 179.99, 27), Row(360, 360, 1));
+  EXPECT_ERROR(Subscript, details.getYogName(0));
+}
+
+TEST(LunarDay, KaranasAreReckonedInWholeMinutes) {
+  clsBirthDetails details;
+  const auto name = [&](double moon) { return Name(details.GetKaran(moon, 100, false)); };
+  const auto number = [&](double moon) { return Number(details.GetKaran(moon, 100, true)); };
+  ExpectRows(name, Row(100, "Kinstughna"), Row(99, "Nag"));
+  // 359.4 minutes, 359.7, and the whole circle.
+  ExpectRows(number, Row(105.99, 1), Row(105.995, 2), Row(99.995, 1));
+  const auto listed = [&](std::int16_t karana) { return details.getKaranName(karana); };
+  ExpectRows(listed, Row(8, "VISHTI"), Row(57, "VISHTI"), Row(58, "SHAKUNI"));
+  EXPECT_ERROR(Subscript, details.getKaranName(0));
+  EXPECT_ERROR(Subscript, details.getKaranName(61));
+}
 
 TEST(BirthAttributes, TablesAreFull) {
   clsBirthDetails details;
