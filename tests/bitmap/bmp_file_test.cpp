@@ -46,27 +46,23 @@ TEST_F(BmpFile, IsReadAndWrittenByteForByte) {
 }
 
 TEST_F(BmpFile, IsRefusedWhereItIsAnotherKindOrCut) {
-  // Another mark, header, depth, planes or compression; sizes of the file and the image and a start
-  // beyond the end, a start in the header; width (the last of rows of 4 GiB) and height.
-  const std::pair<std::size_t, std::string> changes[] = {{0, "PM"},
-                                                         {14, "\x0C"},
-                                                         {28, "\x08"},
-                                                         {26, "\2"},
-                                                         {30, "\1"},
-                                                         {2, "\x4F"},
-                                                         {34, "\x19"},
-                                                         {10, "\x37"},
-                                                         {10, "\x0E"},
-                                                         {18, "\5"},
-                                                         {18, "\0"s},
-                                                         {18, "\xFF\xFF\xFF\x7F"},
-                                                         {18, "\xFF\xFF\xFF\xFF"},
-                                                         {18, "\0\0\0\x40\2\0\0\0\1\0\x20"s},
-                                                         {22, "\3"},
-                                                         {22, "\0\0\0\x80"s}};
-  for (const auto& [at, change] : changes) {
-    SCOPED_TRACE(at);
-    EXPECT_ERROR(InvalidCall, Read(std::string(kFile).replace(at, change.size(), change)));
+  const std::pair<std::size_t, std::vector<std::string>> changes[] = {
+      {0, {"PM"}},             // another mark,
+      {14, {"\x0C"}},          // header,
+      {28, {"\x08"}},          // depth,
+      {26, {"\2"}},            // planes,
+      {30, {"\1"}},            // compression
+      {2, {"\x4F"}},           // sizes of the file
+      {34, {"\x19"}},          // and the image beyond the end,
+      {10, {"\x37", "\x0E"}},  // a start there and in the header
+      {18, {"\5", "\0"s, "\xFF\xFF\xFF\x7F", "\xFF\xFF\xFF\xFF"}},  // widths,
+      {18, {"\0\0\0\x40\2\0\0\0\1\0\x20"s}},                        // rows of 4 GiB,
+      {22, {"\3", "\0\0\0\x80"s}}};                                 // heights
+  for (const auto& [at, all] : changes) {
+    for (const std::string& bytes : all) {
+      SCOPED_TRACE(at);
+      EXPECT_ERROR(InvalidCall, Read(std::string(kFile).replace(at, bytes.size(), bytes)));
+    }
   }
   for (std::size_t size = 0; size < kFile.size(); ++size) {
     EXPECT_ERROR(InvalidCall, Read(kFile.substr(0, size)));

@@ -76,33 +76,7 @@ TEST_F(WrongCodes, AreToldAndReplaced) {
     std::string_view subject, text;
   };
   const Told rows[] = {
-      {[](PDFPrinter& p) { p.PDFSetLayoutMode(4); }, "Layout Mode",
-       "Layout incorrect : 4.\r\nLe Layout utilisé sera le layout simple."},
-      {[](PDFPrinter& p) { p.PDFSetUnit(-1); }, "Code Unité de Mesure",
-       "Code unité de mesure incorrect : -1.\r\nL'Unité de Mesure utilisée sera le centimètre."},
-      {[](PDFPrinter& p) { p.PDFOrientation(2); }, "Type d'Orientation de Page",
-       "Code orientation de page incorrect : 2.\r\nL'Orientation de la page sera le mode "
-       "portrait."},
-      {[](PDFPrinter& p) { p.PDFFormatPage(5); }, "Format de Page",
-       "Code format de page incorrect : 5.\r\nLe Format de page utilisé sera le format A4."},
-      {[](PDFPrinter& p) { p.PDFFormatPage("A3"); }, "Format de Page",
-       "Code format de page incorrect : A3.\r\nLe Format de page utilisé sera le format A4"},
-      {[](PDFPrinter& p) { p.PDFSetFont(5, 12, 12); }, "Nom de Font",
-       "Nom de font incorrecte : 12.\r\nLa font utilisée sera Times New Roman non gras , non "
-       "italique."},
-      {[](PDFPrinter& p) { p.PDFSetTextColor("red"); }, "Couleur HTMl",
-       "Code couleur HTMl invalide red.\r\nLa couleur utilisée sera le noir."},
-      {[](PDFPrinter& p) { p.PDFSetLineStyle(4); }, "Style de Ligne",
-       "Code style de ligne incorrect : 4.\r\nLe style de ligne utilisé sera pSolid."},
-      {[](PDFPrinter& p) { p.PDFSetDrawMode(3); }, "Objet Rectangle",
-       "Code type de traçage incorrect : 3.\r\nLe type de traçage utilisé sera bordure et "
-       "remplissage."},
-      {[](PDFPrinter& p) { p.PDFSetAlignement(4); }, "Code Alignement de Cellule",
-       "Code alignement incorrect : 4.\r\nL'alignement utilisé sera l'alignement à gauche."},
-      {[](PDFPrinter& p) { p.PDFCellLine("a", 0, 0, 9, 9, 5); }, "Lien URL Objet Cellule",
-       "URL objet cellule non valide : 5.\r\nImpossible d'inclure le lien dans la cellule."},
-      {[](PDFPrinter& p) { p.PDFDrawEllipse(0, 0, 9, 9, 0.5); }, "Lien URL Objet Ellipse",
-       "URL objet ellipse non valide : 0.5.\r\nImpossible d'inclure le lien dans l'ellipse."},
+#include "pdf/wrong_codes.inc"
   };
   for (const Told& row : rows) {
     Paper paper;

@@ -12,6 +12,9 @@ namespace {
 
 using foundation::DateFromParts;
 
+using Report = ReportingTest;
+using ReportPage = ReportingTest;
+
 bool Has(const std::vector<std::string>& calls, const std::string& call) {
   return std::find(calls.begin(), calls.end(), call) != calls.end();
 }
@@ -20,7 +23,7 @@ bool Has(const std::vector<std::string>& calls, const std::string& call) {
 constexpr char kPlace[] = "Print 8065 360 (Delhi  Long:77.13E  Lat:28.40N  Zone:-5.30)";
 
 // Figures worked out independently for Delhi at noon; each at its column and row.
-TEST(ReportPage, TellsTheFiguresOfEachDay) {
+TEST_F(ReportPage, TellsTheFiguresOfEachDay) {
   const struct {
     int month, day;
     std::string_view row;
@@ -45,30 +48,28 @@ TEST(ReportPage, TellsTheFiguresOfEachDay) {
   }
 }
 
-TEST(ReportPage, HasItsHeadsAndItsPlace) {
-  Reporting reporting;
-  reporting.Make(DateFromParts(2011, 3, 5), DateFromParts(2011, 3, 5));
-  const auto printed = reporting.Printed();
+TEST_F(ReportPage, HasItsHeadsAndItsPlace) {
+  Make(DateFromParts(2011, 3, 5), DateFromParts(2011, 3, 5));
+  const auto printed = Printed();
   EXPECT_TRUE(Has(printed, "Print 1110 240 nqosZyk ¼ekpZ 2011½"));
   EXPECT_TRUE(Has(printed, "Print 10770 720 ;e?kaVd dky"));
   EXPECT_TRUE(Has(printed, kPlace));
   EXPECT_EQ(printed.size(), 2 + 3 + 10 + 1 + 10U);  // one row
   for (const char* rule : {"PaintPicture 720 270 12150 15", "PaintPicture 720 9750 12150 15",
                            "PaintPicture 12870 270 15 9480", "PaintPicture 2160 690 15 9060"}) {
-    EXPECT_TRUE(Has(reporting.host.target.calls, rule)) << rule;
+    EXPECT_TRUE(Has(host.target.calls, rule)) << rule;
   }
 }
 
-TEST(ReportPage, CountsWeekdaysFromTheUsersFirst) {
+TEST_F(ReportPage, CountsWeekdaysFromTheUsersFirst) {
   foundation::LocaleNames names = foundation::EnglishNames();
   names.firstWeekday = 2;
   const support::UserNamesScope scope(names);
-  Reporting reporting;
-  reporting.Make(DateFromParts(2011, 3, 5), DateFromParts(2011, 3, 5));
-  EXPECT_TRUE(Has(reporting.Printed(), "Print 1125 1320 5-Sun"));  // a Saturday
+  Make(DateFromParts(2011, 3, 5), DateFromParts(2011, 3, 5));
+  EXPECT_TRUE(Has(Printed(), "Print 1125 1320 5-Sun"));  // a Saturday
 }
 
-TEST(Report, MakesAPageAMonth) {
+TEST_F(Report, MakesAPageAMonth) {
   const auto makes = [](double from, double to, const char* pages, std::size_t calls) {
     Reporting reporting;
     reporting.Make(from, to);
@@ -87,56 +88,51 @@ TEST(Report, MakesAPageAMonth) {
 }
 
 // Where a day and a time added up are rounded another way than the days before.
-TEST(Report, HasItsLastDayAtAnyTime) {
-  Reporting reporting;
+TEST_F(Report, HasItsLastDayAtAnyTime) {
   const foundation::DateTime twoSeconds = foundation::TimeFromParts(0, 0, 2);
   MakeReport({DateFromParts(1989, 9, 1), DateFromParts(1989, 9, 30), twoSeconds, "28.40N", "77.13E",
-              "82.30E", "-5.30", "Delhi", "India", reporting.status},
-             reporting.preview, reporting.services);
-  EXPECT_EQ(reporting.Printed().size(), 16 + 10 * 30U);
+              "82.30E", "-5.30", "Delhi", "India", status},
+             preview, services);
+  EXPECT_EQ(Printed().size(), 16 + 10 * 30U);
 }
 
-TEST(Report, LeavesAFileAMonthUntilTheNext) {
-  Reporting reporting;
-  reporting.folder.Write("temp/foreign.tmp", "x");
-  reporting.folder.Write("temp/kept.txt", "x");
-  reporting.Make(DateFromParts(2011, 1, 1), DateFromParts(2011, 12, 31));
-  EXPECT_EQ(reporting.Files(), 13);  // one of them kept.txt
-  EXPECT_TRUE(std::filesystem::exists(reporting.folder.path / "temp/prv12.tmp"));
-  EXPECT_EQ(reporting.host.calls, (std::vector<std::string>{"Unload frmSPkun", "Show frmSPkun"}));
-  reporting.Make(DateFromParts(2011, 1, 1), DateFromParts(2011, 1, 2));
-  EXPECT_EQ(reporting.Files(), 2);
+TEST_F(Report, LeavesAFileAMonthUntilTheNext) {
+  folder.Write("temp/foreign.tmp", "x");
+  folder.Write("temp/kept.txt", "x");
+  Make(DateFromParts(2011, 1, 1), DateFromParts(2011, 12, 31));
+  EXPECT_EQ(Files(), 13);  // one of them kept.txt
+  EXPECT_TRUE(std::filesystem::exists(folder.path / "temp/prv12.tmp"));
+  EXPECT_EQ(host.calls, (std::vector<std::string>{"Unload frmSPkun", "Show frmSPkun"}));
+  Make(DateFromParts(2011, 1, 1), DateFromParts(2011, 1, 2));
+  EXPECT_EQ(Files(), 2);
 }
 
-TEST(Report, KeepsItsPlaceWhateverComesInBetween) {
-  Reporting reporting;
-  reporting.yielder.between = [&](int turn) {
-    EXPECT_EQ(reporting.status.caption, turn == 1   ? "Loading.. 6 March 2011"
-                                        : turn == 2 ? "Loading.. 7 March 2011"
-                                                    : "");
-    reporting.session.Current().LatitudeText = "60.00N";
-    reporting.session.Current().CityName = "Elsewhere";
+TEST_F(Report, KeepsItsPlaceWhateverComesInBetween) {
+  yielder.between = [&](int turn) {
+    EXPECT_EQ(status.caption, turn == 1   ? "Loading.. 6 March 2011"
+                              : turn == 2 ? "Loading.. 7 March 2011"
+                                          : "");
+    session.Current().LatitudeText = "60.00N";
+    session.Current().CityName = "Elsewhere";
   };
-  reporting.Make(DateFromParts(2011, 3, 5), DateFromParts(2011, 3, 6));
-  EXPECT_TRUE(Has(reporting.Printed(), "Print 2250 1590 06:42:00"));
-  EXPECT_TRUE(Has(reporting.Printed(), kPlace));
+  Make(DateFromParts(2011, 3, 5), DateFromParts(2011, 3, 6));
+  EXPECT_TRUE(Has(Printed(), "Print 2250 1590 06:42:00"));
+  EXPECT_TRUE(Has(Printed(), kPlace));
 }
 
-TEST(Report, SurvivesASecondPress) {
-  Reporting reporting;
-  reporting.yielder.between = [&](int turn) {
-    if (turn == 2) reporting.Make(DateFromParts(2011, 5, 1), DateFromParts(2011, 5, 2));
+TEST_F(Report, SurvivesASecondPress) {
+  yielder.between = [&](int turn) {
+    if (turn == 2) Make(DateFromParts(2011, 5, 1), DateFromParts(2011, 5, 2));
   };
-  reporting.Make(DateFromParts(2011, 3, 5), DateFromParts(2011, 3, 9));
-  EXPECT_EQ(reporting.Pages(), "1: Durvela May 2011 ..P1|2: Durvela March 2011 ..P1|");
+  Make(DateFromParts(2011, 3, 5), DateFromParts(2011, 3, 9));
+  EXPECT_EQ(Pages(), "1: Durvela May 2011 ..P1|2: Durvela March 2011 ..P1|");
 }
 
-TEST(Report, FailsWhereADayHasNoSun) {
-  Reporting reporting;
+TEST_F(Report, FailsWhereADayHasNoSun) {
   const foundation::DateTime day = DateFromParts(2011, 6, 5);
   const ReportInput polar = {day,     day + 1, 0.5,      "70.00N", "25.30E",
-                             "30.0E", "-2",    "Tromso", "Norway", reporting.status};
-  EXPECT_ERROR(InvalidCall, MakeReport(polar, reporting.preview, reporting.services));
+                             "30.0E", "-2",    "Tromso", "Norway", status};
+  EXPECT_ERROR(InvalidCall, MakeReport(polar, preview, services));
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // The report on fakes, in a program folder of its own.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <utility>
 
 #include "report/make_report.h"
@@ -54,5 +56,7 @@ struct Reporting {
     return printed.empty() ? before : printed;
   }
 };
+
+struct ReportingTest : testing::Test, Reporting {};
 
 }  // namespace report
