@@ -26,11 +26,9 @@ std::string TextOf(const fs::path& file) {
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-using Texts = std::set<std::string>;
-
 // What stands between `open` and the next `close`, everywhere.
-Texts Between(std::string_view text, std::string_view open, char close) {
-  Texts found;
+std::set<std::string> Between(std::string_view text, std::string_view open, char close) {
+  std::set<std::string> found;
   for (std::size_t at = 0; (at = text.find(open, at)) != text.npos;) {
     at += open.size();
     const std::size_t end = std::min(text.find(close, at), text.size());
@@ -117,7 +115,7 @@ TEST(Documents, TellTheAccuracyThatWasMeasured) {
 }
 
 TEST(Documents, NameTestsThatAreThere) {
-  Texts tests;
+  std::set<std::string> tests;
   for (const auto& entry : fs::recursive_directory_iterator(kProject / "tests")) {
     if (entry.path().extension() != ".cpp") continue;
     const std::string text = TextOf(entry.path());

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <numbers>
 #include <string>
@@ -12,6 +11,7 @@
 #include "dayperiods/clsBirthDetails.h"
 #include "dayperiods/clsUtilities.h"
 #include "nightly/days.h"
+#include "support/session_at.h"
 
 namespace nightly {
 namespace {
@@ -39,9 +39,9 @@ constexpr struct {
 } kOddDays[] = {{"33.52S", 2067, 3, 24}, {"54.48S", 2091, 3, 22}};
 
 // Parts of daylight by weekday, Sunday first.
-constexpr std::array<int, 7> kDurvela = {8, 2, 7, 5, 6, 4, 3};
-constexpr std::array<int, 7> kGulik = {7, 6, 5, 4, 3, 2, 8};
-constexpr std::array<int, 7> kYum = {5, 4, 3, 2, 8, 7, 6};
+constexpr int kDurvela[] = {8, 2, 7, 5, 6, 4, 3};
+constexpr int kGulik[] = {7, 6, 5, 4, 3, 2, 8};
+constexpr int kYum[] = {5, 4, 3, 2, 8, 7, 6};
 
 int Seconds(const std::string& text) {
   EXPECT_EQ(text.size(), 8U) << text;
@@ -61,12 +61,9 @@ double DaylightHours(const Place& place, const Day& day) {
 
 class PlaceSweep {
  public:
-  explicit PlaceSweep(const Place& place) : place_(place) {
-    foundation::SessionRecord& record = session_.Current();
-    record.LatitudeText = place.latitude;
-    record.LongitudeText = place.longitude;
-    record.ZoneMeridianText = place.meridian;
-  }
+  explicit PlaceSweep(const Place& place)
+      : place_(place),
+        session_(support::SessionAt(place.latitude, place.longitude, place.meridian)) {}
 
   void Check(const Day& day) {
     const auto [rise, set] = SunOf(day);
@@ -79,16 +76,16 @@ class PlaceSweep {
     dayperiods::clsUtilities periods(session_);
     periods.CalcDurvela(day.day, day.month, day.year, 12, 30, 0);
     periods.CalcGulikYum(day.day, day.month, day.year, 12, 30, 0);
-    const auto weekday = static_cast<std::size_t>(day.weekday - 1);
     const double part = (set - rise) * 3600 / 8;
-    const auto checkPeriod = [&](const std::string& start, const std::string& end, int number) {
+    const auto checkPeriod = [&](const std::string& start, const std::string& end, auto numbers) {
+      const int number = numbers[day.weekday - 1];
       EXPECT_LT(start, end);
       EXPECT_NEAR(Seconds(start), rise * 3600 + (number - 1) * part, 0.51);
       EXPECT_NEAR(Seconds(end), rise * 3600 + number * part, 0.51);
     };
-    checkPeriod(periods.DurvelaStart, periods.DurvelaEnd, kDurvela[weekday]);
-    checkPeriod(periods.GulikStart, periods.GulikEnd, kGulik[weekday]);
-    checkPeriod(periods.YumStart, periods.YumEnd, kYum[weekday]);
+    checkPeriod(periods.DurvelaStart, periods.DurvelaEnd, kDurvela);
+    checkPeriod(periods.GulikStart, periods.GulikEnd, kGulik);
+    checkPeriod(periods.YumStart, periods.YumEnd, kYum);
   }
 
  private:
@@ -125,7 +122,7 @@ class PlaceSweep {
   }
 
   const Place& place_;
-  foundation::SessionTable session_;
+  const foundation::SessionTable session_;
   double riseBefore_ = 0;
 };
 
