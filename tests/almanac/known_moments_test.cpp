@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "dayperiods/clsBirthDetails.h"
 #include "engine/zodiac.h"
 #include "support/errors.h"
@@ -26,9 +28,11 @@ struct KnownMoment {
   Text yogaName;
   Number karana;
   Text karanaName;
-  Text tithiEnd, nakshatraEnd, yogaEnd, karanaEnd;
-  Text ayan, gol, ritu, mas, shaka, vikram;
-  Text yoni, gan, nadi, yunja, syllable, varga;
+  std::array<Text, 4> ends;   // of tithi, nakshatra, yoga, karana
+  std::array<Text, 3> solar;  // course, half and season of the Sun
+  Text month;
+  std::array<Text, 2> eraYears;
+  std::array<Text, 6> attributes;
 };
 const KnownMoment kMoments[] = {
 #include "known_moments.inc"
@@ -39,7 +43,7 @@ template <typename Check>
 void ForEachMoment(const Check& check) {
   clsBirthDetails details;
   for (const KnownMoment& moment : kMoments) {
-    SCOPED_TRACE(moment.tithiEnd);
+    SCOPED_TRACE(moment.ends[0]);
     check(details, moment);
   }
 }
@@ -69,37 +73,36 @@ TEST(KnownMoments, HaveTheirEndings) {
       const auto& [day, month, year, hour, minute, second] = m.at;
       return (details.*search)(day, month, year, hour, minute, second, session);
     };
-    EXPECT_EQ(end(&clsBirthDetails::GetTITHIending), m.tithiEnd);
-    EXPECT_EQ(end(&clsBirthDetails::GetNakshatraending), m.nakshatraEnd);
-    EXPECT_EQ(end(&clsBirthDetails::GetYogEnding), m.yogaEnd);
-    EXPECT_EQ(end(&clsBirthDetails::GetKaranEnding), m.karanaEnd);
+    EXPECT_EQ((std::array{
+                  end(&clsBirthDetails::GetTITHIending), end(&clsBirthDetails::GetNakshatraending),
+                  end(&clsBirthDetails::GetYogEnding), end(&clsBirthDetails::GetKaranEnding)}),
+              m.ends);
   });
 }
 
 TEST(KnownMoments, HaveTheirCalendarTerms) {
   ForEachMoment([](clsBirthDetails& details, const KnownMoment& m) {
-    EXPECT_EQ(details.getAyan(m.sun, m.ayanamsa), m.ayan);
-    EXPECT_EQ(details.getGol(m.sun, m.ayanamsa), m.gol);
-    EXPECT_EQ(details.getRitu(m.sun, m.ayanamsa), m.ritu);
+    EXPECT_EQ(
+        (std::array<Text, 3>{details.getAyan(m.sun, m.ayanamsa), details.getGol(m.sun, m.ayanamsa),
+                             details.getRitu(m.sun, m.ayanamsa)}),
+        m.solar);
     const auto& [day, month, year, hour, minute, second] = m.at;
     EXPECT_EQ(
         details.GetMas(day, month, year, hour, minute, second, m.longitude, m.latitude, m.zone, {}),
-        m.mas);
+        m.month);
     EXPECT_EQ(details.GetSamvat(day, month, year, hour, minute, second, m.longitude, m.latitude,
                                 m.zone, {}),
-              (std::array{m.shaka, m.vikram}));
+              m.eraYears);
   });
 }
 
 TEST(KnownMoments, HaveTheirBirthAttributes) {
   ForEachMoment([](clsBirthDetails& details, const KnownMoment& m) {
     const Number nak = engine::NakNumber(m.moon), quarter = engine::NakQuarter(m.moon);
-    EXPECT_EQ(details.getYoni(nak), m.yoni);
-    EXPECT_EQ(details.getGan(nak), m.gan);
-    EXPECT_EQ(details.getNadi(nak), m.nadi);
-    EXPECT_EQ(details.getYunja(nak), m.yunja);
-    EXPECT_EQ(details.getNaamAkshar(nak, quarter), m.syllable);
-    EXPECT_EQ(details.getNaamAksharVarga(nak, quarter), m.varga);
+    EXPECT_EQ((std::array<Text, 6>{details.getYoni(nak), details.getGan(nak), details.getNadi(nak),
+                                   details.getYunja(nak), details.getNaamAkshar(nak, quarter),
+                                   details.getNaamAksharVarga(nak, quarter)}),
+              m.attributes);
   });
 }
 

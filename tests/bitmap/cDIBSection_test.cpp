@@ -82,9 +82,6 @@ TEST(DibSection, ResamplesAsWorkedOutByHand) {
             (Rows{"010101020202040404060606070707090909"}));
   // The same size, also where there is no neighbour.
   EXPECT_EQ(resampled(1, {"010203", "040506"}, 2, 1), (Rows{"010203", "040506"}));
-}
-
-TEST(DibSection, DoesNotResampleBeyondTheEnd) {
   EXPECT_ERROR(Subscript, DibOf(1, {"", ""}).Resample(4, 4));
   EXPECT_ERROR(Subscript, DibOf(2, {""}).Resample(4, 4));
   EXPECT_ERROR(Subscript, cDIBSection().Resample(4, 4));

@@ -88,9 +88,6 @@ TEST(WeekdaySegments, FollowTheTradition) {
              Row(6, std::tuple(4, 2, 7)), Row(7, std::tuple(3, 8, 6)));
   EXPECT_ERROR(Subscript, DurvelaSegment(8));
   EXPECT_ERROR(Subscript, GulikSegment(0));
-}
-
-TEST(WeekdaySegments, AreRuledFromTheDaysOwnPlanetAndBackToIt) {
   const std::array<std::string_view, 8> kThursday = {"JUPITER", "VENUS", "SATURN",  "SUN",
                                                      "MOON",    "MARS",  "MERCURY", "JUPITER"};
   EXPECT_EQ(SegmentLords(5), kThursday);

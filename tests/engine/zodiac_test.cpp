@@ -33,19 +33,13 @@ TEST(Zodiac, SignsHaveNamesAndLords) {
   ExpectRows(RashiNameLang, Row(2, 1, "o`\"k"), Row(2, 2, "Taurus"));
   EXPECT_ERROR(Subscript, RashiNameLang(13, 1));
   EXPECT_EQ(BodyNameUpper(8), "MOON");
-}
-
-// The number and the code of a sign's lord are two lists of one thing.
-TEST(Zodiac, LordsByNumberAndByCodeAreTheSame) {
+  // The number and the code of a sign's lord are two lists of one thing.
   for (std::int16_t sign = 1; sign <= 12; ++sign) {
     const std::string_view name = BodyName(RashiLordNumber(sign));
     const std::string_view code = RashiLordCodeAt(sign);
     EXPECT_EQ(name[0], code[0]) << sign;
     EXPECT_EQ(std::toupper(name[2]), code[2]) << sign;
   }
-}
-
-TEST(Zodiac, HousesCountFromTheAscendantsSign) {
   ExpectRows(HouseOfSign, Row(45, 2, 1), Row(45, 1, 12), Row(45, 12, 11), Row(360, 1, 1));
   EXPECT_ERROR(Subscript, HouseOfSign(45, 13));
 }

@@ -21,9 +21,6 @@ TEST(Rounding, GoesToTheNearestWithTiesToEven) {
              Row(32767.49, 32767), Row(-32768.5, -32768));
   ExpectRows(RoundToInt32, Row(2147483647.4, 2147483647), Row(0.49999999999999994, 0));
   EXPECT_EQ(FloorToInt16(-0.25), -1);
-}
-
-TEST(Rounding, OverflowsWhereTheResultDoesNotFit) {
   EXPECT_ERROR(Overflow, RoundToInt16(32767.5));
   EXPECT_ERROR(Overflow, RoundToInt32(2147483647.5));
   EXPECT_ERROR(Overflow, RoundToInt32(std::nan("")));

@@ -63,7 +63,7 @@ TEST_F(FontFolders, SeeAChangedFileOnTheNextPage) {
   EXPECT_ERROR(FileNotFound, width());
 }
 
-TEST(Metrics, ReadTheNumberedCharacters) {
+TEST(Metrics, ReadTheNumberedCharactersOrFail) {
   const WidthTable widths = ReadWidths(
       "C 65 ; WX 1 ;\nStartCharMetrics 4\r\n C 66 ; WX 700.9 ; N B ;\nC 68 ; WX -0.5 ;\n"
       "C 67 ; WX 5 ;\nC -1 ; WX 9 ; N x ;\nC 69 ; WX 9 ;\n");
@@ -74,9 +74,6 @@ TEST(Metrics, ReadTheNumberedCharacters) {
   EXPECT_EQ(widths[69], 0);
   EXPECT_EQ(ReadWidths("StartCharMetrics\nC 66 ; WX 700 ;\n")[66], 0);
   EXPECT_EQ(ReadWidths("")[66], 0);
-}
-
-TEST(Metrics, FailWhereTheyAreNone) {
   const auto read = [](std::string_view line) {
     return ReadWidths("StartCharMetrics 1\n" + std::string(line));
   };
