@@ -63,8 +63,9 @@ class Atlas : public testing::Test {
 TEST_F(Atlas, ListsCountriesWithTheShorterNameFirst) {
   atlas_.LoadCountry(list_);
   EXPECT_EQ(list_.ListCount(), 0);
-  for (auto country : {"Nigeria", "iran", "Niger", "Guinea-Bissau", "Guinea", "India", ""})
+  for (auto country : {"Nigeria", "iran", "Niger", "Guinea-Bissau", "Guinea", "India", ""}) {
     WriteCountry(country, {});
+  }
   folder_.Write("atlas/India.txt", "");
   folder_.Write("atlas/Folder.city/x", "");
   forms::ItemList countries{false};

@@ -47,26 +47,16 @@ TEST(Orbit, IsAnEllipse) {
 }
 
 TEST(CorrectedNode, FollowsItsTables) {
-  const struct {
-    double node, sun;
-    int month, day;
-    double minutes;  // by hand
-  } kCases[] = {
-      {100, 100, 1, 3, 0},          // both tables at 0
-      {100, 145, 1, 3, 98},         // the middle of the quadrant
-      {100, 146.5, 1, 3, 98},       //
-      {100, 101.5, 1, 3, 5},        // between rows 0 and 1
-      {100, 188.5, 1, 3, 5},        // and back from the end
-      {100, 191.5, 1, 3, -5},       // the next quadrant
-      {100, 20, 1, 3, -100 / 3.0},  // 80 degrees behind
-      {100, 100, 1, 1, 1 / 3.0},    // from the row of the year before
-      {100, 100, 12, 31, 0.5},      // to the row of the year after
-      {100, 100, 3, 11, -8.5},      // midway
+  const auto minutes = [](double sun, int month, int day) {
+    return std::round((CalcNode(100, sun, DateFromParts(2011, month, day)) - 100) * 60e7) / 1e7;
   };
-  for (const auto& [node, sun, month, day, minutes] : kCases) {
-    EXPECT_NEAR(CalcNode(node, sun, DateFromParts(2011, month, day)), node + minutes / 60, 1e-9)
-        << sun << ' ' << month;
-  }
+  // Both tables at 0; the middle of the quadrant; between rows 0 and 1, and back from the end; the
+  // next quadrant; 80 degrees behind.
+  ExpectRows(minutes, Row(100, 1, 3, 0), Row(145, 1, 3, 98), Row(146.5, 1, 3, 98),
+             Row(101.5, 1, 3, 5), Row(188.5, 1, 3, 5), Row(191.5, 1, 3, -5),
+             Row(20, 1, 3, -33.3333333));
+  // From the row of the year before, to that of the year after, midway.
+  ExpectRows(minutes, Row(100, 1, 1, 0.3333333), Row(100, 12, 31, 0.5), Row(100, 3, 11, -8.5));
   // A sum below 0 is folded, not wrapped.
   EXPECT_NEAR(CalcNode(0.05, 0.05, DateFromParts(2011, 3, 29)), 0.1, 1e-9);
   EXPECT_ERROR(Subscript, CalcNode(10, 100, DateFromParts(2011, 3, 5)));

@@ -16,9 +16,12 @@
 #include "foundation/text.h"
 #include "support/app_folder.h"
 #include "support/errors.h"
+#include "support/table.h"
 
 namespace foundation {
 namespace {
+
+using support::Row;
 
 TEST(Folders, LieUnderThePrograms) {
   EXPECT_EQ(AppFolder().parent_path().filename(), "foundation");
@@ -31,12 +34,10 @@ TEST(LanguagePhrases, ComeFromTheFirstLineOfTheKey) {
   const support::AppFolderScope folder;
   folder.Write("Language/eenglish.txt", "no separator\r\nSUN\xA7Sun\nsun\xA7second\r\n\xA7nothing");
   folder.Write("Language/ehindi.txt", "sun\xA7सूर्य \xA7 rest\rMoon\xA7");
-  EXPECT_EQ(LanguagePhrase("Sun", 0), "Sun");
-  EXPECT_EQ(LanguagePhrase("sUN", -1), "Sun");
-  EXPECT_EQ(LanguagePhrase("no separator", 0), "no separator");
-  EXPECT_EQ(LanguagePhrase("", 0), "nothing");
-  EXPECT_EQ(LanguagePhrase("Moon", 0), "Moon");
-  EXPECT_EQ(LanguagePhrase("Moon", 1), "");
+  const auto phrase = [](auto key, int language) { return LanguagePhrase(key, language); };
+  ExpectRows(phrase, Row("Sun", 0, "Sun"), Row("sUN", -1, "Sun"),
+             Row("no separator", 0, "no separator"), Row("", 0, "nothing"), Row("Moon", 0, "Moon"),
+             Row("Moon", 1, ""));
   SessionTable session;
   session.CurrentLanguage = 1;
   EXPECT_EQ(LanguagePhrase("SUN", session), "सूर्य \xA7 rest");
