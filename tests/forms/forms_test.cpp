@@ -93,9 +93,12 @@ TEST(Form, KeepsItsControlsInTheOrderOfItsTable) {
   EXPECT_ERROR(Subscript, form.LBL[2]);
 }
 
-TEST(Resizing, ScalesEachAxisOnItsOwnAndFontsByHeight) {
+struct Resizing : testing::Test {
+  Resizing() { form.sizes.SaveSizes(form); }
   SampleForm form;
-  form.sizes.SaveSizes(form);
+};
+
+TEST_F(Resizing, ScalesEachAxisOnItsOwnAndFontsByHeight) {
   form.Resize(12000, 6000);
   EXPECT_EQ(form.lblHead.place, (Place{200, 300, 6000, 450}));
   EXPECT_EQ(form.lblHead.font.size, 13.5F);
@@ -112,40 +115,31 @@ TEST(Resizing, ScalesEachAxisOnItsOwnAndFontsByHeight) {
   EXPECT_EQ(form.paintedPicture, (Place{0, 0, 12000, 6000}));
 }
 
-TEST(Resizing, KeepsFontsReadable) {
-  SampleForm form;
-  form.sizes.SaveSizes(form);
+TEST_F(Resizing, KeepsFontsReadable) {
   form.Resize(4000, 2666.6667F);
   EXPECT_EQ(form.lblHead.font.size, 7.5F);
   EXPECT_EQ(form.cmbPage.font.size, 8);
 }
 
-TEST(Resizing, ComesBackExactly) {
-  SampleForm form;
-  form.sizes.SaveSizes(form);
+TEST_F(Resizing, ComesBackExactly) {
   const auto before = form.Layout();
   for (const float width : {7001.0F, 3333.0F, 19.0F}) form.Resize(width, width / 3);
   form.Resize(6000, 4000);
   EXPECT_EQ(form.Layout(), before);
 }
 
-TEST(Resizing, CanMoveOnly) {
-  SampleForm form;
-  form.sizes.SaveSizes(form);
+TEST_F(Resizing, CanMoveOnly) {
   form.Resize(12000, 8000, true);
   EXPECT_EQ(form.lblHead.place, (Place{200, 400, 3000, 300}));
   EXPECT_EQ(form.lblHead.font.size, 9);
   EXPECT_EQ(form.Line1.ends, (LineEnds{300, 2000, 11700, 2200}));
 }
 
-TEST(Resizing, LeavesMinimisedAndUnsavedFormsAlone) {
-  SampleForm form;
-  const auto before = form.Layout();
-  form.Resize(12000, 8000);
-  EXPECT_EQ(form.Layout(), before);
-
-  form.Resize(6000, 4000);
-  form.sizes.SaveSizes(form);
+TEST_F(Resizing, LeavesMinimisedAndUnsavedFormsAlone) {
+  SampleForm unsaved;
+  const auto before = unsaved.Layout();
+  unsaved.Resize(12000, 8000);
+  EXPECT_EQ(unsaved.Layout(), before);
   form.windowState = WindowState::Minimised;
   form.Resize(2400, 400);
   EXPECT_EQ(form.Layout(), before);

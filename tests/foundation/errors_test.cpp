@@ -52,9 +52,8 @@ TEST(SessionTable, FillsOnlyAFreshRecord) {
   record.PersonName = "left over";
   InitSessionRecord(session, DateFromParts(2011, 3, 5) + TimeFromParts(6, 12, 9));
   EXPECT_EQ(record.PersonName, "");
-  EXPECT_EQ(record.RecordFlag, -1);
-  EXPECT_EQ(record.RahuKetuFlag, -1);
-  EXPECT_EQ(record.AyanamsaChoice, 0);
+  EXPECT_EQ(std::tuple(record.RecordFlag, record.RahuKetuFlag, record.AyanamsaChoice),
+            std::tuple(-1, -1, 0));
   const std::array filled = {record.Day,  record.Month,  record.Year,
                              record.Hour, record.Minute, record.Second};
   EXPECT_EQ(filled, (std::array<double, 6>{5, 3, 2011, 6, 12, 9}));
