@@ -1,8 +1,8 @@
 #include "dayperiods/clsUtilities.h"
 
-#include "dayperiods/clsBirthDetails.h"
+#include "dayperiods/sunrise_at.h"
 #include "dayperiods/weekday_segments.h"
-#include "engine/clsPP.h"
+#include "engine/record_chart.h"
 #include "foundation/date_text.h"
 #include "foundation/locale_names.h"
 #include "foundation/numbers.h"
@@ -27,18 +27,14 @@ DaylightSegments clsUtilities::Divide(double nDay, double nMonth, double nYear, 
       NumberText(nYear));
   foundation::ReadDateTime(NumberText(nHour) + ":" + NumberText(nMin) + ":" + NumberText(nSec));
 
-  const foundation::SessionRecord& record = session_.Current();
   engine::clsPP place;
-  place.GenHoro(nDay, nMonth, nYear, nHour, nMin, nSec, record.LongitudeText, record.LatitudeText,
-                record.ZoneMeridianText, record.AyanamsaChoice, record.RahuKetuFlag,
-                record.WarTimeCorrection);
-
-  // Copies: the day that Sunrise changes before sunrise stays with it.
-  double latitude = place.ppLatitude, longitude = place.ppLongitude, zone = place.ppZoneHours;
-  std::int16_t day = FloorToInt16(nDay), month = FloorToInt16(nMonth), year = FloorToInt16(nYear);
-  std::int16_t hour = FloorToInt16(nHour), minute = FloorToInt16(nMin), second = FloorToInt16(nSec);
-  const SunriseRows sun =
-      clsBirthDetails().Sunrise(latitude, longitude, zone, day, month, year, hour, minute, second);
+  engine::GenRecordHoro(place, session_.Current(), nDay, nMonth, nYear, nHour, nMin, nSec);
+  const SunriseRows sun = SunriseAt(place, {.year = FloorToInt16(nYear),
+                                            .month = FloorToInt16(nMonth),
+                                            .day = FloorToInt16(nDay),
+                                            .hour = FloorToInt16(nHour),
+                                            .minute = FloorToInt16(nMin),
+                                            .second = FloorToInt16(nSec)});
   return {sun.clockRise, (sun.clockSet - sun.clockRise) / kSegmentsOfDaylight,
           foundation::WeekdayOf(date)};
 }

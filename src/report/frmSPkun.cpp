@@ -1,6 +1,6 @@
 #include "report/frmSPkun.h"
 
-#include "engine/clsPP.h"
+#include "engine/record_chart.h"
 #include "foundation/error.h"
 #include "foundation/modFileFx.h"
 #include "foundation/numbers.h"
@@ -97,10 +97,9 @@ const std::string& frmSPkun::PageTitle(int number) const {
 void frmSPkun::ShowPage(std::int16_t& PageNum, std::string_view Pname, std::string_view PTitle,
                         bool ToPrinter) {
   const foundation::SessionRecord& record = services_.session.Current();
-  engine::clsPP().GenHoro(record.Day, record.Month, record.Year, record.Hour, record.Minute,
-                          record.Second, record.LongitudeText, record.LatitudeText,
-                          record.ZoneMeridianText, record.AyanamsaChoice, record.RahuKetuFlag,
-                          record.WarTimeCorrection);
+  engine::clsPP chart;
+  engine::GenRecordHoro(chart, record, record.Day, record.Month, record.Year, record.Hour,
+                        record.Minute, record.Second);
   if (!ToPrinter) services_.host.TargetOf(PIC).Cls();
   if (backgroundPath_.empty()) {
     backgroundPath_ = (foundation::BackgroundFolder() / "default.jpg").string();

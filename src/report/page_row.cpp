@@ -4,7 +4,7 @@
 
 #include "dayperiods/clsUtilities.h"
 #include "dayperiods/sunrise_at.h"
-#include "engine/clsPP.h"
+#include "engine/record_chart.h"
 #include "foundation/bounded_array.h"
 #include "foundation/locale_names.h"
 #include "foundation/numbers.h"
@@ -43,9 +43,7 @@ void SetPlaceLine(forms::Control& line, const std::string& caption, forms::Drawi
 
 dayperiods::SunriseRows SunOf(const DateTimeFields& at, const SessionRecord& record) {
   engine::clsPP chart;
-  chart.GenHoro(at.day, at.month, at.year, at.hour, at.minute, at.second, record.LongitudeText,
-                record.LatitudeText, record.ZoneMeridianText, record.AyanamsaChoice,
-                record.RahuKetuFlag, record.WarTimeCorrection);
+  engine::GenRecordHoro(chart, record, at);
   return dayperiods::SunriseAt(chart, at);
 }
 

@@ -4,7 +4,7 @@
 
 #include "dayperiods/clsUtilities.h"
 #include "dayperiods/sunrise_at.h"
-#include "engine/clsPP.h"
+#include "engine/record_chart.h"
 #include "foundation/checked.h"
 #include "foundation/date_text.h"
 #include "foundation/locale_names.h"
@@ -22,7 +22,6 @@ using foundation::DecimalToTimeText;
 using foundation::Filled;
 using foundation::NumberText;
 using foundation::Resume;
-using foundation::SessionRecord;
 
 void ShowMoment(foundation::DateTime now, frmMain& labels) {
   Resume([&] {
@@ -67,12 +66,7 @@ void Tick(foundation::DateTime now, foundation::Settings& settings,
 
   const DateTimeFields at = ShownMoment(labels);
   engine::clsPP place;
-  Resume([&] {
-    const SessionRecord& record = session.Current();
-    place.GenHoro(at.day, at.month, at.year, at.hour, at.minute, at.second, record.LongitudeText,
-                  record.LatitudeText, record.ZoneMeridianText, record.AyanamsaChoice,
-                  record.RahuKetuFlag, record.WarTimeCorrection);
-  });
+  Resume([&] { engine::GenRecordHoro(place, session.Current(), at); });
   std::optional<dayperiods::SunriseRows> sun;
   Resume([&] { sun = dayperiods::SunriseAt(place, at); });
   Resume([&] { labels.lblSR.caption = DecimalToTimeText(Filled(sun).clockRise); });

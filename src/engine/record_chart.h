@@ -1,0 +1,23 @@
+// The chart of a moment at the place of a session record.
+#pragma once
+
+#include "engine/clsPP.h"
+#include "foundation/calendar.h"
+#include "foundation/session.h"
+
+namespace engine {
+
+// GenHoro with the record's own place, ayanamsa, node and correction; its errors.
+inline void GenRecordHoro(clsPP& chart, const foundation::SessionRecord& record, double day,
+                          double month, double year, double hour, double minute, double second) {
+  chart.GenHoro(day, month, year, hour, minute, second, record.LongitudeText, record.LatitudeText,
+                record.ZoneMeridianText, record.AyanamsaChoice, record.RahuKetuFlag,
+                record.WarTimeCorrection);
+}
+
+inline void GenRecordHoro(clsPP& chart, const foundation::SessionRecord& record,
+                          const foundation::DateTimeFields& at) {
+  GenRecordHoro(chart, record, at.day, at.month, at.year, at.hour, at.minute, at.second);
+}
+
+}  // namespace engine
