@@ -96,6 +96,11 @@ struct Picture {
   friend bool operator==(const Picture&, const Picture&) = default;
 };
 
+// An empty one, to be drawn on.
+inline std::shared_ptr<Picture> NewPicture(double width, double height) {
+  return std::make_shared<Picture>(Picture{width, height, {}});
+}
+
 // The dots of a picture that consists of nothing else; null for any other.
 inline RasterPtr DotsOf(const Picture& picture) {
   const auto* dots = picture.items.size() == 1 ? std::get_if<Dots>(&picture.items[0]) : nullptr;

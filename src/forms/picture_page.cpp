@@ -7,11 +7,11 @@
 namespace forms {
 
 PicturePage::PicturePage(Control& pictureBox, const TextMeasure& measure)
-    : box_(pictureBox), measure_(measure), font_(pictureBox.font), colour_(pictureBox.foreColour) {
-  picture_ = std::make_shared<Picture>();
-  picture_->width = box_.place.width;
-  picture_->height = box_.place.height;
-}
+    : box_(pictureBox),
+      measure_(measure),
+      picture_(NewPicture(pictureBox.place.width, pictureBox.place.height)),
+      font_(pictureBox.font),
+      colour_(pictureBox.foreColour) {}
 
 // A picture that somebody has taken to show it is not changed any more: the page goes on with a
 // copy, and who compares pictures sees that it is another.

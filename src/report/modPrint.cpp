@@ -20,9 +20,7 @@ constexpr double kSmallestFont = 7;  // points
 constexpr auto kBlack = forms::Rgb(0);
 
 forms::PicturePtr Ground(forms::Colour colour, double width, double height) {
-  auto ground = std::make_shared<forms::Picture>();
-  ground->width = width;
-  ground->height = height;
+  auto ground = forms::NewPicture(width, height);
   ground->items.emplace_back(forms::Outline{forms::Path::Box({0, 0}, width, height), colour, {}});
   return ground;
 }

@@ -36,9 +36,8 @@ forms::PicturePtr LoadPage(std::int16_t PageNum) {
   const bitmap::BmpPicture file = bitmap::ReadBmp(PageFile(PageNum));
   const double dotsPerInch = file.dotsPerInch > 0 ? file.dotsPerInch : kUsualDotsPerInch;
   const double twipsPerDot = forms::kTwipsPerPoint * 72 / dotsPerInch;
-  auto picture = std::make_shared<forms::Picture>();
-  picture->width = file.pixels.Width() * twipsPerDot;
-  picture->height = file.pixels.Height() * twipsPerDot;
+  auto picture =
+      forms::NewPicture(file.pixels.Width() * twipsPerDot, file.pixels.Height() * twipsPerDot);
   picture->items.emplace_back(
       forms::Dots{std::make_shared<const forms::Raster>(bitmap::ToRaster(file.pixels))});
   return picture;

@@ -1,5 +1,6 @@
 #include "screens/credits.h"
 
+#include <iterator>
 #include <string_view>
 
 #include "screens/palette.h"
@@ -37,8 +38,7 @@ constexpr CreditLine kLines[] = {
 }  // namespace
 
 forms::PicturePtr CreditsPicture() {
-  auto picture = std::make_shared<forms::Picture>();
-  picture->width = kWidth;
+  auto picture = forms::NewPicture(kWidth, kLineHeight * std::size(kLines));
   double y = 0;
   for (const CreditLine& line : kLines) {
     y += kLineHeight;
@@ -50,7 +50,6 @@ forms::PicturePtr CreditsPicture() {
                          .bold = line.head,
                          .colour = line.head ? palette::kDurvelaOnPaper : palette::kInk});
   }
-  picture->height = y;
   return picture;
 }
 

@@ -1,7 +1,6 @@
 #include "screens/period_pictures.h"
 
 #include <algorithm>
-#include <memory>
 
 #include "dayperiods/weekday_segments.h"
 #include "foundation/calendar.h"
@@ -44,13 +43,6 @@ const PeriodLook& LookOf(Period period) {
       {"Gulik", palette::kGulikOnPaper, dayperiods::GulikSegment},
       {"Yum", palette::kYumOnPaper, dayperiods::YumSegment}};
   return kLooks[static_cast<std::size_t>(period)];
-}
-
-std::shared_ptr<forms::Picture> Blank(double height) {
-  auto picture = std::make_shared<forms::Picture>();
-  picture->width = kWidth;
-  picture->height = height;
-  return picture;
 }
 
 foundation::DateTime Day() {
@@ -105,7 +97,7 @@ void Write(forms::Picture& picture, std::string_view text, Point at, Alignment a
 
 forms::PicturePtr SampleDay(const std::vector<Period>& periods) {
   const DayScene scene = SampleScene();
-  auto picture = Blank(208);
+  auto picture = forms::NewPicture(kWidth, 208);
   for (int segment = 1; segment <= dayperiods::kSegmentsOfDaylight; ++segment) {
     const auto period = std::find_if(periods.begin(), periods.end(), [&](Period of) {
       return TimesOf(scene, of).segment == segment;
@@ -134,7 +126,7 @@ forms::PicturePtr SampleDay(const std::vector<Period>& periods) {
 }
 
 forms::PicturePtr WeekdayTable(const std::vector<Period>& periods) {
-  auto picture = Blank(kRowHeight * static_cast<double>(periods.size() + 1));
+  auto picture = forms::NewPicture(kWidth, kRowHeight * static_cast<double>(periods.size() + 1));
   const auto middle = [](int weekday) { return kNameWidth + kColumn * (weekday - 0.5); };
   for (int weekday = 1; weekday <= kDays; ++weekday) {
     Write(*picture, foundation::ShortWeekdayName(weekday), {middle(weekday), 20}, Alignment::Centre,

@@ -24,8 +24,7 @@ constexpr auto kViolet = forms::Rgb(0xC792EA);
 // Paths drawn as lines in one colour.
 forms::PicturePtr Drawing(Colour colour, std::initializer_list<Path> lines,
                           std::initializer_list<Path> filled = {}) {
-  auto picture = std::make_shared<forms::Picture>();
-  picture->width = picture->height = kField;
+  auto picture = forms::NewPicture(kField, kField);
   for (const Path& path : filled) picture->items.emplace_back(forms::Outline{path, colour, {}});
   for (const Path& path : lines) {
     picture->items.emplace_back(forms::Outline{path, forms::kTransparent, {colour, kLine}});
@@ -107,8 +106,7 @@ const std::array<MenuSign, 8>& MenuSigns() {
 
 forms::PicturePtr ProgramSign() {
   const Point foot = {32, 48};
-  auto picture = std::make_shared<forms::Picture>();
-  picture->width = picture->height = 64;
+  auto picture = forms::NewPicture(64, 64);
   const auto add = [&](Path path, Colour fill) {
     picture->items.emplace_back(forms::Outline{std::move(path), fill, {}});
   };
@@ -124,8 +122,7 @@ forms::PicturePtr ProgramSign() {
 }
 
 forms::PicturePtr SunSign() {
-  auto picture = std::make_shared<forms::Picture>();
-  picture->width = picture->height = kField;
+  auto picture = forms::NewPicture(kField, kField);
   for (int ray = 0; ray < 8; ++ray) {
     const Path line = Path()
                           .MoveTo(forms::OnCircle(kMiddle, 19, 45 * ray))
