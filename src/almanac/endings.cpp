@@ -20,8 +20,8 @@ using Element = std::function<std::int16_t(double moon, double sun)>;
 
 // "18/November/1990 6:11:25", with the user's month name.
 std::string MomentText(const foundation::DateTimeFields& at) {
-  return NumberText(at.day) + "/" + foundation::MonthName(at.month) + "/" + NumberText(at.year) +
-         " " + NumberText(at.hour) + ":" + NumberText(at.minute) + ":" + NumberText(at.second);
+  return foundation::DayMonthYear(at.day, at.month, at.year, '/') + " " + NumberText(at.hour) +
+         ":" + NumberText(at.minute) + ":" + NumberText(at.second);
 }
 
 // By hours past the end, by minutes back before it, by seconds up to it: some 150 charts at most,

@@ -23,8 +23,7 @@ double DaylightSegments::Boundary(int number) const {
 DaylightSegments clsUtilities::Divide(double nDay, double nMonth, double nYear, double nHour,
                                       double nMin, double nSec) const {
   const auto date = foundation::ReadDateTime(
-      NumberText(nDay) + "-" + foundation::MonthName(foundation::RoundToInt16(nMonth)) + "-" +
-      NumberText(nYear));
+      foundation::DayMonthYear(nDay, foundation::RoundToInt16(nMonth), nYear, '-'));
   foundation::ReadDateTime(NumberText(nHour) + ":" + NumberText(nMin) + ":" + NumberText(nSec));
 
   engine::clsPP place;

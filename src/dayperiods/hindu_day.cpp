@@ -122,7 +122,7 @@ SunriseRows clsBirthDetails::Sunrise(double& Latitude, double& Longitude, double
 
   const double lmtShift = ZoneRelativeGMT - Longitude * 4 / 60;
   return {sun.rise - lmtShift, sun.set - lmtShift, sun.rise, sun.set,
-          NumberText(nDay) + " " + foundation::MonthName(nMonth) + " " + NumberText(nYear)};
+          foundation::DayMonthYear(nDay, nMonth, nYear, ' ')};
 }
 
 }  // namespace dayperiods

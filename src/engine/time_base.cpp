@@ -9,8 +9,6 @@
 
 namespace engine {
 
-using foundation::NumberText;
-
 std::int32_t DayNumber(int day, int month, std::int32_t year) {
   constexpr double kDaysPerMonth = 30.6;  // from March on
   double y = year;
@@ -37,8 +35,7 @@ foundation::DateTime CivilDate(int day, int month, std::int32_t year) {
     if (foundation::FieldsOf(date).day == day) return date;
   }
   // What is no date as it stands is left to the reader of texts.
-  return foundation::ReadDateTime(NumberText(day) + "-" + foundation::MonthName(month) + "-" +
-                                  NumberText(year));
+  return foundation::ReadDateTime(foundation::DayMonthYear(day, month, year, '-'));
 }
 
 }  // namespace engine

@@ -97,8 +97,8 @@ std::string DateTimeText(double day, double month, double year, double hour, dou
     day += 1;
   }
   const DateTimeFields date = FieldsOf(DateFromParts(year, month, day));
-  return NumberText(date.day) + "-" + MonthName(date.month) + "-" + NumberText(date.year) + " " +
-         NumberText(hour) + ":" + NumberText(minutes) + ":" + NumberText(seconds);
+  return DayMonthYear(date.day, date.month, date.year, '-') + " " + NumberText(hour) + ":" +
+         NumberText(minutes) + ":" + NumberText(seconds);
 }
 
 }  // namespace foundation

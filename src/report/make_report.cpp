@@ -80,8 +80,8 @@ class ReportMaker {
   // The day that comes next.
   void ShowStatus(DateTime day) {
     const DateTimeFields at = foundation::FieldsOf(day);
-    input_.lblStatus.caption = "Loading.. " + NumberText(at.day) + " " +
-                               foundation::MonthName(at.month) + " " + NumberText(at.year);
+    input_.lblStatus.caption =
+        "Loading.. " + foundation::DayMonthYear(at.day, at.month, at.year, ' ');
   }
 
   // `next` is the first day that is not on the page; its year goes into the title.

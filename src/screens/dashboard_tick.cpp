@@ -26,8 +26,7 @@ using foundation::Resume;
 void ShowMoment(foundation::DateTime now, frmMain& labels) {
   Resume([&] {
     const DateTimeFields at = foundation::FieldsOf(now);
-    labels.lblDate.caption =
-        NumberText(at.day) + " " + foundation::MonthName(at.month) + " " + NumberText(at.year);
+    labels.lblDate.caption = foundation::DayMonthYear(at.day, at.month, at.year, ' ');
   });
   Resume([&] {
     const DateTimeFields at = foundation::FieldsOf(now);
