@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "forms/colour.h"
-#include "forms/font.h"
 #include "forms/picture.h"
+#include "foundation/error.h"
 
 namespace forms {
 
@@ -17,32 +17,41 @@ class DrawingTarget {
  public:
   virtual ~DrawingTarget() = default;
 
-  virtual void SetForeColor(Colour colour);
-  virtual void SetDrawWidth(double pixels);
-  virtual void SetFont(std::string_view name);
-  virtual void SetFontSize(double points);
-  virtual double FontSize() const;
-  virtual void SetFontBold(bool on);
-  virtual void SetFontItalic(bool on);
-  virtual void SetFontStrikethru(bool on);
-  virtual void SetFontUnderLine(bool on);
-  virtual void SetRightToLeft(bool on);
+  virtual void SetForeColor(Colour) { Lacking(); }
+  virtual void SetDrawWidth(double /*pixels*/) { Lacking(); }
+  virtual void SetFont(std::string_view /*name*/) { Lacking(); }
+  virtual void SetFontSize(double /*points*/) { Lacking(); }
+  virtual double FontSize() const { Lacking(); }
+  virtual void SetFontBold(bool) { Lacking(); }
+  virtual void SetFontItalic(bool) { Lacking(); }
+  virtual void SetFontStrikethru(bool) { Lacking(); }
+  virtual void SetFontUnderLine(bool) { Lacking(); }
+  virtual void SetRightToLeft(bool) { Lacking(); }
 
   // Where the next text begins; Print moves it down by a line.
-  virtual void SetCurrentX(double x);
-  virtual double CurrentX() const;
-  virtual void SetCurrentY(double y);
-  virtual double CurrentY() const;
+  virtual void SetCurrentX(double) { Lacking(); }
+  virtual double CurrentX() const { Lacking(); }
+  virtual void SetCurrentY(double) { Lacking(); }
+  virtual double CurrentY() const { Lacking(); }
 
-  virtual void Cls();
-  virtual void Line(double x1, double y1, double x2, double y2, Colour colour, LineStyle style);
-  virtual void PaintPicture(const PicturePtr& picture, double x, double y, double width,
-                            double height);
-  virtual void Print(std::string_view text);
+  virtual void Cls() { Lacking(); }
+  virtual void Line(double /*x1*/, double /*y1*/, double /*x2*/, double /*y2*/, Colour, LineStyle) {
+    Lacking();
+  }
+  virtual void PaintPicture(const PicturePtr&, double /*x*/, double /*y*/, double /*width*/,
+                            double /*height*/) {
+    Lacking();
+  }
+  virtual void Print(std::string_view) { Lacking(); }
 
   // Of a text in the present font.
-  virtual double TextWidth(std::string_view text) const;
-  virtual double TextHeight(std::string_view text) const;
+  virtual double TextWidth(std::string_view) const { Lacking(); }
+  virtual double TextHeight(std::string_view) const { Lacking(); }
+
+ private:
+  [[noreturn]] static void Lacking() {
+    throw foundation::Error(foundation::ErrorKind::NoSuchMember);
+  }
 };
 
 }  // namespace forms
