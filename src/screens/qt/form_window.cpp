@@ -67,7 +67,7 @@ FormWindow::FormWindow(forms::Form& form) : form_(form) {
   std::map<const forms::Control*, QWidget*> containers = {{nullptr, this}};
   for (forms::Control& control : form.Controls()) {
     if (control.kind == forms::Kind::Timer) {
-      timers_.push_back(new SecondTimer(
+      timers_.push_back(new FormTimer(
           control, [this, &control] { Dispatch(control.onTimer); }, this));
     } else {
       ControlView* view = MakeView(control, dispatch, containers.at(control.container));
@@ -107,7 +107,7 @@ void FormWindow::Mirror() {
   MirrorSize();
   MirrorPosition();
   MirrorControls();
-  for (SecondTimer* timer : timers_) timer->Mirror();
+  for (FormTimer* timer : timers_) timer->Mirror();
   MirrorState();
   MirrorFocus();
 }
@@ -168,7 +168,7 @@ void FormWindow::MirrorFocus() {
 
 void FormWindow::Retire() {
   retired_ = true;
-  for (SecondTimer* timer : timers_) timer->Stop();
+  for (FormTimer* timer : timers_) timer->Stop();
   hide();
   if (handlers_ == 0) deleteLater();
 }

@@ -7,7 +7,7 @@
 
 #include "forms/form.h"
 #include "screens/qt/control_view.h"
-#include "screens/qt/second_timer.h"
+#include "screens/qt/form_timer.h"
 
 namespace screens::qt {
 
@@ -62,7 +62,7 @@ class FormWindow : public QWidget {
 
   forms::Form& form_;
   std::vector<ControlView*> views_;
-  std::vector<SecondTimer*> timers_;
+  std::vector<FormTimer*> timers_;
   forms::Place shownPlace_;
   forms::PicturePtr shownPicture_;
   forms::Colour shownColour_ = forms::kTransparent;

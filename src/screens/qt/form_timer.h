@@ -9,11 +9,11 @@
 
 namespace screens::qt {
 
-class SecondTimer : public QObject {
+class FormTimer : public QObject {
   Q_OBJECT
 
  public:
-  SecondTimer(forms::Control& control, std::function<void()> tick, QObject* parent);
+  FormTimer(forms::Control& control, std::function<void()> tick, QObject* parent);
 
   // Follows the control's interval and enabled state.
   void Mirror();

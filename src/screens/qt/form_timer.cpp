@@ -1,4 +1,4 @@
-#include "screens/qt/second_timer.h"
+#include "screens/qt/form_timer.h"
 
 #include <QDateTime>
 #include <utility>
@@ -11,15 +11,15 @@ constexpr int kPastTheTurn = 5;  // so that the clock has surely turned when the
 
 }  // namespace
 
-SecondTimer::SecondTimer(forms::Control& control, std::function<void()> tick, QObject* parent)
+FormTimer::FormTimer(forms::Control& control, std::function<void()> tick, QObject* parent)
     : QObject(parent), control_(control), tick_(std::move(tick)) {
   timer_.setSingleShot(true);
   timer_.setTimerType(Qt::PreciseTimer);
-  connect(&timer_, &QTimer::timeout, this, &SecondTimer::Fire);
+  connect(&timer_, &QTimer::timeout, this, &FormTimer::Fire);
   Mirror();
 }
 
-void SecondTimer::Mirror() {
+void FormTimer::Mirror() {
   const int interval = control_.enabled ? control_.interval : 0;
   if (interval == interval_) return;
   interval_ = interval;
@@ -27,12 +27,12 @@ void SecondTimer::Mirror() {
   if (!running_) Schedule();
 }
 
-void SecondTimer::Stop() {
+void FormTimer::Stop() {
   interval_ = 0;
   timer_.stop();
 }
 
-void SecondTimer::Schedule() {
+void FormTimer::Schedule() {
   if (interval_ <= 0) return;
   int wait = interval_;
   if (interval_ % kSecond == 0) {
@@ -42,7 +42,7 @@ void SecondTimer::Schedule() {
   timer_.start(wait);
 }
 
-void SecondTimer::Fire() {
+void FormTimer::Fire() {
   running_ = true;
   tick_();
   running_ = false;
