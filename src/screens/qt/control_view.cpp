@@ -3,8 +3,8 @@
 #include "screens/qt/button_widget.h"
 #include "screens/qt/combo_box_widget.h"
 #include "screens/qt/control_widget.h"
+#include "screens/qt/date_time_widget.h"
 #include "screens/qt/list_box_widget.h"
-#include "screens/qt/picker_widget.h"
 #include "screens/qt/qt_painting.h"
 #include "screens/qt/scroll_bar_widget.h"
 #include "screens/qt/text_box_widget.h"
@@ -23,7 +23,7 @@ ControlView* MakeView(forms::Control& control, const Dispatch& dispatch, QWidget
       return new ComboBoxWidget(control, dispatch, parent);
     case forms::Kind::DatePicker:
     case forms::Kind::TimePicker:
-      return new PickerWidget(control, dispatch, parent);
+      return new DateTimeWidget(control, dispatch, parent);
     case forms::Kind::HScrollBar:
     case forms::Kind::VScrollBar:
       return new ScrollBarWidget(control, dispatch, parent);

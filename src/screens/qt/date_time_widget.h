@@ -7,11 +7,11 @@
 
 namespace screens::qt {
 
-class PickerWidget : public QDateTimeEdit, public ControlView {
+class DateTimeWidget : public QDateTimeEdit, public ControlView {
   Q_OBJECT
 
  public:
-  PickerWidget(forms::Control& control, Dispatch dispatch, QWidget* parent);
+  DateTimeWidget(forms::Control& control, Dispatch dispatch, QWidget* parent);
 
   QWidget& Widget() override { return *this; }
   void Mirror() override;

@@ -1,4 +1,4 @@
-#include "screens/qt/picker_widget.h"
+#include "screens/qt/date_time_widget.h"
 
 #include <QCalendarWidget>
 #include <QKeyEvent>
@@ -34,7 +34,7 @@ void DressCalendar(QCalendarWidget& calendar) {
 
 }  // namespace
 
-PickerWidget::PickerWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
+DateTimeWidget::DateTimeWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
     : QDateTimeEdit(parent), ControlView(control, std::move(dispatch)) {
   const bool date = control.kind == forms::Kind::DatePicker;
   setTimeSpec(Qt::UTC);  // no hour is left out for daylight saving
@@ -49,14 +49,14 @@ PickerWidget::PickerWidget(forms::Control& control, Dispatch dispatch, QWidget* 
   Mirror();
 }
 
-foundation::DateTime PickerWidget::Picked() const {
+foundation::DateTime DateTimeWidget::Picked() const {
   if (control_.kind == forms::Kind::DatePicker) {
     return foundation::DateFromParts(date().year(), date().month(), date().day());
   }
   return foundation::TimeFromParts(time().hour(), time().minute(), time().second());
 }
 
-void PickerWidget::Mirror() {
+void DateTimeWidget::Mirror() {
   if (!TakeProperties()) return;
   const forms::Properties& now = control_;
   Dress(*this, control_, PlaceInPixels(control_));
@@ -74,7 +74,7 @@ void PickerWidget::Mirror() {
 }
 
 // The style leaves the arrows to us: one that drops the calendar down, or two that step.
-void PickerWidget::paintEvent(QPaintEvent* event) {
+void DateTimeWidget::paintEvent(QPaintEvent* event) {
   QDateTimeEdit::paintEvent(event);
   QPainter painter(this);
   const double middle = height() / 2.0, x = width() - kArrowInset;
@@ -88,7 +88,7 @@ void PickerWidget::paintEvent(QPaintEvent* event) {
 
 // The toolkit drops the calendar down for the mouse alone, so its arrow is pressed for Alt and
 // Down, and for F4, as in a drop-down list.
-void PickerWidget::keyPressEvent(QKeyEvent* event) {
+void DateTimeWidget::keyPressEvent(QKeyEvent* event) {
   const bool drop = event->key() == Qt::Key_F4 ||
                     (event->key() == Qt::Key_Down && event->modifiers() & Qt::AltModifier);
   if (!drop || !calendarPopup()) {
@@ -102,7 +102,7 @@ void PickerWidget::keyPressEvent(QKeyEvent* event) {
 }
 
 // Turned only while it has the focus.
-void PickerWidget::wheelEvent(QWheelEvent* event) {
+void DateTimeWidget::wheelEvent(QWheelEvent* event) {
   if (hasFocus()) {
     QDateTimeEdit::wheelEvent(event);
   } else {
