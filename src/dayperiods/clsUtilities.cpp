@@ -20,8 +20,8 @@ double DaylightSegments::Boundary(int number) const {
   return t;
 }
 
-DaylightSegments clsUtilities::Divide(double nDay, double nMonth, double nYear, double nHour,
-                                      double nMin, double nSec) const {
+DaylightSegments clsUtilities::SegmentsOf(double nDay, double nMonth, double nYear, double nHour,
+                                          double nMin, double nSec) const {
   const auto date = foundation::ReadDateTime(
       foundation::DayMonthYear(nDay, foundation::RoundToInt16(nMonth), nYear, '-'));
   foundation::ReadDateTime(NumberText(nHour) + ":" + NumberText(nMin) + ":" + NumberText(nSec));
@@ -40,7 +40,7 @@ DaylightSegments clsUtilities::Divide(double nDay, double nMonth, double nYear, 
 
 void clsUtilities::CalcDurvela(double nDay, double nMonth, double nYear, double nHour, double nMin,
                                double nSec) {
-  const DaylightSegments day = Divide(nDay, nMonth, nYear, nHour, nMin, nSec);
+  const DaylightSegments day = SegmentsOf(nDay, nMonth, nYear, nHour, nMin, nSec);
   const int number = DurvelaSegment(day.weekday);
   DurvelaStart = DecimalToTimeText(day.Boundary(number));
   DurvelaEnd = DecimalToTimeText(day.Boundary(number + 1));
@@ -48,7 +48,7 @@ void clsUtilities::CalcDurvela(double nDay, double nMonth, double nYear, double 
 
 void clsUtilities::CalcGulikYum(double nDay, double nMonth, double nYear, double nHour, double nMin,
                                 double nSec) {
-  const DaylightSegments day = Divide(nDay, nMonth, nYear, nHour, nMin, nSec);
+  const DaylightSegments day = SegmentsOf(nDay, nMonth, nYear, nHour, nMin, nSec);
   const double gulik = day.Boundary(GulikSegment(day.weekday));
   const double yum = day.Boundary(YumSegment(day.weekday));
   GulikStart = DecimalToTimeText(gulik);

@@ -39,8 +39,8 @@ class clsUtilities {
                     double nSec);
 
   // The road that both share.
-  DaylightSegments Divide(double nDay, double nMonth, double nYear, double nHour, double nMin,
-                          double nSec) const;
+  DaylightSegments SegmentsOf(double nDay, double nMonth, double nYear, double nHour, double nMin,
+                              double nSec) const;
 
  private:
   const foundation::SessionTable& session_;

@@ -14,7 +14,7 @@ std::string ShortTime(double hours) {
   return foundation::DecimalToTimeText(hours, 24, true);
 }
 
-DayScene::Period PeriodOf(const dayperiods::DaylightSegments& day, int segment) {
+DayScene::PeriodTimes PeriodOf(const dayperiods::DaylightSegments& day, int segment) {
   return {segment, ShortTime(day.Boundary(segment)) + " - " + ShortTime(day.Boundary(segment + 1))};
 }
 
@@ -32,7 +32,8 @@ DayScene SceneOf(foundation::DateTime now, const foundation::SessionTable& sessi
   DayScene scene;
   foundation::Resume([&] {
     const foundation::DateTimeFields at = foundation::FieldsOf(now);
-    const auto day = dayperiods::clsUtilities(session).Divide(at.day, at.month, at.year, 12, 0, 0);
+    const auto day =
+        dayperiods::clsUtilities(session).SegmentsOf(at.day, at.month, at.year, 12, 0, 0);
     if (!(day.segment > 0)) return;
     scene.durvela = PeriodOf(day, dayperiods::DurvelaSegment(day.weekday));
     scene.gulik = PeriodOf(day, dayperiods::GulikSegment(day.weekday));

@@ -10,16 +10,16 @@ namespace screens {
 
 struct DayScene {
   // One of the three periods.
-  struct Period {
+  struct PeriodTimes {
     int segment = 0;    // 1 to 8 from sunrise
     std::string times;  // "09:38 - 11:05"
-    friend bool operator==(const Period&, const Period&) = default;
+    friend bool operator==(const PeriodTimes&, const PeriodTimes&) = default;
   };
 
   bool divided = false;  // false where the day's sun has no rise and set to go by
   std::string sunrise;   // "06:43"
   std::string sunset;
-  Period durvela, gulik, yum;
+  PeriodTimes durvela, gulik, yum;
   double sun = 0;  // 0 at sunrise, 1 at sunset, and on to 2 at the next sunrise
 
   friend bool operator==(const DayScene&, const DayScene&) = default;

@@ -173,7 +173,7 @@ class SkyPainter {
   // The lowest part of either side is named inside the arc, the others outside; the second and the
   // seventh at their upper end, where there is room beside them. (No weekday tints a neighbour of
   // these two.)
-  void Name(const std::string& name, const DayScene::Period& period) {
+  void Name(const std::string& name, const DayScene::PeriodTimes& period) {
     const double shift = period.segment == 2 ? 0.35 : period.segment == 7 ? -0.35 : 0;
     const double angle = AngleAt((period.segment - 0.5 + shift) / dayperiods::kSegmentsOfDaylight);
     const bool left = angle > 90;

@@ -62,7 +62,7 @@ DayScene SampleScene() {
   return SceneOf(Day() + 0.5, session);
 }
 
-const DayScene::Period& TimesOf(const DayScene& scene, Period period) {
+const DayScene::PeriodTimes& TimesOf(const DayScene& scene, Period period) {
   return period == Period::Durvela ? scene.durvela
          : period == Period::Gulik ? scene.gulik
                                    : scene.yum;
@@ -109,7 +109,7 @@ forms::PicturePtr SampleDay(const std::vector<Period>& periods) {
   double line = kFoot.y - 10 - 20 * static_cast<double>(periods.size() - 1);
   for (const Period period : periods) {
     const PeriodLook& look = LookOf(period);
-    const DayScene::Period& times = TimesOf(scene, period);
+    const DayScene::PeriodTimes& times = TimesOf(scene, period);
     const std::string name = periods.size() == 1 ? std::string(look.name) + " " : "";
     Write(*picture, name + times.times, {kFoot.x, line}, Alignment::Centre, 14, look.colour, true);
     line += 20;

@@ -52,7 +52,7 @@ TEST(HinduDay, BeginsAtSunriseToTheSecond) {
   // Sunrise of 5 March 2011 in Delhi is 06:43 by the NOAA formulas as well.
   const auto sunriseAt = [](double hour, double minute, double second) {
     const foundation::SessionTable session = support::Delhi();
-    const DaylightSegments day = clsUtilities(session).Divide(5, 3, 2011, hour, minute, second);
+    const DaylightSegments day = clsUtilities(session).SegmentsOf(5, 3, 2011, hour, minute, second);
     EXPECT_EQ(day.weekday, 7);  // of the calendar date, before sunrise too
     return day.sunrise;
   };
