@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "dayperiods/weekday_segments.h"
+#include "screens/day_arc.h"
 #include "screens/frmMain_layout.h"
 #include "screens/palette.h"
 
@@ -121,10 +122,8 @@ class SkyPainter {
                                {0.75, palette::kNight.WithOpacity(0.4)},
                                {1, palette::kNight.WithOpacity(0.05)}}});
     for (int segment = 1; segment <= dayperiods::kSegmentsOfDaylight; ++segment) {
-      const double from = AngleAt((segment - 1.0) / dayperiods::kSegmentsOfDaylight);
-      const double to = AngleAt(segment / double{dayperiods::kSegmentsOfDaylight});
-      Add(Path::RingPiece(centre_, kInnerRadius * scale_, kOuterRadius * scale_, from - kGap,
-                          to + kGap)
+      Add(Path::RingPiece(centre_, kInnerRadius * scale_, kOuterRadius * scale_,
+                          SegmentAngle(segment) - kGap, SegmentAngle(segment + 1) + kGap)
               .Raised(centre_.y, rise_),
           Tint(segment));
     }
@@ -187,9 +186,6 @@ class SkyPainter {
     Text(period.times, {at.x, at.y + line}, alignment, kSmallLettering, false,
          palette::kFaintCream);
   }
-
-  // From sunrise on the left to sunset on the right.
-  static double AngleAt(double partOfDay) { return 180 * (1 - partOfDay); }
 
   Colour Tint(int segment) const {
     if (segment == scene_.durvela.segment) return palette::kDurvela.WithOpacity(0.95);

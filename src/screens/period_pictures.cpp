@@ -8,6 +8,7 @@
 #include "foundation/numbers.h"
 #include "foundation/session.h"
 #include "foundation/settings.h"
+#include "screens/day_arc.h"
 #include "screens/day_scene.h"
 #include "screens/palette.h"
 
@@ -68,18 +69,14 @@ const DayScene::PeriodTimes& TimesOf(const DayScene& scene, Period period) {
                                    : scene.yum;
 }
 
-// The angle at which a part begins; parts go from the left foot of the arc to the right one.
-double Start(int segment) {
-  return 180 - kPart * (segment - 1);
-}
-
 void DrawPart(forms::Picture& picture, int segment, Colour fill, Colour ink) {
   picture.items.emplace_back(
-      forms::Outline{Path::RingPiece(kFoot, kInner, kOuter, Start(segment) - kGap / 2,
-                                     Start(segment + 1) + kGap / 2),
+      forms::Outline{Path::RingPiece(kFoot, kInner, kOuter, SegmentAngle(segment) - kGap / 2,
+                                     SegmentAngle(segment + 1) + kGap / 2),
                      fill,
                      {}});
-  const Point middle = forms::OnCircle(kFoot, (kInner + kOuter) / 2, Start(segment) - kPart / 2);
+  const Point middle =
+      forms::OnCircle(kFoot, (kInner + kOuter) / 2, SegmentAngle(segment) - kPart / 2);
   picture.items.emplace_back(Lettering{.text = foundation::NumberText(segment),
                                        .at = {middle.x, middle.y + 5},
                                        .alignment = Alignment::Centre,

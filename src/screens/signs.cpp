@@ -3,6 +3,8 @@
 #include <initializer_list>
 #include <utility>
 
+#include "dayperiods/weekday_segments.h"
+#include "screens/day_arc.h"
 #include "screens/palette.h"
 
 namespace screens {
@@ -35,12 +37,11 @@ forms::PicturePtr Drawing(Colour colour, std::initializer_list<Path> lines,
 // The arc of the day with one of its eighths filled.
 forms::PicturePtr EighthOfArc(Colour colour, int segment) {
   const Point foot = {28, 42};
-  const double from = 180 - 22.5 * (segment - 1);
   return Drawing(
       colour,
       {Path().Arc(foot, 24, 180, 0), Path().Arc(foot, 13, 180, 0),
        Path().MoveTo({2, 42}).LineTo({17, 42}), Path().MoveTo({39, 42}).LineTo({54, 42})},
-      {Path::RingPiece(foot, 13, 24, from, from - 22.5)});
+      {Path::RingPiece(foot, 13, 24, SegmentAngle(segment), SegmentAngle(segment + 1))});
 }
 
 forms::PicturePtr TableOfDays() {
@@ -111,10 +112,10 @@ forms::PicturePtr ProgramSign() {
     picture->items.emplace_back(forms::Outline{std::move(path), fill, {}});
   };
   add(Path::Box({2, 2}, 60, 60, 14), palette::kNight);
-  for (int segment = 0; segment < 8; ++segment) {
-    const double from = 180 - 22.5 * segment;
+  for (int segment = 1; segment <= dayperiods::kSegmentsOfDaylight; ++segment) {
+    const double from = SegmentAngle(segment);
     add(Path::RingPiece(foot, 15, 25, from - 1.2, from - 21.3),
-        segment == 2 ? palette::kDurvela : palette::kCream.WithOpacity(0.5));
+        segment == 3 ? palette::kDurvela : palette::kCream.WithOpacity(0.5));
   }
   add(Path::Circle(forms::OnCircle(foot, 20, 78.75), 6.5), palette::kGold);
   add(Path::Box({7, 48}, 50, 3, 1.5), palette::kDawn);
