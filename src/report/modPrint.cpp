@@ -31,9 +31,7 @@ class FormDrawing {
       : target_(target), X_(X), Y_(Y), sizeDelta_(sizeDelta), DX_(DX), DY_(DY) {}
 
   void DrawFill(const Control& shape) {
-    if (shape.container == nullptr) {
-      DrawBox(shape, LineStyle::FilledBox);
-    } else if (shape.tag == "cs" && display::kColourOption) {
+    if (shape.container == nullptr || (shape.tag == "cs" && display::kColourOption)) {
       DrawBox(shape, LineStyle::FilledBox);
     }
   }

@@ -42,11 +42,7 @@ class Tour {
     program.Start();
     FormWindow& window = program.host.WindowOf(program.dashboard);
     Take(window, name);
-    if (!sizes) return;
-    window.resize(window.minimumSize());
-    Take(window, name + QStringLiteral("-smallest"));
-    window.resize(1920, 1080);
-    Take(window, name + QStringLiteral("-largest"));
+    if (sizes) TakeSizes(window, name);
   }
 
   // What the dashboard's menu opens, and the picker, each on its own.
@@ -69,17 +65,19 @@ class Tour {
   bool Failed() const { return failed_; }
 
  private:
+  void TakeSizes(FormWindow& window, const QString& name) {
+    window.resize(window.minimumSize());
+    Take(window, name + QStringLiteral("-smallest"));
+    window.resize(1920, 1080);
+    Take(window, name + QStringLiteral("-largest"));
+  }
+
   void TakeForm(screens::qt::Program& program, forms::Form& form, const QString& name, bool sizes) {
     FormWindow& window = program.host.WindowOf(form);
     window.show();
     Wait(sizes ? 1500 : 0);  // for what slides into its place
     Take(window, name);
-    if (sizes) {
-      window.resize(window.minimumSize());
-      Take(window, name + QStringLiteral("-smallest"));
-      window.resize(1920, 1080);
-      Take(window, name + QStringLiteral("-largest"));
-    }
+    if (sizes) TakeSizes(window, name);
     program.host.Unload(form);
   }
 
