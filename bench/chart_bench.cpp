@@ -1,8 +1,6 @@
 // Charts, and what follows from them, beside the Swiss Ephemeris and libnova where these are
 // installed.
 
-#include <string>
-
 #include "bench/figure.h"
 #include "dayperiods/clsBirthDetails.h"
 #include "dayperiods/clsUtilities.h"

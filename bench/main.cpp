@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <limits>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "bench/window_bench.h"

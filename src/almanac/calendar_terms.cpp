@@ -1,7 +1,5 @@
 // Season and course of the Sun, lunar month, years of the eras.
 
-#include <cmath>
-
 #include "almanac/moment_chart.h"
 #include "dayperiods/clsBirthDetails.h"
 #include "foundation/bounded_array.h"

@@ -1,7 +1,5 @@
 #include "atlas/clsAtlas.h"
 
-#include <utility>
-
 #include "atlas/city_file.h"
 #include "atlas/modEncDec.h"
 #include "foundation/error.h"

@@ -1,7 +1,6 @@
 // The vocabulary of a chart: names of bodies, signs and stars, their lords, and the dignities.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>

@@ -1,6 +1,5 @@
 #include "foundation/legacy_hindi.h"
 
-#include <array>
 #include <utility>
 
 #include "foundation/text.h"

@@ -1,6 +1,5 @@
 #include "report/page_bands.h"
 
-#include "foundation/calendar.h"
 #include "foundation/numbers.h"
 #include "foundation/version.h"
 #include "foundation/zzVorin.h"

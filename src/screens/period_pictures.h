@@ -1,8 +1,6 @@
 // Pictures that explain the periods: a sample day in eight parts, and the parts by weekday.
 #pragma once
 
-#include <string>
-#include <string_view>
 #include <vector>
 
 #include "forms/picture.h"
