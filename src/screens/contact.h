@@ -4,10 +4,16 @@
 
 #include <string_view>
 
+#include "foundation/machine.h"
+
 namespace screens {
 
 inline constexpr std::string_view kWebsite = "";
 inline constexpr std::string_view kEmail = "";
 inline constexpr std::string_view kTelephone = "";
+
+inline void OpenWebsite(foundation::Browser& browser) {
+  if (!kWebsite.empty()) browser.Open(kWebsite);
+}
 
 }  // namespace screens

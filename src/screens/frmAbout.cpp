@@ -8,33 +8,24 @@ constexpr float kStep = 5;  // twips
 }  // namespace
 
 frmAbout::frmAbout(Services services)
-    : Form("frmAbout", std::string("About ") + foundation::kProgramName,
-           about_layout::kWidth * layout::kTwipsPerPixel,
-           about_layout::kHeight * layout::kTwipsPerPixel),
+    : ScaledForm("frmAbout", std::string("About ") + foundation::kProgramName, about_layout::kWidth,
+                 about_layout::kHeight),
       services_(services) {
-  minimumWidth = 0.75F * scaleWidth;
-  minimumHeight = 0.75F * scaleHeight;
   backColour = palette::kPaper;
   Timer1.onTimer = [this] { Timer1_Timer(); };
   picS.onMouseMove = [this](forms::Point) { picS_MouseMove(); };
   for (forms::Control* around : {&Picture1, &Picture2}) {
     around->onMouseMove = [this](forms::Point) { Form_MouseMove(); };
   }
-  Label15.onClick = [this] {
-    if (!kWebsite.empty()) services_.browser.Open(kWebsite);
-  };
+  Label15.onClick = [this] { OpenWebsite(services_.browser); };
   cmdSysInfo.onClick = [this] { cmdSysInfo_Click(); };
   cmdOK.onClick = [this] { cmdOK_Click(); };
 }
 
 void frmAbout::Form_Load() {
-  sizes_.SaveFirstSizes(*this);
+  ScaledForm::Form_Load();
   activeControl = &cmdOK;
   Timer1.enabled = true;
-}
-
-void frmAbout::Form_Resize() {
-  sizes_.ResizeControls(*this, foundation::kFalse16);
 }
 
 void frmAbout::Form_KeyDown(forms::KeyPress& press) {

@@ -1,14 +1,13 @@
 // frmAbout: the program's version, and the credits that pass by.
 #pragma once
 
-#include "forms/clsVSZ.h"
-#include "forms/form.h"
 #include "screens/frmAbout_layout.h"
+#include "screens/scaled_form.h"
 #include "screens/services.h"
 
 namespace screens {
 
-class frmAbout : public forms::Form {
+class frmAbout : public ScaledForm {
  public:
   explicit frmAbout(Services services);
 
@@ -25,7 +24,6 @@ class frmAbout : public forms::Form {
   CONTROL(Timer, Timer1, {.interval = 50});
 
   void Form_Load() override;
-  void Form_Resize() override;
   void Form_KeyDown(forms::KeyPress& press) override;
   void Form_MouseMove() override;
 
@@ -36,7 +34,6 @@ class frmAbout : public forms::Form {
 
  private:
   Services services_;
-  forms::clsVSZ sizes_;
 };
 
 }  // namespace screens

@@ -16,7 +16,6 @@ namespace {
 using foundation::Resume;
 
 constexpr float kTwips = layout::kTwipsPerPixel;
-constexpr float kSmallest = 0.75F;  // of the window's first size
 constexpr double kNoon = 0.5;
 constexpr float kMargin = 8 * kTwips;  // between frame and page
 constexpr float kScrollStep = 0.06F;   // of the page's width: a row and a little
@@ -27,13 +26,10 @@ constexpr float kSlideStep = 10 * kTwips;
 }  // namespace
 
 frmDurvela::frmDurvela(Services services, forms::Form& dashboard, Ways ways)
-    : Form("frmDurvela", "Durvela", timetable_layout::kWidth * kTwips,
-           timetable_layout::kHeight * kTwips),
+    : ScaledForm("frmDurvela", "Durvela", timetable_layout::kWidth, timetable_layout::kHeight),
       services_(services),
       dashboard_(dashboard),
       ways_(std::move(ways)) {
-  minimumWidth = kSmallest * scaleWidth;
-  minimumHeight = kSmallest * scaleHeight;
   backColour = palette::kPaper;
 
   cmdShow.onClick = [this] { cmdShow_Click(); };
@@ -47,9 +43,7 @@ frmDurvela::frmDurvela(Services services, forms::Form& dashboard, Ways ways)
     handle->onMouseMove = [this](forms::Point at) { lblTitle_MouseMove(at); };
     handle->onMouseUp = [this](forms::Point) { lblTitle_MouseUp(); };
   }
-  Label9.onClick = [this] {
-    if (!kWebsite.empty()) services_.browser.Open(kWebsite);
-  };
+  Label9.onClick = [this] { OpenWebsite(services_.browser); };
   VScroll1.onChange = [this] {
     picRes.place.top = kMargin - static_cast<float>(VScroll1.scroll.value);
   };
@@ -61,7 +55,7 @@ frmDurvela::frmDurvela(Services services, forms::Form& dashboard, Ways ways)
 
 // Whatever a former opening has left, the form starts as it was made.
 void frmDurvela::Form_Load() {
-  sizes_.SaveFirstSizes(*this);
+  ScaledForm::Form_Load();
   activeControl = &DT1;
   moving_ = false;
 
@@ -82,7 +76,7 @@ void frmDurvela::FillFromDefaults() {
 
 void frmDurvela::Form_Resize() {
   const float slid = slideTo_ > 0 ? picSlide.place.left / slideTo_ : 1;
-  sizes_.ResizeControls(*this, foundation::kFalse16);
+  ScaledForm::Form_Resize();
   slideTo_ = picSlide.place.left;
   picSlide.place.left = slid * slideTo_;
   FitPage();

@@ -3,18 +3,17 @@
 
 #include <functional>
 
-#include "forms/clsVSZ.h"
-#include "forms/form.h"
 #include "report/make_report.h"
 #include "screens/contact.h"
 #include "screens/frmDurvela_layout.h"
+#include "screens/scaled_form.h"
 #include "screens/services.h"
 
 namespace screens {
 
 class frmCity;
 
-class frmDurvela : public forms::Form {
+class frmDurvela : public ScaledForm {
  public:
   // What the form leads to: the picker, asked for when a place is edited, and the report.
   struct Ways {
@@ -94,7 +93,6 @@ class frmDurvela : public forms::Form {
   Services services_;
   forms::Form& dashboard_;
   Ways ways_;
-  forms::clsVSZ sizes_;
   bool picking_ = false;  // the picker is opening, or open
   bool moving_ = false;
   float pressedX_ = 0, pressedY_ = 0;

@@ -10,16 +10,12 @@ namespace screens {
 namespace {
 
 constexpr float kTwips = layout::kTwipsPerPixel;
-constexpr float kSmallest = 0.75F;  // of the window's first size
 
 }  // namespace
 
 frmMain::frmMain(Services services)
-    : Form("frmMain", "Durvela 2", dashboard_layout::kWidth * kTwips,
-           dashboard_layout::kHeight * kTwips),
+    : ScaledForm("frmMain", "Durvela 2", dashboard_layout::kWidth, dashboard_layout::kHeight),
       services_(services) {
-  minimumWidth = kSmallest * scaleWidth;
-  minimumHeight = kSmallest * scaleHeight;
   backColour = palette::kEarth;
 
   Timer1.onTimer = [this] { Timer1_Timer(); };
@@ -35,9 +31,7 @@ frmMain::frmMain(Services services)
     }
   }
   for (forms::Control* line : {&Label1, &Label12, &Label13}) {
-    line->onClick = [this] {
-      if (!kWebsite.empty()) services_.browser.Open(kWebsite);
-    };
+    line->onClick = [this] { OpenWebsite(services_.browser); };
   }
 }
 
@@ -53,7 +47,7 @@ void frmMain::Form_Load() {
 }
 
 void frmMain::Form_Resize() {
-  sizes_.ResizeControls(*this, foundation::kFalse16);
+  ScaledForm::Form_Resize();
   ShowSky();
 }
 

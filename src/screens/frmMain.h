@@ -3,17 +3,16 @@
 
 #include <functional>
 
-#include "forms/clsVSZ.h"
-#include "forms/form.h"
 #include "foundation/bounded_array.h"
 #include "screens/contact.h"
 #include "screens/day_scene.h"
 #include "screens/frmMain_layout.h"
+#include "screens/scaled_form.h"
 #include "screens/services.h"
 
 namespace screens {
 
-class frmMain : public forms::Form {
+class frmMain : public ScaledForm {
  public:
   static constexpr int kMenuItems = 8;
 
@@ -75,7 +74,6 @@ class frmMain : public forms::Form {
   void ShowSky();
 
   Services services_;
-  forms::clsVSZ sizes_;
   foundation::BoundedArray<std::function<void()>, 0, kMenuItems - 1> open_;
   DayScene scene_;
 };

@@ -51,9 +51,7 @@ Properties Ok() {
 }  // namespace
 
 InformationScreen::InformationScreen(const InformationPage& page, forms::FormHost& host)
-    : Form(page.name, page.title, kWidth * layout::kTwipsPerPixel,
-           kHeight * layout::kTwipsPerPixel),
-      host_(host) {
+    : ScaledForm(page.name, page.title, kWidth, kHeight), host_(host) {
   AddControl(forms::Kind::Shape, "Head", Head());
   AddControl(forms::Kind::PictureBox, "Sign", Sign(page.sign));
   AddControl(forms::Kind::Label, "lblTitle", Title(page.title));
@@ -61,8 +59,6 @@ InformationScreen::InformationScreen(const InformationPage& page, forms::FormHos
   if (!page.periods.empty()) AddPictures(page.periods);
   forms::Control& cmdOK = AddControl(forms::Kind::CommandButton, "cmdOK", Ok());
   cmdOK.onClick = [this] { cmdOK_Click(); };
-  minimumWidth = 0.75F * scaleWidth;
-  minimumHeight = 0.75F * scaleHeight;
   backColour = palette::kPaper;
 }
 
@@ -77,14 +73,6 @@ void InformationScreen::AddPictures(const std::vector<Period>& periods) {
   };
   add("Day", "A day in eight parts", 92, SampleDay(periods));
   add("Week", "The part of each weekday", 320, WeekdayTable(periods));
-}
-
-void InformationScreen::Form_Load() {
-  sizes_.SaveFirstSizes(*this);
-}
-
-void InformationScreen::Form_Resize() {
-  sizes_.ResizeControls(*this, foundation::kFalse16);
 }
 
 void InformationScreen::Form_KeyDown(forms::KeyPress& press) {

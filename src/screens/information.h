@@ -4,11 +4,9 @@
 #include <string_view>
 #include <vector>
 
-#include "forms/clsVSZ.h"
-#include "forms/form.h"
 #include "forms/screen_services.h"
-#include "screens/layout.h"
 #include "screens/period_pictures.h"
+#include "screens/scaled_form.h"
 
 namespace screens {
 
@@ -21,12 +19,10 @@ struct InformationPage {
 };
 
 // A page with its pictures and OK; Esc closes it too.
-class InformationScreen : public forms::Form {
+class InformationScreen : public ScaledForm {
  public:
   InformationScreen(const InformationPage& page, forms::FormHost& host);
 
-  void Form_Load() override;
-  void Form_Resize() override;
   void Form_KeyDown(forms::KeyPress& press) override;
   void cmdOK_Click();
 
@@ -34,7 +30,6 @@ class InformationScreen : public forms::Form {
   void AddPictures(const std::vector<Period>& periods);
 
   forms::FormHost& host_;
-  forms::clsVSZ sizes_;
 };
 
 const InformationPage& WhatIsPage();
