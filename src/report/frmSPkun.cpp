@@ -96,6 +96,7 @@ const std::string& frmSPkun::PageTitle(int number) const {
 
 void frmSPkun::ShowPage(std::int16_t& PageNum, std::string_view Pname, std::string_view PTitle,
                         bool ToPrinter) {
+  // For its errors alone: a record that has no chart shows no page either.
   const foundation::SessionRecord& record = services_.session.Current();
   engine::clsPP chart;
   engine::GenRecordHoro(chart, record, record.Day, record.Month, record.Year, record.Hour,
