@@ -1,4 +1,4 @@
-// A dashboard on fakes.
+// A dashboard on fakes, which other forms share.
 #pragma once
 
 #include "foundation/version.h"
@@ -9,23 +9,34 @@
 
 namespace screens {
 
-struct Dashboard {
+// Each followed by a blank.
+std::string Words(const auto&... texts) {
+  return ((texts + " ") + ...);
+}
+
+struct Fakes {
+  Fakes() { clock.now = foundation::DateFromParts(2011, 3, 5) + 0.5; }
+
   support::FakeClock clock;
   support::FakeSettings settings;
   support::FakeMessageBoxes boxes;
   support::FakeBrowser browser;
   support::FakeHost host;
   foundation::SessionTable session;
-  frmMain form{Services{clock, settings, session, boxes, browser, host}};
+  Services services{clock, settings, session, boxes, browser, host};
+
+  void SaveDefault(std::string_view key, std::string_view value) {
+    settings.SaveSetting(foundation::kProgramName, "settings", key, value);
+  }
+};
+
+struct Dashboard : Fakes {
+  frmMain form{services};
 
   void TickAt(int year, int month, int day, int hour, int minute, int second) {
     clock.now = foundation::DateFromParts(year, month, day) +
                 foundation::TimeFromParts(hour, minute, second);
     form.Timer1_Timer();
-  }
-
-  void SaveDefault(std::string_view key, std::string_view value) {
-    settings.SaveSetting(foundation::kProgramName, "settings", key, value);
   }
 
   // Sunrise, sunset and Durvela as they stand.

@@ -4,35 +4,31 @@
 
 #include <gtest/gtest.h>
 
+#include "screens/dashboard.h"
 #include "screens/frmAbout.h"
-#include "support/machine_fakes.h"
-#include "support/screen_fakes.h"
+#include "support/table.h"
 
 namespace screens {
 namespace {
 
+using support::Row;
+
 TEST(InformationScreens, BearTheirTitlesAndCloseByOkAndEscape) {
-  struct Row {
-    const InformationPage& page;
-    std::string_view name, title;
-  };
-  const Row rows[] = {{WhatIsPage(), "frmWhatIs", "What is Durvela"},
-                      {CalculatePage(), "frmCalculate", "Calculation of Durvela"},
-                      {GulikPage(), "frmGulik", "Gulika Kaal"},
-                      {YumPage(), "frmYum", "Yama Ghantak"},
-                      {ProductsPage(), "frmProducts", "Products"},
-                      {SitaraDeskPage(), "frmSitaraDesk", "Sitara Desk"}};
-  for (const Row& row : rows) {
+  const auto titleOf = [](const InformationPage& (*page)(), const std::string& name) {
     support::FakeHost host;
-    InformationScreen form(row.page, host);
-    EXPECT_EQ(form.name, row.name);
-    EXPECT_EQ(form.caption, row.title);
-    EXPECT_EQ(form.ControlNamed("lblTitle").caption, row.title);
+    InformationScreen form(page(), host);
     form.ControlNamed("cmdOK").onClick();
     forms::KeyPress escape = {forms::Key::Escape};
     form.Form_KeyDown(escape);
-    EXPECT_EQ(host.calls, std::vector<std::string>(2, "Unload " + form.name));
-  }
+    EXPECT_EQ(host.calls, std::vector<std::string>(2, "Unload " + name));
+    EXPECT_EQ(form.caption, form.ControlNamed("lblTitle").caption);
+    return form.caption;
+  };
+  ExpectRows(titleOf, Row(WhatIsPage, "frmWhatIs", "What is Durvela"),
+             Row(CalculatePage, "frmCalculate", "Calculation of Durvela"),
+             Row(GulikPage, "frmGulik", "Gulika Kaal"), Row(YumPage, "frmYum", "Yama Ghantak"),
+             Row(ProductsPage, "frmProducts", "Products"),
+             Row(SitaraDeskPage, "frmSitaraDesk", "Sitara Desk"));
 }
 
 TEST(PeriodPictures, TellTheTableAndTheSampleDay) {
@@ -42,47 +38,40 @@ TEST(PeriodPictures, TellTheTableAndTheSampleDay) {
             "1\n2\n3\n4 5\n6\n7\n8\nGulik 16:55 - 18:23\n06:43 18:23\nSaturday, 5-3-2011, Delhi");
 }
 
-class About : public testing::Test {
- protected:
-  support::FakeClock clock_;
-  support::FakeSettings settings_;
-  support::FakeMessageBoxes boxes_;
-  support::FakeBrowser browser_;
-  support::FakeHost host_;
-  foundation::SessionTable session_;
-  frmAbout form_{Services{clock_, settings_, session_, boxes_, browser_, host_}};
+struct About : testing::Test, Fakes {
+  frmAbout form{services};
 };
 
 TEST_F(About, ShowsVersionAndCredits) {
-  EXPECT_EQ(form_.caption, "About Durvela");
-  EXPECT_EQ(form_.lblVersion.caption, "Version 2.0.0");
+  EXPECT_EQ(Words(form.caption, form.lblVersion.caption), "About Durvela Version 2.0.0 ");
   for (const char* credit : {"GeoNames", "CC BY 4.0", "Qt 6", "libjpeg-turbo"}) {
-    EXPECT_NE(WordsOf(*form_.picS.picture).find(credit), std::string::npos) << credit;
+    EXPECT_NE(WordsOf(*form.picS.picture).find(credit), std::string::npos) << credit;
   }
 }
 
 TEST_F(About, ScrollsItsCreditsUntilTheMouseIsOverThem) {
-  EXPECT_EQ(form_.Timer1.interval, 50);
-  const float top = form_.picS.place.top;
-  form_.Timer1.onTimer();
-  EXPECT_EQ(form_.picS.place.top, top - 5);
-  form_.picS.place.top = 6 - form_.picS.place.height;
-  form_.Timer1.onTimer();
-  EXPECT_EQ(form_.picS.place.top, 1 - form_.picS.place.height);
-  form_.Timer1.onTimer();
-  EXPECT_EQ(form_.picS.place.top, 2592);
-  form_.picS.onMouseMove({});
-  EXPECT_FALSE(form_.Timer1.enabled);
-  form_.Picture1.onMouseMove({});
-  EXPECT_TRUE(form_.Timer1.enabled);
+  EXPECT_EQ(form.Timer1.interval, 50);
+  forms::Place& credits = form.picS.place;
+  const float top = credits.top;
+  form.Timer1.onTimer();
+  EXPECT_EQ(credits.top, top - 5);
+  credits.top = 6 - credits.height;
+  form.Timer1.onTimer();
+  EXPECT_EQ(credits.top, 1 - credits.height);
+  form.Timer1.onTimer();
+  EXPECT_EQ(credits.top, 2592);
+  form.picS.onMouseMove({});
+  EXPECT_FALSE(form.Timer1.enabled);
+  form.Picture1.onMouseMove({});
+  EXPECT_TRUE(form.Timer1.enabled);
 }
 
 TEST_F(About, HasNoSystemInformation) {
-  form_.cmdSysInfo.onClick();
-  ASSERT_EQ(boxes_.shown.size(), 1U);
-  EXPECT_EQ(boxes_.shown[0].text, "System Information Is Unavailable At This Time");
-  form_.cmdOK.onClick();
-  EXPECT_EQ(host_.calls, std::vector<std::string>{"Unload frmAbout"});
+  form.cmdSysInfo.onClick();
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_EQ(boxes.shown[0].text, "System Information Is Unavailable At This Time");
+  form.cmdOK.onClick();
+  EXPECT_EQ(host.calls, std::vector<std::string>{"Unload frmAbout"});
 }
 
 }  // namespace

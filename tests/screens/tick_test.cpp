@@ -9,29 +9,24 @@
 namespace screens {
 namespace {
 
+// A Saturday: the third eighth of 06:43 to 18:23.
+constexpr const char* kSaturday = "06:43:00 18:23:00 09:38:00-11:05:30";
+
 TEST(Tick, ShowsTodayAtTheDefaultPlace) {
   Dashboard d;
   d.TickAt(2011, 3, 5, 11, 12, 9);
   const frmMain& f = d.form;
-  EXPECT_EQ(f.lblDate.caption, "5 March 2011");
-  EXPECT_EQ(f.lblTime.caption, "11:12:9");
-  EXPECT_EQ(f.lblCountry.caption, "India");
-  EXPECT_EQ(f.lblCity.caption, "Delhi");
-  EXPECT_EQ(f.lblLat.caption, "28.40N");
-  EXPECT_EQ(f.lblLong.caption, "77.13E");
-  EXPECT_EQ(f.lblZone.caption, "82.30E");
-  EXPECT_EQ(f.lblZoneTime.caption, "-5.30");
-  // A Saturday: the third eighth of 06:43 to 18:23.
-  EXPECT_EQ(d.Figures(), "06:43:00 18:23:00 09:38:00-11:05:30");
+  EXPECT_EQ(Words(f.lblDate.caption, f.lblTime.caption), "5 March 2011 11:12:9 ");
+  EXPECT_EQ(Words(f.lblCity.caption, f.lblCountry.caption, f.lblLat.caption, f.lblLong.caption,
+                  f.lblZone.caption, f.lblZoneTime.caption),
+            "Delhi India 28.40N 77.13E 82.30E -5.30 ");
+  EXPECT_EQ(d.Figures(), kSaturday);
 
-  const foundation::SessionRecord& record = d.session.Current();
-  EXPECT_EQ(record.LatitudeText, "28.40N");
-  EXPECT_EQ(record.LongitudeText, "77.13E");
-  EXPECT_EQ(record.ZoneMeridianText, "82.30E");
-  EXPECT_EQ(record.ZoneTimeText, "-5.30");
-  EXPECT_EQ(record.CityName, "Delhi");
-  EXPECT_EQ(record.CountryName, "India");
-  EXPECT_EQ(record.Day, 0);  // the moment is the timetable's to fill
+  const foundation::SessionRecord& r = d.session.Current();
+  EXPECT_EQ(Words(r.CityName, r.CountryName, r.LatitudeText, r.LongitudeText, r.ZoneMeridianText,
+                  r.ZoneTimeText),
+            "Delhi India 28.40N 77.13E 82.30E -5.30 ");
+  EXPECT_EQ(r.Day, 0);  // the moment is the timetable's to fill
 }
 
 TEST(Tick, MovesOnAtTheMomentOfSunrise) {
@@ -40,14 +35,13 @@ TEST(Tick, MovesOnAtTheMomentOfSunrise) {
   d.TickAt(2011, 3, 5, 6, 42, 59);
   EXPECT_EQ(d.Figures(), "06:44:00 18:23:00 09:38:45-11:06:07");
   d.TickAt(2011, 3, 5, 6, 43, 0);
-  EXPECT_EQ(d.Figures(), "06:43:00 18:23:00 09:38:00-11:05:30");
+  EXPECT_EQ(d.Figures(), kSaturday);
 }
 
 TEST(Tick, FallsBackIntoTheMonthBefore) {
   Dashboard d;
   d.TickAt(2011, 3, 1, 0, 0, 0);
-  EXPECT_EQ(d.form.lblDate.caption, "1 March 2011");
-  EXPECT_EQ(d.form.lblTime.caption, "0:0:0");
+  EXPECT_EQ(Words(d.form.lblDate.caption, d.form.lblTime.caption), "1 March 2011 0:0:0 ");
   const std::string beforeSunrise = d.Figures();
   d.TickAt(2011, 2, 28, 12, 0, 0);
   // Sun of 28 February; Tuesday's seventh eighth against Monday's second.
@@ -65,14 +59,11 @@ TEST(Tick, ShowsNothingButZerosBeyond63Degrees) {
 TEST(Tick, KeepsSunriseAndEmptiesDurvelaWhereTheSunDoesNotSet) {
   Dashboard d;
   d.TickAt(2011, 6, 21, 12, 0, 0);
-  const std::string sunrise = d.form.lblSR.caption, sunset = d.form.lblSS.caption;
+  const std::string figures = d.Figures();
   d.SaveDefault("lat", "70.00N");
   d.TickAt(2011, 6, 21, 12, 0, 1);
-  EXPECT_EQ(d.form.lblTime.caption, "12:0:1");
-  EXPECT_EQ(d.form.lblLat.caption, "70.00N");
-  EXPECT_EQ(d.form.lblSR.caption, sunrise);
-  EXPECT_EQ(d.form.lblSS.caption, sunset);
-  EXPECT_EQ(d.form.lblDurvela.caption, "-");
+  EXPECT_EQ(Words(d.form.lblTime.caption, d.form.lblLat.caption), "12:0:1 70.00N ");
+  EXPECT_EQ(d.Figures(), figures.substr(0, 18) + "-");
 }
 
 TEST(Tick, TakesUpANewDefaultPlace) {
@@ -89,18 +80,17 @@ TEST(Tick, TakesUpANewDefaultPlace) {
 
 TEST(Tick, GoesOnAfterASettingsStoreThatFails) {
   struct BrokenStore : support::FakeSettings {
-    std::string GetSetting(std::string_view application, std::string_view section,
-                           std::string_view key, std::string_view fallback) override {
+    std::string GetSetting(std::string_view, std::string_view, std::string_view key,
+                           std::string_view fallback) override {
       if (key == "city") throw foundation::Error(foundation::ErrorKind::FileAccess);
-      return FakeSettings::GetSetting(application, section, key, fallback);
+      return std::string(fallback);
     }
   } settings;
   Dashboard d;
   d.form.lblCity.caption = "as it was";
   Tick(foundation::DateFromParts(2011, 3, 5) + 0.5, settings, d.session, d.form);
-  EXPECT_EQ(d.form.lblCity.caption, "as it was");
-  EXPECT_EQ(d.form.lblLat.caption, "28.40N");
-  EXPECT_EQ(d.Figures(), "06:43:00 18:23:00 09:38:00-11:05:30");
+  EXPECT_EQ(Words(d.form.lblCity.caption, d.form.lblLat.caption), "as it was 28.40N ");
+  EXPECT_EQ(d.Figures(), kSaturday);
 }
 
 TEST(Tick, ReadsItsDateBackInTheUsersLanguage) {
@@ -108,15 +98,14 @@ TEST(Tick, ReadsItsDateBackInTheUsersLanguage) {
   Dashboard d;
   d.TickAt(2011, 3, 5, 11, 12, 9);
   EXPECT_EQ(d.form.lblDate.caption, "5 मार्च 2011");
-  EXPECT_EQ(d.Figures(), "06:43:00 18:23:00 09:38:00-11:05:30");
+  EXPECT_EQ(d.Figures(), kSaturday);
 }
 
 TEST(Tick, LeavesTheRestWhenTheSessionIndexIsOutOfBounds) {
   Dashboard d;
   d.session.CurrentRecord = 1001;
   d.TickAt(2011, 3, 5, 11, 12, 9);
-  EXPECT_EQ(d.form.lblDate.caption, "5 March 2011");
-  EXPECT_EQ(d.form.lblDurvela.caption, "-");
+  EXPECT_EQ(d.form.lblDate.caption + d.form.lblDurvela.caption, "5 March 2011-");
 }
 
 }  // namespace

@@ -4,191 +4,166 @@
 
 #include <gtest/gtest.h>
 
-#include "dayperiods/clsUtilities.h"
-#include "foundation/error.h"
 #include "support/locales.h"
+#include "support/table.h"
 
 namespace screens {
 namespace {
 
 using foundation::DateFromParts;
-using foundation::Error;
+using support::Row;
 using Calls = std::vector<std::string>;
 
+struct Opened : Timetable {
+  Opened() { form.Form_Load(); }
+};
+
 TEST(Timetable, BeginsWithAMonthFromTodayAtNoonInTheDefaultPlace) {
-  struct Default {
-    int year, month, day;
-    foundation::DateTime end;
+  const auto endFrom = [](int year, int month, int day) {
+    Timetable t;
+    const auto today = DateFromParts(year, month, day);
+    t.clock.now = today + 0.9;
+    t.SaveDefault("city", "Ujjain");
+    t.form.Form_Load();
+    EXPECT_EQ(t.form.DT1.moment, today);
+    EXPECT_EQ(t.form.dtTime.moment, 0.5);
+    EXPECT_EQ(Words(t.form.lblCity.caption, t.form.lblZoneTime.caption), "Ujjain -5.30 ");
+    EXPECT_EQ(t.session.Current().Day, day);
+    return t.form.DT2.moment;
   };
-  const Default defaults[] = {{2011, 3, 5, DateFromParts(2011, 4, 5)},
-                              {2011, 1, 31, DateFromParts(2011, 3, 3)},
-                              {2012, 1, 31, DateFromParts(2012, 3, 2)},
-                              {2011, 12, 31, DateFromParts(2012, 1, 31)}};
-  for (const Default& row : defaults) {
-    Timetable timetable;
-    timetable.clock.now = DateFromParts(row.year, row.month, row.day) + 0.9;
-    timetable.settings.SaveSetting(foundation::kProgramName, "settings", "city", "Ujjain");
-    timetable.form.Form_Load();
-    EXPECT_EQ(timetable.form.DT1.moment, DateFromParts(row.year, row.month, row.day));
-    EXPECT_EQ(timetable.form.DT2.moment, row.end);
-    EXPECT_EQ(timetable.form.dtTime.moment, 0.5);
-    EXPECT_EQ(timetable.form.lblCity.caption, "Ujjain");
-    EXPECT_EQ(timetable.form.lblZoneTime.caption, "-5.30");
-    EXPECT_EQ(timetable.session.Current().Day, row.day);
-  }
+  ExpectRows(endFrom, Row(2011, 3, 5, DateFromParts(2011, 4, 5)),
+             Row(2011, 1, 31, DateFromParts(2011, 3, 3)),
+             Row(2012, 1, 31, DateFromParts(2012, 3, 2)),
+             Row(2011, 12, 31, DateFromParts(2012, 1, 31)));
 }
 
 // Delhi's sun on these days gives the figures; positions are twips, a line of the target 240 high.
 TEST(Timetable, DrawsARowADay) {
-  Timetable timetable;
-  timetable.form.Form_Load();
-  timetable.form.DT2.moment = DateFromParts(2011, 3, 7);
-  timetable.host.target.calls.clear();
-  timetable.form.cmdShow.onClick();
+  Opened t;
+  t.form.DT2.moment = DateFromParts(2011, 3, 7);
+  t.form.cmdShow.onClick();
   const Calls expected = {"FontSize 13",           "Cls",
                           "Print 200 0 5-3-2011",  "Print 1700 0 Saturday",
                           "Print 3200 0 09:38:00", "Print 4400 0 to",
                           "Print 4900 0 11:05:30", "Print 200 340 6-3-2011",
                           "Print 1700 340 Sunday", "Print 3200 340 16:56:15",
                           "Print 4400 340 to",     "Print 4900 340 18:24:00"};
-  EXPECT_EQ(timetable.Drawn(), expected);
+  EXPECT_EQ(t.Drawn(), expected);
+  const support::UserNamesScope names(support::Hindi());
+  t.form.cmdShow.onClick();
+  EXPECT_EQ(t.Drawn()[3], "Print 1700 0 शनिवार");
+}
+
+double RowsDrawn(double start, double end, double time) {
+  Opened t;
+  t.form.DT1.moment = start;
+  t.form.DT2.moment = end;
+  t.form.dtTime.moment = time;
+  t.form.cmdShow_Click();
+  EXPECT_TRUE(t.boxes.shown.empty());
+  return (static_cast<double>(t.Drawn().size()) - 2) / 5;
 }
 
 TEST(Timetable, ComparesTimesOfDayToo) {
-  struct Range {
-    double start, end, time;
-    std::size_t rows;
-  };
   const double day = DateFromParts(2011, 3, 5);
-  const Range ranges[] = {{day, day, 0.5, 0},      {day, day, 0, 1},
-                          {day, day + 1, 0.5, 1},  {day, day + 1, 0, 2},
-                          {day, day - 1, 0.5, 0},  {day, day + 365, 0.5, 365},
-                          {day, day + 0.5, 0.5, 1}};
-  for (const Range& range : ranges) {
-    Timetable timetable;
-    timetable.form.Form_Load();
-    timetable.form.DT1.moment = range.start;
-    timetable.form.DT2.moment = range.end;
-    timetable.form.dtTime.moment = range.time;
-    timetable.form.cmdShow_Click();
-    EXPECT_EQ(timetable.Drawn().size(), 2 + 5 * range.rows);
-  }
-}
-
-TEST(Timetable, NamesWeekdaysInTheUsersLanguage) {
-  const support::UserNamesScope names(support::Hindi());
-  Timetable timetable;
-  timetable.form.Form_Load();
-  EXPECT_EQ(timetable.Drawn()[3], "Print 1700 0 शनिवार");
+  ExpectRows(RowsDrawn, Row(day, day, 0.5, 0), Row(day, day, 0, 1), Row(day, day + 1, 0.5, 1),
+             Row(day, day + 1, 0, 2), Row(day, day - 1, 0.5, 0), Row(day, day + 365, 0.5, 365),
+             Row(day, day + 0.5, 0.5, 1));
 }
 
 TEST(Timetable, EndsItsListWithoutAWordWhereARowFails) {
-  Timetable timetable;
-  timetable.form.Form_Load();
-  timetable.form.DT1.moment = DateFromParts(9998, 12, 30);
-  timetable.form.DT2.moment = DateFromParts(9999, 12, 31);
-  timetable.form.cmdShow_Click();
-  EXPECT_EQ(timetable.Drawn().size(), 12U);  // the node has no year after 9999
-  EXPECT_TRUE(timetable.boxes.shown.empty());
+  // The node has no year after 9999.
+  EXPECT_EQ(RowsDrawn(DateFromParts(9998, 12, 30), DateFromParts(9999, 12, 31), 0.5), 2);
 }
 
 TEST(Timetable, SavesThePlaceThatItShows) {
-  Timetable timetable;
-  timetable.form.Form_Load();
-  timetable.form.lblCity.caption = "Nadi(Western)";
-  timetable.form.lblZoneTime.caption = "-12";
-  timetable.form.cmdSave.onClick();
+  Opened t;
+  t.form.lblCity.caption = "Nadi(Western)";
+  t.form.lblZoneTime.caption = "-12";
+  t.form.cmdSave.onClick();
   const auto saved = [&](const char* key) {
-    return timetable.settings.GetSetting(foundation::kProgramName, "settings", key, "none");
+    return t.settings.GetSetting(foundation::kProgramName, "settings", key, "none");
   };
-  EXPECT_EQ(saved("city"), "Nadi(Western)");
-  EXPECT_EQ(saved("zonetime"), "-12");
-  EXPECT_EQ(saved("lat"), "28.40N");
-  ASSERT_EQ(timetable.boxes.shown.size(), 1U);
-  EXPECT_EQ(timetable.boxes.shown[0].text,
-            "Place saved as default. It will load automatically next time");
-  EXPECT_EQ(timetable.boxes.shown[0].icon, foundation::MessageIcon::Information);
+  EXPECT_EQ(Words(saved("city"), saved("zonetime"), saved("lat")), "Nadi(Western) -12 28.40N ");
+  ASSERT_EQ(t.boxes.shown.size(), 1U);
+  EXPECT_EQ(t.boxes.shown[0].text, "Place saved as default. It will load automatically next time");
+  EXPECT_EQ(t.boxes.shown[0].icon, foundation::MessageIcon::Information);
 }
 
 TEST(Timetable, HandsItsRangeAndPlaceToTheReport) {
-  Timetable timetable;
-  timetable.form.Form_Load();
-  timetable.form.cmdPreview.onClick();
-  EXPECT_EQ(timetable.reports, (Calls{"Delhi 28.40N 77.13E 82.30E -5.30 India"}));
+  Opened t;
+  t.form.cmdPreview.onClick();
+  EXPECT_EQ(t.reports, Calls{"Delhi 28.40N 77.13E 82.30E -5.30 India "});
 }
 
 TEST(Timetable, EditsItsPlaceWithThePicker) {
-  Timetable timetable;
-  timetable.form.Form_Load();
-  timetable.form.cmdEditPlace.onClick();
-  EXPECT_EQ(timetable.host.calls.back(), "ShowModal frmCity of frmDurvela");
-  forms::SetText(timetable.picker.form.txtCity, "Uj");
-  timetable.picker.form.lstCity.onDoubleClick();
-  EXPECT_EQ(timetable.form.lblCity.caption, "Ujjain(Madhya Pradesh)");
-  EXPECT_EQ(timetable.form.lblLat.caption, "23.11N");
+  Opened t;
+  t.form.cmdEditPlace.onClick();
+  EXPECT_EQ(t.host.calls.back(), "ShowModal frmCity of frmDurvela");
+  forms::SetText(t.picker.form.txtCity, "Uj");
+  t.picker.form.lstCity.onDoubleClick();
+  EXPECT_EQ(Words(t.form.lblCity.caption, t.form.lblLat.caption), "Ujjain(Madhya Pradesh) 23.11N ");
   // Closed while the places are read: no picker comes up without its screen.
-  timetable.host.shown = false;
-  timetable.host.calls.clear();
-  timetable.form.cmdEditPlace.onClick();
-  EXPECT_TRUE(timetable.host.calls.empty());
+  t.host.shown = false;
+  t.host.calls.clear();
+  t.form.cmdEditPlace.onClick();
+  EXPECT_TRUE(t.host.calls.empty());
 }
 
 TEST(Timetable, GoesBackToTheDashboardAndStartsAnew) {
-  Timetable timetable;
-  timetable.form.Form_Load();
-  const float width = timetable.form.frRes.place.width;
-  timetable.form.scaleWidth *= 1.5F;
-  timetable.form.Form_Resize();
-  timetable.form.SaveTempVals();
-  EXPECT_EQ(timetable.form.windowState, forms::WindowState::Maximised);
-  timetable.form.SaveTempVals();
-  EXPECT_EQ(timetable.form.windowState, forms::WindowState::Normal);
-  timetable.form.cmdMinimize.onClick();
-  EXPECT_EQ(timetable.form.windowState, forms::WindowState::Minimised);
+  Opened t;
+  const float width = t.form.frRes.place.width;
+  t.form.scaleWidth *= 1.5F;
+  t.form.Form_Resize();
+  t.form.SaveTempVals();
+  EXPECT_EQ(t.form.windowState, forms::WindowState::Maximised);
+  t.form.SaveTempVals();
+  EXPECT_EQ(t.form.windowState, forms::WindowState::Normal);
+  t.form.cmdMinimize.onClick();
+  EXPECT_EQ(t.form.windowState, forms::WindowState::Minimised);
   forms::KeyPress escape = {forms::Key::Escape};
-  timetable.form.Form_KeyDown(escape);
-  EXPECT_EQ(timetable.host.calls, (Calls{"Show Dashboard", "Unload frmDurvela"}));
-  timetable.form.Form_Load();
-  EXPECT_EQ(timetable.form.frRes.place.width, width);
-  EXPECT_EQ(timetable.form.windowState, forms::WindowState::Normal);
+  t.form.Form_KeyDown(escape);
+  EXPECT_EQ(t.host.calls, (Calls{"Show Dashboard", "Unload frmDurvela"}));
+  t.form.Form_Load();
+  EXPECT_EQ(t.form.frRes.place.width, width);
+  EXPECT_EQ(t.form.windowState, forms::WindowState::Normal);
 }
 
 TEST(Timetable, MovesWithTheMouseOnItsTitle) {
-  Timetable timetable;
-  timetable.form.left = 1500;
-  timetable.form.top = 3000;
-  timetable.form.lblTitle.onMouseMove({100, 100});
-  timetable.form.Picture1.onMouseDown({150, 300});
-  timetable.form.Picture1.onMouseMove({180, 270});
-  timetable.form.Picture1.onMouseUp({180, 270});
-  timetable.form.Picture1.onMouseMove({0, 0});
-  timetable.form.windowState = forms::WindowState::Maximised;
-  timetable.form.lblTitle.onMouseDown({0, 0});
-  timetable.form.lblTitle.onMouseMove({50, 50});
-  EXPECT_EQ(timetable.form.left, 1530);
-  EXPECT_EQ(timetable.form.top, 2970);
+  Timetable t;
+  t.form.left = 1500;
+  t.form.top = 3000;
+  t.form.lblTitle.onMouseMove({100, 100});
+  t.form.Picture1.onMouseDown({150, 300});
+  t.form.Picture1.onMouseMove({180, 270});
+  t.form.Picture1.onMouseUp({180, 270});
+  t.form.Picture1.onMouseMove({0, 0});
+  t.form.windowState = forms::WindowState::Maximised;
+  t.form.lblTitle.onMouseDown({0, 0});
+  t.form.lblTitle.onMouseMove({50, 50});
+  EXPECT_EQ(std::pair(t.form.left, t.form.top), std::pair(1530.0F, 2970.0F));
 }
 
 TEST(Timetable, ScrollsItsPageAndStopsItsSun) {
-  Timetable timetable;
-  timetable.form.Form_Load();
-  const float top = timetable.form.picRes.place.top;
-  const int below = timetable.form.VScroll1.scroll.maximum;
+  Opened t;
+  const float& top = t.form.picRes.place.top;
+  const float first = top;
+  const int below = t.form.VScroll1.scroll.maximum;
   EXPECT_GT(below, 0);
-  timetable.form.picRes.onMouseWheel(-1000);
-  EXPECT_EQ(timetable.form.picRes.place.top, top - static_cast<float>(below));
-  timetable.form.picRes.onMouseWheel(1000);
-  EXPECT_EQ(timetable.form.picRes.place.top, top);
-  timetable.form.picRes.onMouseWheel(-1);
-  timetable.form.cmdShow_Click();
-  EXPECT_EQ(timetable.form.picRes.place.top, top);  // a new list begins at its top
+  t.form.picRes.onMouseWheel(-1000);
+  EXPECT_EQ(top, first - static_cast<float>(below));
+  t.form.picRes.onMouseWheel(1000);
+  EXPECT_EQ(top, first);
+  t.form.picRes.onMouseWheel(-1);
+  t.form.cmdShow_Click();
+  EXPECT_EQ(top, first);  // a new list begins at its top
 
-  const float from = timetable.form.picSlide.place.left;
-  timetable.form.Form_Resize();
-  EXPECT_EQ(timetable.form.picSlide.place.left, from);
-  for (int tick = 0; tick < 100; ++tick) timetable.form.Timer1_Timer();
-  EXPECT_GT(timetable.form.picSlide.place.left, from);
-  EXPECT_EQ(timetable.form.Timer1.interval, 0);
+  const float from = t.form.picSlide.place.left;
+  t.form.Form_Resize();
+  EXPECT_EQ(t.form.picSlide.place.left, from);
+  for (int tick = 0; tick < 100; ++tick) t.form.Timer1_Timer();
+  EXPECT_GT(t.form.picSlide.place.left, from);
+  EXPECT_EQ(t.form.Timer1.interval, 0);
 }
 
 }  // namespace
