@@ -7,14 +7,6 @@
 namespace screens {
 namespace {
 
-TEST(DashboardForm, ShowsItsFirstFiguresAtOnce) {
-  Dashboard d;
-  d.form.Form_Load();
-  EXPECT_EQ(d.form.lblSR.caption, "06:43:00");
-  EXPECT_EQ(d.form.Timer1.interval, 1000);
-  EXPECT_EQ(Words(d.form.caption, d.form.VersionCaption.caption), "Durvela 2 version 2.0 ");
-}
-
 TEST(DashboardForm, AsksBeforeItEnds) {
   Dashboard d;
   bool cancel = false;

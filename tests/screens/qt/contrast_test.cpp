@@ -14,6 +14,7 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <map>
 
 #include "screens/credits.h"
@@ -50,6 +51,19 @@ TEST(Contrast, IsThatOfPublishedPairs) {
   EXPECT_NEAR(Contrast(0xFF777777, 0xFFFFFFFF), 4.48, 0.005);  // the grey that just fails
 }
 
+// At the worst of the points that a text takes up on what is below it.
+double ContrastIn(const QRect& box, const QImage& below, forms::Colour colour,
+                  const std::function<bool(QPoint)>& taken) {
+  double worst = 21;
+  const QRect pixels = box.intersected(below.rect());
+  for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+    for (int x = pixels.left(); x <= pixels.right(); ++x) {
+      if (taken({x, y})) worst = std::min(worst, Contrast(below.pixel(x, y), ToQt(colour).rgb()));
+    }
+  }
+  return worst;
+}
+
 // The colours below each line of a picture, where it is shown on a ground.
 void CheckLettering(const forms::Picture& picture, forms::Colour ground, const std::string& where) {
   forms::Picture bare = picture;
@@ -61,23 +75,18 @@ void CheckLettering(const forms::Picture& picture, forms::Colour ground, const s
   QPainter painter(&image);
   PaintPicture(painter, bare, QRectF(image.rect()));
   for (const auto& item : picture.items) {
-    const auto* lettering = std::get_if<forms::Lettering>(&item);
-    if (lettering == nullptr || lettering->text.empty()) continue;
-    const auto points = static_cast<float>(lettering->size * kTwipsPerPixel / kTwipsPerPoint);
-    const QFontMetricsF metrics(ToQt(forms::Font{.size = points, .bold = lettering->bold}));
-    const QString text = ToQt(lettering->text);
-    QRectF box = metrics.tightBoundingRect(text).translated(lettering->at.x, lettering->at.y);
+    const auto* line = std::get_if<forms::Lettering>(&item);
+    if (line == nullptr || line->text.empty()) continue;
+    const auto points = static_cast<float>(line->size * kTwipsPerPixel / kTwipsPerPoint);
+    const QFontMetricsF metrics(ToQt(forms::Font{.size = points, .bold = line->bold}));
+    const QString text = ToQt(line->text);
+    QRectF box = metrics.tightBoundingRect(text).translated(line->at.x, line->at.y);
     const double width = metrics.horizontalAdvance(text);
-    if (lettering->alignment == forms::Alignment::Right) box.translate(-width, 0);
-    if (lettering->alignment == forms::Alignment::Centre) box.translate(-width / 2, 0);
-    const QRect pixels = box.toAlignedRect().intersected(image.rect());
-    double worst = 21;
-    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
-      for (int x = pixels.left(); x <= pixels.right(); ++x) {
-        worst = std::min(worst, Contrast(image.pixel(x, y), ToQt(lettering->colour).rgb()));
-      }
-    }
-    EXPECT_GE(worst, Wanted(points, lettering->bold)) << lettering->text << " " << where;
+    if (line->alignment == forms::Alignment::Right) box.translate(-width, 0);
+    if (line->alignment == forms::Alignment::Centre) box.translate(-width / 2, 0);
+    const auto all = [](QPoint) { return true; };
+    EXPECT_GE(ContrastIn(box.toAlignedRect(), image, line->colour, all), Wanted(points, line->bold))
+        << line->text << " " << where;
   }
 }
 
@@ -101,16 +110,6 @@ TEST(Contrast, IsEnoughInThePicturesOfTheInformationScreens) {
   }
 }
 
-// As it stands in its window, at four times the size, so that strokes have their full colour.
-QImage Enlarged(QWidget& widget) {
-  constexpr int kTimes = 4;
-  QImage image(kTimes * widget.size(), QImage::Format_RGB32);
-  image.setDevicePixelRatio(kTimes);
-  QWidget& window = *widget.window();
-  window.render(&image, QPoint(), QRect(widget.mapTo(&window, QPoint()), widget.size()));
-  return image;
-}
-
 // Labels, against what is there when they are away.
 void CheckLabels(FormWindow& window, forms::Form& form) {
   const QImage with = window.grab().toImage();
@@ -125,39 +124,36 @@ void CheckLabels(FormWindow& window, forms::Form& form) {
   for (auto& [label, caption] : captions) {
     label->caption = caption;
     if (caption.empty()) continue;
-    double worst = 21;
     int seen = 0;
-    const QRect pixels = PlaceInPixels(*label).intersected(with.rect());
-    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
-      for (int x = pixels.left(); x <= pixels.right(); ++x) {
-        const QRgb below = without.pixel(x, y);
-        if (with.pixel(x, y) == below) continue;
-        ++seen;
-        worst = std::min(worst, Contrast(below, ToQt(label->foreColour).rgb()));
-      }
-    }
+    const auto taken = [&](QPoint at) {
+      const bool differs = with.pixel(at) != without.pixel(at);
+      seen += differs;
+      return differs;
+    };
+    EXPECT_GE(ContrastIn(PlaceInPixels(*label), without, label->foreColour, taken),
+              Wanted(label->font.size, label->font.bold))
+        << caption;
     EXPECT_GT(seen, 20) << caption;
-    EXPECT_GE(worst, Wanted(label->font.size, label->font.bold)) << caption;
   }
   window.Mirror();
 }
 
-// The toolkit's widgets: the farthest colour from that which most of the inside has.
+// The toolkit's widgets, at four times the size, so that strokes have their full colour: the
+// farthest colour from that which most of the inside has.
 void CheckInside(QWidget& widget) {
-  constexpr int kEdge = 16;
-  const QImage image = Enlarged(widget);
-  const QRect inside = image.rect().adjusted(kEdge, kEdge, -kEdge, -kEdge);
+  constexpr int kTimes = 4, kEdge = 16;
+  QImage image(kTimes * widget.size(), QImage::Format_RGB32);
+  image.setDevicePixelRatio(kTimes);
+  QWidget& window = *widget.window();
+  window.render(&image, QPoint(), QRect(widget.mapTo(&window, QPoint()), widget.size()));
   std::map<QRgb, int> colours;
-  for (int y = inside.top(); y <= inside.bottom(); ++y) {
-    for (int x = inside.left(); x <= inside.right(); ++x) ++colours[image.pixel(x, y)];
+  for (int y = kEdge; y < image.height() - kEdge; ++y) {
+    for (int x = kEdge; x < image.width() - kEdge; ++x) ++colours[image.pixel(x, y)];
   }
-  const auto most =
-      std::max_element(colours.begin(), colours.end(),
-                       [](const auto& a, const auto& b) { return a.second < b.second; });
+  const QRgb most =
+      std::ranges::max_element(colours, {}, [](const auto& of) { return of.second; })->first;
   double contrast = 1;
-  for (const auto& [colour, count] : colours) {
-    contrast = std::max(contrast, Contrast(colour, most->first));
-  }
+  for (const auto& [colour, count] : colours) contrast = std::max(contrast, Contrast(colour, most));
   EXPECT_GE(contrast, 4.5) << widget.objectName().toStdString();
 }
 

@@ -2,29 +2,19 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QElapsedTimer>
 #include <QTimer>
 #include <algorithm>
 #include <cstdlib>
 
 #include "foundation/error.h"
-#include "screens/qt/control_widget.h"
+#include "screens/qt/driving.h"
 #include "screens/qt/qt_host.h"
 
 namespace screens::qt {
 namespace {
 
 void RunFor(int milliseconds) {
-  QElapsedTimer time;
-  for (time.start(); time.elapsed() < milliseconds;) QApplication::processEvents();
-}
-
-// However busy the machine is.
-template <typename Condition>
-void RunUntil(Condition condition) {
-  QElapsedTimer time;
-  for (time.start(); !condition() && time.elapsed() < 20000;) QApplication::processEvents();
+  RunUntil([] { return false; }, milliseconds);
 }
 
 // Counts what happens to it; its timer lets the event loop run inside the handler.
@@ -50,9 +40,12 @@ struct CountingForm : forms::Form {
   int loads = 0, resizes = 0, ticks = 0, depth = 0, deepest = 0;
 };
 
-TEST(Host, TicksOnBelowAModalFormWithoutEnteringATimerTwice) {
+struct Host : testing::Test {
   CountingForm form, inner;
   QtHost host;
+};
+
+TEST_F(Host, TicksOnBelowAModalFormWithoutEnteringATimerTwice) {
   host.Show(form);
   inner.Timer1.interval = 0;
   const int before = form.ticks;
@@ -65,9 +58,7 @@ TEST(Host, TicksOnBelowAModalFormWithoutEnteringATimerTwice) {
   EXPECT_EQ(form.deepest, 1);
 }
 
-TEST(Host, KeepsAModalFormThroughMinimising) {
-  CountingForm form, inner;
-  QtHost host;
+TEST_F(Host, KeepsAModalFormThroughMinimising) {
   host.Show(form);
   bool unloaded = false;
   QTimer::singleShot(30, [&] { host.WindowOf(inner).showMinimized(); });
@@ -82,28 +73,24 @@ TEST(Host, KeepsAModalFormThroughMinimising) {
   EXPECT_EQ(inner.loads, 2);
 }
 
-TEST(Host, ComesBackFromAModalFormThatGoesAtOnce) {
+TEST_F(Host, ComesBackFromAModalFormThatGoesAtOnce) {
   struct Fleeting : CountingForm {
-    explicit Fleeting(QtHost& h) : host(h) {}
+    explicit Fleeting(QtHost& h) : at(h) {}
     void Form_Load() override {
       CountingForm::Form_Load();
-      if (loads == 1) host.Unload(*this);
+      if (loads == 1) at.Unload(*this);
     }
-    void Form_Resize() override { host.Unload(*this); }
-    QtHost& host;
+    void Form_Resize() override { at.Unload(*this); }
+    QtHost& at;
   };
-  QtHost host;
-  CountingForm owner;
-  Fleeting form(host);
-  host.Show(owner);
-  host.ShowModal(form, owner);  // unloaded while it loads
-  host.ShowModal(form, owner);  // unloaded by its first event
-  EXPECT_EQ(form.loads, 2);
+  Fleeting fleeting(host);
+  host.Show(form);
+  host.ShowModal(fleeting, form);  // unloaded while it loads
+  host.ShowModal(fleeting, form);  // unloaded by its first event
+  EXPECT_EQ(fleeting.loads, 2);
 }
 
-TEST(Host, UnloadsAFormThatTheUserCloses) {
-  CountingForm form;
-  QtHost host;
+TEST_F(Host, UnloadsAFormThatTheUserCloses) {
   host.Show(form);
   RunUntil([&] { return form.ticks > 0; });
   host.WindowOf(form).close();
@@ -115,9 +102,7 @@ TEST(Host, UnloadsAFormThatTheUserCloses) {
   EXPECT_EQ(form.loads, 2);
 }
 
-TEST(Host, LaysAFormOutAgainWhenItComesBack) {
-  CountingForm form;
-  QtHost host;
+TEST_F(Host, LaysAFormOutAgainWhenItComesBack) {
   host.Show(form);
   FormWindow& window = host.WindowOf(form);
   window.showMinimized();
@@ -138,17 +123,13 @@ TEST(Host, LaysAFormOutAgainWhenItComesBack) {
   EXPECT_FALSE(window.isMaximized());
 }
 
-TEST(Host, PlacesControlsInTheirContainerAndLinesByTheirEnds) {
-  CountingForm form;
-  QtHost host;
+TEST_F(Host, PlacesControlsInTheirContainerAndLinesByTheirEnds) {
   const QImage shown = host.WindowOf(form).grab().toImage();
   EXPECT_GT(shown.pixelColor(98, 2).red(), 100);
   EXPECT_GT(shown.pixelColor(50, 50).red(), 100);
   EXPECT_EQ(shown.pixelColor(2, 2).red(), 0);
-  for (auto* widget : host.WindowOf(form).findChildren<ControlWidget*>()) {
-    if (&widget->Model() != &form.Inside) continue;
-    EXPECT_EQ(widget->mapTo(&host.WindowOf(form), QPoint()), QPoint(30, 30));
-  }
+  const auto* inside = Find<QWidget>(host.WindowOf(form), "Inside");
+  EXPECT_EQ(inside->mapTo(&host.WindowOf(form), QPoint()), QPoint(30, 30));
 }
 
 TEST(FailedHandlers, EndTheProgramAfterOneBox) {

@@ -4,14 +4,13 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QComboBox>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QTimer>
 
 #include "screens/find_in_list.h"
+#include "screens/qt/driving.h"
 #include "screens/qt/qt_host.h"
 #include "screens/qt/qt_machine.h"
 
@@ -22,46 +21,40 @@ class PickerWindow : public testing::Test {
  protected:
   PickerWindow() {
     picker_.form.Load("India", "Delhi", picker_.caller);
-    window_ = &host_.WindowOf(picker_.form);
-    window_->show();
-    window_->activateWindow();
+    window_.show();
+    window_.activateWindow();
     Turn();
-    text_ = window_->findChild<QLineEdit*>(QStringLiteral("txtCity"));
-    list_ = window_->findChild<QListView*>(QStringLiteral("lstCity"));
-    countries_ = window_->findChild<QComboBox*>(QStringLiteral("cmbCountry"));
   }
 
-  static void Turn() { QApplication::processEvents(); }
-  static void Press(QWidget* widget, Qt::Key key, const QString& text = {}) {
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QApplication::sendEvent(widget, &press);
+  // What is chosen in the list of the window, after a key.
+  std::string Chosen(QWidget* widget, Qt::Key key, const QString& text = {}) {
+    Press(widget, key, {}, text);
     Turn();
+    return list_->currentIndex().data().toString().toStdString();
   }
-  QString Chosen() const { return list_->currentIndex().data().toString(); }
 
   Picker picker_;
   QtHost host_;
-  FormWindow* window_;
-  QLineEdit* text_;
-  QListView* list_;
-  QComboBox* countries_;
+  FormWindow& window_ = host_.WindowOf(picker_.form);
+  QLineEdit* text_ = Find<QLineEdit>(window_, "txtCity");
+  QListView* list_ = Find<QListView>(window_, "lstCity");
+  QComboBox* countries_ = Find<QComboBox>(window_, "cmbCountry");
 };
 
-TEST_F(PickerWindow, OpensInTheTextWithAllOfItSelected) {
-  EXPECT_EQ(QApplication::focusWidget(), text_);
-  EXPECT_EQ(text_->selectedText(), QStringLiteral("Delhi"));
-  EXPECT_EQ(Chosen(), QStringLiteral("Delhi, Delhi, India"));
-  EXPECT_EQ(countries_->currentText(), QStringLiteral("India"));
-}
-
 TEST_F(PickerWindow, FollowsTypingAndArrows) {
-  Press(text_, Qt::Key_U, QStringLiteral("u"));
-  EXPECT_EQ(Chosen(), QStringLiteral("Ujjain, Madhya Pradesh, India"));
-  Press(text_, Qt::Key_Up);
+  EXPECT_EQ(QApplication::focusWidget(), text_);
+  EXPECT_EQ(text_->selectedText(), u"Delhi");
+  EXPECT_EQ(list_->currentIndex().data().toString(), u"Delhi, Delhi, India");
+  EXPECT_EQ(countries_->currentText(), u"India");
+  Press(text_, Qt::Key_Return, {}, {}, true);  // held down since before
+  EXPECT_TRUE(picker_.host.calls.empty());
+  EXPECT_EQ(Chosen(text_, Qt::Key_U, QStringLiteral("u")), "Ujjain, Madhya Pradesh, India");
+  EXPECT_EQ(Chosen(text_, Qt::Key_Up), "Delhi Cantonment, Delhi, India");
   EXPECT_EQ(QApplication::focusWidget(), list_);
-  EXPECT_EQ(Chosen(), QStringLiteral("Delhi Cantonment, Delhi, India"));
   Press(list_, Qt::Key_Up);
   EXPECT_EQ(picker_.Chosen(), "Delhi, Delhi, India");  // the list's own move reaches the form
+  Press(list_, Qt::Key_Space, Qt::ControlModifier, QStringLiteral(" "));
+  EXPECT_TRUE(list_->selectionModel()->isSelected(list_->currentIndex()));
   Press(list_, Qt::Key_Return);
   EXPECT_EQ(picker_.caller.lblCity.caption, "Delhi(Delhi)");
 }
@@ -76,21 +69,9 @@ TEST_F(PickerWindow, ShowsTheCountryThatIsChosenWithoutAChoiceOfAPlace) {
   EXPECT_EQ(picker_.Chosen(), "Nadi, Western, Fiji");
 }
 
-TEST_F(PickerWindow, KeepsItsChoiceVisible) {
-  QKeyEvent toggle(QEvent::KeyPress, Qt::Key_Space, Qt::ControlModifier);
-  QApplication::sendEvent(list_, &toggle);
-  EXPECT_TRUE(list_->selectionModel()->isSelected(list_->currentIndex()));
-}
-
-TEST_F(PickerWindow, IsNotAnsweredByAKeyHeldDown) {
-  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
-  QApplication::sendEvent(text_, &held);
-  EXPECT_TRUE(picker_.host.calls.empty());
-}
-
 TEST_F(PickerWindow, HidesBehindAnotherWindow) {
   host_.Show(picker_.caller);
-  for (int turns = 0; turns < 1000 && picker_.host.calls.empty(); ++turns) Turn();
+  RunUntil([&] { return !picker_.host.calls.empty(); });
   EXPECT_EQ(picker_.host.calls, std::vector<std::string>{"Hide frmCity"});
 }
 
@@ -102,13 +83,11 @@ TEST(LoadingList, GoesOnBetweenTheEntries) {
   picker.yielder.between = [&](int) { events.Yield(); };
   FormWindow& window = host.WindowOf(picker.form);
   window.show();
-  QTimer again;  // another country comes in while one is loading
-  again.setSingleShot(true);
-  QObject::connect(&again, &QTimer::timeout, [&] { FindInCombo("Fiji", picker.form.cmbCountry); });
-  again.start(0);
+  // Another country comes in while one is loading.
+  QTimer::singleShot(0, [&] { FindInCombo("Fiji", picker.form.cmbCountry); });
   picker.form.Load("India", "Delhi", picker.caller);
   window.Mirror();
-  EXPECT_EQ(window.findChild<QListView*>(QStringLiteral("lstCity"))->model()->rowCount(), 1);
+  EXPECT_EQ(Find<QListView>(window, "lstCity")->model()->rowCount(), 1);
   host.Unload(picker.form);
   picker.form.lstCity.items->Clear();  // tells a window that has gone
 }
