@@ -1,12 +1,19 @@
-// Pictures that leave the program to the toolkit's clipboard.
+// Pictures that leave the program: to the toolkit's clipboard, and in files that it reads.
 
 #include <gtest/gtest.h>
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QImage>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <array>
 
+#include "bitmap/cDIBSection.h"
+#include "bitmap/libjpeg_library.h"
+#include "bitmap/mIntelJPEGLibrary.h"
 #include "screens/qt/qt_clipboard.h"
+#include "support/machine_fakes.h"
 
 namespace screens::qt {
 namespace {
@@ -38,6 +45,23 @@ TEST(Clipboard, HoldsThePictureInDotsUntilThereIsAnother) {
   EXPECT_FALSE(clipboard.SetPicture(nullptr));
   EXPECT_FALSE(clipboard.SetPicture(PictureOf(0, 0, {})));
   EXPECT_EQ(Held().size(), QSize(3, 2));
+}
+
+// A decoder that is not the writer's: the red pixel is still where it was.
+TEST(SavedPicture, IsReadByTheToolkit) {
+  bitmap::cDIBSection dib;
+  ASSERT_TRUE(dib.Create(9, 9));
+  std::ranges::fill(dib.hdc()->Bytes(), std::uint8_t{255});
+  std::ranges::copy(std::to_array<std::uint8_t>({0, 0, 255}), &dib.hdc()->Row(8)[0]);
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(QStringLiteral("red.jpg"));
+  bitmap::LibjpegLibrary library;
+  support::FakeMessageBoxes boxes;
+  ASSERT_TRUE(bitmap::SaveJPG(dib, file.toStdString(), 100, library, boxes));
+  const QImage read(file);
+  ASSERT_EQ(read.size(), QSize(9, 9));
+  EXPECT_GT(read.pixelColor(0, 0).red(), read.pixelColor(0, 0).green() + 50);
+  EXPECT_GT(read.pixelColor(8, 8).green(), 250);
 }
 
 }  // namespace
