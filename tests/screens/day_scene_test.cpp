@@ -45,7 +45,8 @@ TEST(SkyPicture, NamesThePeriodsReadablyAtAnySize) {
   const double kSizes[][2] = {{840, 560}, {630, 420}, {630, 1000}, {1920, 800}};
   for (const auto& [width, height] : kSizes) {
     std::string words;
-    for (const auto& item : SkyPicture(SceneAt(12, 0), width, height)->items) {
+    const forms::PicturePtr picture = SkyPicture(SceneAt(12, 0), width, height);
+    for (const auto& item : picture->items) {
       const auto* lettering = std::get_if<forms::Lettering>(&item);
       if (lettering == nullptr) continue;
       words += "|" + lettering->text + "|";
