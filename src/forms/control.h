@@ -80,6 +80,7 @@ struct Properties {
   std::string tag;
   std::string toolTip;
   std::string spokenName;  // for assistive programs, where no caption of its own tells
+  std::string spokenText;  // and what a picture of dots shows, in words
   std::string whenEmpty;   // shown by a text box or list that is empty
   std::string trailing;    // a remark at the right end of a text box
   std::string emphasis;    // what entries of a list begin with is shown bold

@@ -110,4 +110,7 @@ inline RasterPtr DotsOf(const Picture& picture) {
 // Its lettering as it was drawn: a blank between texts on the same line, else a new line.
 std::string WordsOf(const Picture& picture);
 
+// Its lettering as one reads a page: a line below the other, each from left to right.
+std::string LinesOf(const Picture& page);
+
 }  // namespace forms

@@ -61,6 +61,8 @@ void frmSPkun::RESET() {
   lstPage.items->Clear();
   cmbPage.items->Clear();
   PIC.picture = nullptr;
+  PIC.spokenText.clear();
+  words_.clear();
   directPages_ = 0;
   KillAllTmpFile();
 }
@@ -73,6 +75,7 @@ void frmSPkun::CreateTMPfile(std::int16_t PageNum, const forms::Control& picture
   Resume([&] {
     forms::Picture blank = {.width = pictureBox.place.width, .height = pictureBox.place.height};
     const forms::Picture& shown = pictureBox.picture ? *pictureBox.picture : blank;
+    words_[PageNum] = forms::LinesOf(shown);
     SavePage(PageNum, services_.rasteriser.Render(shown));
   });
 }
@@ -105,6 +108,7 @@ void frmSPkun::ShowPage(std::int16_t& PageNum, std::string_view Pname, std::stri
   if (backgroundPath_.empty()) {
     backgroundPath_ = (foundation::BackgroundFolder() / "default.jpg").string();
   }
+  PIC.spokenText.clear();
   if (Pname != kCachePage) {
     DrawDirectly(PageNum, ToPrinter ? services_.printer : services_.host.TargetOf(PIC));
     return;
@@ -114,6 +118,7 @@ void frmSPkun::ShowPage(std::int16_t& PageNum, std::string_view Pname, std::stri
   PageNum = foundation::RoundToInt16(foundation::LeadingNumber(number));
   PIC.picture = nullptr;
   PIC.picture = LoadPage(PageNum);
+  PIC.spokenText = words_[PageNum];
   if (ToPrinter) {
     services_.printer.PaintPicture(PIC.picture, 0, 0, PIC.picture->width, PIC.picture->height);
   }

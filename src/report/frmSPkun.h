@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -121,6 +122,7 @@ class frmSPkun : public forms::Form {
   bool dragging_ = false;
   int dragX_ = 0, dragY_ = 0;
   int directPages_ = 0;
+  std::map<std::int16_t, std::string> words_;  // of the pages in files, which are dots
 };
 
 }  // namespace report

@@ -7,6 +7,8 @@
 #include "forms/clsVSZ.h"
 #include "forms/drawing_target.h"
 #include "forms/item_list.h"
+#include "forms/picture.h"
+#include "foundation/legacy_hindi.h"
 #include "foundation/resume.h"
 #include "support/errors.h"
 #include "support/table.h"
@@ -57,6 +59,17 @@ TEST(ItemList, KeepsItsSelectionOnTheEntry) {
   EXPECT_EQ(list.ListIndex(), 1);
   list.Clear();
   EXPECT_EQ(list.ListIndex(), -1);
+}
+
+// Drawn column by column, the head in a face with another baseline and an encoding of its own.
+TEST(Picture, IsReadLineByLine) {
+  const std::string hindi(foundation::kLegacyHindiFace);
+  const auto page = NewPicture(900, 900);
+  page->items = {Lettering{.text = "fnukad", .at = {10, 95}, .face = hindi}, Outline{},
+                 Lettering{.text = "1-Sat", .at = {10, 120}},
+                 Lettering{.text = "Rise", .at = {80, 100}},
+                 Lettering{.text = "07:14", .at = {80, 120}}};
+  EXPECT_EQ(LinesOf(*page), "दिनांक Rise\n1-Sat 07:14\n");
 }
 
 // A control of every manner of resizing.

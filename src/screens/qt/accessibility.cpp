@@ -76,7 +76,8 @@ class AccessibleControl : public AccessibleContainer {
     const forms::PicturePtr picture = painted ? painted->Model().picture : nullptr;
     const auto where =
         widget()->accessibleName().isEmpty() ? QAccessible::Name : QAccessible::Description;
-    return picture && kind == where ? ToQt(forms::WordsOf(*picture)) : told;
+    const QString words = picture && kind == where ? ToQt(forms::WordsOf(*picture)) : QString();
+    return words.isEmpty() ? told : words;
   }
 
   QStringList actionNames() const override {

@@ -52,6 +52,7 @@ void Dress(QWidget& widget, const forms::Control& control, const QRect& place) {
   widget.setEnabled(control.enabled);
   widget.setToolTip(ToQt(control.toolTip));
   widget.setAccessibleName(ToQt(control.spokenName.empty() ? control.caption : control.spokenName));
+  widget.setAccessibleDescription(ToQt(control.spokenText));
   widget.setFocusPolicy(control.tabStop ? Qt::StrongFocus : Qt::NoFocus);
 }
 
