@@ -63,6 +63,7 @@ void frmSPkun::RESET() {
   PIC.picture = nullptr;
   PIC.spokenText.clear();
   words_.clear();
+  unwritten_.clear();
   directPages_ = 0;
   KillAllTmpFile();
 }
@@ -72,11 +73,13 @@ void frmSPkun::KillAllTmpFile() {
 }
 
 void frmSPkun::CreateTMPfile(std::int16_t PageNum, const forms::Control& pictureBox) {
+  unwritten_.insert(PageNum);
   Resume([&] {
     forms::Picture blank = {.width = pictureBox.place.width, .height = pictureBox.place.height};
     const forms::Picture& shown = pictureBox.picture ? *pictureBox.picture : blank;
     words_[PageNum] = forms::LinesOf(shown);
     SavePage(PageNum, services_.rasteriser.Render(shown));
+    unwritten_.erase(PageNum);
   });
 }
 
@@ -117,6 +120,8 @@ void frmSPkun::ShowPage(std::int16_t& PageNum, std::string_view Pname, std::stri
   const std::string_view number = mark == std::string_view::npos ? PTitle : PTitle.substr(mark + 1);
   PageNum = foundation::RoundToInt16(foundation::LeadingNumber(number));
   PIC.picture = nullptr;
+  // What stands under its name then is a page of a former report.
+  if (unwritten_.contains(PageNum)) throw foundation::Error(foundation::ErrorKind::FileAccess);
   PIC.picture = LoadPage(PageNum);
   PIC.spokenText = words_[PageNum];
   if (ToPrinter) {

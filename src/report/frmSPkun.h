@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -84,7 +85,8 @@ class frmSPkun : public forms::Form {
   void cmdPrintPage_Click();
 
   // A page onto PIC or the printer. PageNum takes the number that the title tells. Errors as of
-  // GenHoro and LoadPage; PIC has lost its picture by then.
+  // GenHoro and LoadPage, FileAccess for a page that could not be written; PIC has lost its picture
+  // by then.
   void ShowPage(std::int16_t& PageNum, std::string_view Pname, std::string_view PTitle,
                 bool ToPrinter);
 
@@ -123,6 +125,7 @@ class frmSPkun : public forms::Form {
   int dragX_ = 0, dragY_ = 0;
   int directPages_ = 0;
   std::map<std::int16_t, std::string> words_;  // of the pages in files, which are dots
+  std::set<std::int16_t> unwritten_;
 };
 
 }  // namespace report

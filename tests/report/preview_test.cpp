@@ -179,6 +179,14 @@ TEST_F(Preview, TakesTheDirectPathForOtherPages) {
   EXPECT_ERROR(NoSuchMember, preview.SendToPrint(footer));
 }
 
+// The file of a former page is still there under the name of one that could not be written.
+TEST_F(Preview, ShowsNoFormerPageInstead) {
+  rasteriser.dots = {};
+  preview.CreateTMPfile(1, preview.PIC);
+  std::int16_t number = 1;
+  EXPECT_ERROR(FileAccess, preview.ShowPage(number, kCachePage, "May ..P1", false));
+}
+
 using PageFiles = ReportingTest;
 
 TEST_F(PageFiles, StaySilentWhereTheyCannotBeWritten) {
