@@ -39,7 +39,8 @@ struct PictureMeans {
 // links, a thousand each.
 class PDFPrinter : public forms::DrawingTarget {
  public:
-  // The fonts are those of the program's own folder. Without means, PaintPicture fails.
+  // The fonts are those of the program's own folder; the errors of PDFLoadAfm. Without means,
+  // PaintPicture fails.
   PDFPrinter(const foundation::Clock& clock, foundation::MessageBoxes& boxes);
   PDFPrinter(const foundation::Clock& clock, foundation::MessageBoxes& boxes,
              ReaderWindows& readers);
@@ -64,8 +65,8 @@ class PDFPrinter : public forms::DrawingTarget {
   void PDFSubject(std::string_view text);
   void PDFProducer(std::string_view text);
 
-  void PDFConfirm(bool confirm) { settings_.confirm = confirm; }
-  void PDFView(bool view) { settings_.view = view; }
+  void PDFConfirm(bool confirm) { settings_.confirm = confirm; }  // the user is told of the end
+  void PDFView(bool view) { settings_.view = view; }              // changes nothing
   void PDFUseThumbs(bool thumbs) { settings_.useThumbs = thumbs; }
   void PDFUseOutlines(bool outlines) { settings_.useOutlines = outlines; }
   // 0 whole page, 1 page width, 2 true size, else a percentage.
@@ -109,8 +110,8 @@ class PDFPrinter : public forms::DrawingTarget {
   std::int16_t PDFGetY() const;
 
   // Fonts.
-  void PDFPathConfiguration(std::string_view folder);
-  void PDFLoadAfm(std::string_view folder);
+  void PDFPathConfiguration(std::string_view folder);  // of the widths; the list of fonts stays
+  void PDFLoadAfm(std::string_view folder);            // both; the errors of FontFolder::PDFLoadAfm
   // 0 Helvetica, 1 Courier, 2 Times, 3 Symbol, 4 ZapfDingbats. Each digit of the style is a flag:
   // 1 italic, 2 bold, 3 underlined; an underline stays on until a text has used it. The size is
   // points, rounded: Overflow beyond 16 bits. A wrong code chooses "TimesRoman", which no metric
@@ -126,13 +127,14 @@ class PDFPrinter : public forms::DrawingTarget {
   // the unit.
   void PDFTextOut(std::string_view text, double x, double y);
   void PDFSetRotation(double angle) { pen_.rotation = -angle; }  // degrees, counterclockwise
-  void PDFFiligran(std::string_view watermark);
+  void PDFFiligran(std::string_view watermark);  // where a page begins and where it ends
 
   // Cells.
   void PDFSetBorder(std::int32_t border);  // 0 none, 1 all; digits 2 T, 3 B, 4 L, 5 R
   void PDFSetFill(bool fill) { cell_.fill = fill; }
   void PDFSetAlignement(std::int32_t alignment);  // 0 centre, 1 left, 2 right, 3 justified
-  std::string PDFGetAlignement() const;
+  std::string PDFGetAlignement() const;           // "Center", "Right" or, for the others, "Left"
+  // One line in the middle of a box's height; the box from its top left.
   void PDFCellLine(std::string_view text, double x, double y, double w, double h,
                    const Argument& link);
   // Wraps at blanks, and does without the link. Needs a font size and a border of 0 or 1, which
@@ -143,7 +145,7 @@ class PDFPrinter : public forms::DrawingTarget {
   void PDFLink(double x, double y, std::string_view text, const Argument& link);
 
   // Colours: three numbers of 0 to 255, "#RRGGBB", or red + 256 green + 65536 blue. Subscript for
-  // fewer than three numbers, Overflow beyond 32 bits.
+  // fewer than three numbers, Overflow beyond 32 bits. They are told as operators: "0 g".
   void PDFSetTextColor(const Argument& colour);
   void PDFSetLineColor(const Argument& colour);
   void PDFSetDrawColor(const Argument& colour);
@@ -151,7 +153,8 @@ class PDFPrinter : public forms::DrawingTarget {
   const std::string& PDFGetLineColor() const { return pen_.lineColour; }
   const std::string& PDFGetDrawColor() const { return pen_.fillColour; }
 
-  // Shapes.
+  // Shapes. A rectangle or ellipse stands in a box from its top left. A polygon is x1, y1, x2,
+  // y2...; Subscript for none and for half a point.
   void PDFSetLineWidth(double width) { pen_.lineWidth = width; }
   void PDFSetLineStyle(std::int32_t style);  // 0 solid, 1 dashes, 2 dash dot, 3 dash dot dot
   void PDFSetDrawMode(std::int32_t mode);    // 0 outline, 1 filled, 2 both
@@ -160,8 +163,7 @@ class PDFPrinter : public forms::DrawingTarget {
   void PDFDrawLine(double x1, double y1, double x2, double y2);
   void PDFDrawRectangle(double x, double y, double w, double h, const Argument& link);
   void PDFDrawEllipse(double x, double y, double w, double h, const Argument& link);  // h 0: circle
-  void PDFDrawPolygon(const std::vector<double>&
-                          points);  // x1, y1, x2, y2...; Subscript for none and for half a point
+  void PDFDrawPolygon(const std::vector<double>& points);
 
   // JPEG files, "jpg" or "jpeg" in small letters. A width or height of 0 follows from the other,
   // both from the pixels. DivisionByZero where a file without a size is to give one, FileAccess
