@@ -44,7 +44,7 @@ struct About : testing::Test, Fakes {
 
 TEST_F(About, ShowsVersionAndCredits) {
   EXPECT_EQ(Words(form.caption, form.lblVersion.caption), "About Durvela Version 2.0.0 ");
-  for (const char* credit : {"GeoNames", "CC BY 4.0", "Qt 6", "libjpeg-turbo"}) {
+  for (const char* credit : {"GeoNames", "CC BY 4.0", "Qt 6", "Noto Sans"}) {
     EXPECT_NE(WordsOf(*form.picS.picture).find(credit), std::string::npos) << credit;
   }
 }
