@@ -5,7 +5,6 @@
 #include <QDesktopServices>
 #include <QLocale>
 #include <QMessageBox>
-#include <QRandomGenerator>
 #include <QUrl>
 #include <QWindow>
 
@@ -78,10 +77,6 @@ void QtYielder::Yield() {
     show();
   }
   QApplication::processEvents();
-}
-
-double QtRandomNumbers::Next() {
-  return QRandomGenerator::global()->generateDouble();
 }
 
 void QtBrowser::Open(std::string_view address) {

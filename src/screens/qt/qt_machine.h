@@ -32,11 +32,6 @@ class QtYielder : public foundation::Yielder {
   QElapsedTimer shown_;
 };
 
-class QtRandomNumbers : public foundation::RandomNumbers {
- public:
-  double Next() override;
-};
-
 class QtBrowser : public foundation::Browser {
  public:
   void Open(std::string_view address) override;
