@@ -6,22 +6,19 @@
 #include "dayperiods/clsBirthDetails.h"
 #include "engine/zodiac.h"
 #include "foundation/date_text.h"
-#include "foundation/locale_names.h"
-#include "foundation/numbers.h"
 
 namespace dayperiods {
 namespace {
 
 using foundation::DateTime;
-using foundation::NumberText;
 
 // The number of an element by the longitudes of Moon and Sun.
 using Element = std::function<std::int16_t(double moon, double sun)>;
 
 // "18/November/1990 6:11:25", with the user's month name.
 std::string MomentText(const foundation::DateTimeFields& at) {
-  return foundation::DayMonthYear(at.day, at.month, at.year, '/') + " " + NumberText(at.hour) +
-         ":" + NumberText(at.minute) + ":" + NumberText(at.second);
+  return foundation::DayMonthYear(at.day, at.month, at.year, '/') + " " +
+         foundation::HourMinuteSecond(at.hour, at.minute, at.second);
 }
 
 // By hours past the end, by minutes back before it, by seconds up to it: some 150 charts at most,

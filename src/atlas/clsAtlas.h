@@ -75,7 +75,7 @@ class clsAtlas {
 
   foundation::Yielder& yielder_;
   std::array<std::vector<std::string>, 7> colAtlas_;
-  unsigned closings_ = 0;  // of all open files at once
+  unsigned closings_ = 0;  // how often all open files were closed at once
 };
 
 }  // namespace atlas

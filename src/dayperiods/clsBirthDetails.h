@@ -13,7 +13,8 @@
 
 namespace dayperiods {
 
-// Sunrise and sunset of one day in decimal hours. By the zone's clock they are whole minutes, and 0
+// Sunrise and sunset of one day in decimal hours, which may lie below 0 or above 24 where the day
+// of the clock does not hold them. By the zone's clock they are whole minutes, and 0
 // beyond 63 degrees of latitude; local mean times are those moved by the place's way from the
 // zone's meridian.
 struct SunriseRows {
@@ -36,7 +37,8 @@ using GhatRow = std::array<std::string_view, 18>;
 class clsBirthDetails {
  public:
   // Rows of the Hindu day, sunrise to sunrise, that holds the moment. Before sunrise that is the
-  // day before: nDay is then lowered by 1 in place, to 0 on the first of a month.
+  // day before: nDay, alone of the arguments, is then lowered by 1 in place, to 0 on the first of a
+  // month.
   // InvalidCall or DivisionByZero where the sun does not cross the horizon (|tan latitude * tan
   // declination| of 1 or more); TypeMismatch for a moment that does not exist.
   SunriseRows Sunrise(double& Latitude, double& Longitude, double& ZoneRelativeGMT,

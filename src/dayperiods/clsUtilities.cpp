@@ -4,7 +4,6 @@
 #include "dayperiods/weekday_segments.h"
 #include "engine/record_chart.h"
 #include "foundation/date_text.h"
-#include "foundation/locale_names.h"
 #include "foundation/numbers.h"
 #include "foundation/zzVorin.h"
 
@@ -12,7 +11,6 @@ namespace dayperiods {
 
 using foundation::DecimalToTimeText;
 using foundation::FloorToInt16;
-using foundation::NumberText;
 
 double DaylightSegments::Boundary(int number) const {
   double t = sunrise;
@@ -24,7 +22,7 @@ DaylightSegments clsUtilities::SegmentsOf(double nDay, double nMonth, double nYe
                                           double nMin, double nSec) const {
   const auto date = foundation::ReadDateTime(
       foundation::DayMonthYear(nDay, foundation::RoundToInt16(nMonth), nYear, '-'));
-  foundation::ReadDateTime(NumberText(nHour) + ":" + NumberText(nMin) + ":" + NumberText(nSec));
+  foundation::ReadDateTime(foundation::HourMinuteSecond(nHour, nMin, nSec));
 
   engine::clsPP place;
   engine::GenRecordHoro(place, session_.Current(), nDay, nMonth, nYear, nHour, nMin, nSec);

@@ -5,7 +5,6 @@
 #include "dayperiods/clsBirthDetails.h"
 #include "foundation/checked.h"
 #include "foundation/date_text.h"
-#include "foundation/locale_names.h"
 #include "foundation/modConvertFx.h"
 #include "foundation/numbers.h"
 #include "foundation/zzVorin.h"

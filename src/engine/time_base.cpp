@@ -4,7 +4,6 @@
 
 #include "foundation/checked.h"
 #include "foundation/date_text.h"
-#include "foundation/locale_names.h"
 #include "foundation/numbers.h"
 
 namespace engine {

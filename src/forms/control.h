@@ -109,7 +109,7 @@ struct Properties {
 };
 
 struct Control : Properties {
-  Kind kind;
+  Kind kind = Kind::Label;
   std::string name;
   int index = -1;                   // in its control array; -1 outside one
   std::unique_ptr<ItemList> items;  // of a list box or combo box

@@ -5,7 +5,7 @@ namespace forms {
 
 inline constexpr double kTwipsPerPixel = 15;
 inline constexpr double kTwipsPerPoint = 20;
-inline constexpr double kSmallestFont = 7.5;  // points; nothing that is read goes below
+inline constexpr double kSmallestFont = 7.5;  // points; no text of a screen goes below
 inline constexpr double kSmallestText = kSmallestFont * kTwipsPerPoint / kTwipsPerPixel;  // pixels
 
 }  // namespace forms

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
-#include <optional>
 
 #include "foundation/error.h"
 
@@ -44,17 +43,6 @@ inline std::int64_t IntegerDivide(std::int64_t dividend, std::int64_t divisor) {
     return -dividend;
   }
   return dividend / divisor;
-}
-
-inline std::int64_t IntegerRemainder(std::int64_t dividend, std::int64_t divisor) {
-  return divisor == -1 ? 0 : dividend - IntegerDivide(dividend, divisor) * divisor;
-}
-
-// The value of a result that an earlier, failed statement may have left unset; Subscript if so.
-template <typename T>
-const T& Filled(const std::optional<T>& result) {
-  if (!result) throw Error(ErrorKind::Subscript);
-  return *result;
 }
 
 }  // namespace foundation

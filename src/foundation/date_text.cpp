@@ -1,9 +1,8 @@
 #include "foundation/date_text.h"
 
-#include <string>
-
 #include "foundation/error.h"
 #include "foundation/locale_names.h"
+#include "foundation/numbers.h"
 #include "foundation/text.h"
 
 namespace foundation {
@@ -108,6 +107,14 @@ std::optional<DateTime> TakeLastTime(Reader& reader) {
 }
 
 }  // namespace
+
+std::string DayMonthYear(double day, int month, double year, char between) {
+  return NumberText(day) + between + MonthName(month) + between + NumberText(year);
+}
+
+std::string HourMinuteSecond(double hour, double minute, double second) {
+  return NumberText(hour) + ":" + NumberText(minute) + ":" + NumberText(second);
+}
 
 std::optional<DateTime> TryReadTime(std::string_view text) {
   Reader reader(text);

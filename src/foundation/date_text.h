@@ -1,12 +1,20 @@
-// Dates and times read from texts.
+// Dates and times as texts, and read from them.
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "foundation/calendar.h"
 
 namespace foundation {
+
+// "5 March 2011" in the user's locale, with what stands between the three. InvalidCall for a month
+// outside 1 to 12.
+std::string DayMonthYear(double day, int month, double year, char between);
+
+// "6:5:9", without leading zeros.
+std::string HourMinuteSecond(double hour, double minute, double second);
 
 // A date ("5-March-2011", "5/3/2011": day, month, year), a time ("6:12", "6:12:9", "12:00 PM"),
 // or a date, a blank and a time. Fields stand between "-", "/" or blanks; a month is a number, or

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "foundation/error.h"
-#include "foundation/numbers.h"
 #include "foundation/text.h"
 
 namespace foundation {
@@ -71,10 +70,6 @@ MonthMatch MonthAtStart(std::string_view text) {
 
 const std::string& MonthName(int month) {
   return NameAt(UserNames().months, month);
-}
-
-std::string DayMonthYear(double day, int month, double year, char between) {
-  return NumberText(day) + between + MonthName(month) + between + NumberText(year);
 }
 
 const std::string& WeekdayName(int weekday) {

@@ -25,9 +25,6 @@ void SetUserNames(LocaleNames names);
 // The full name of month 1 to 12. InvalidCall for any other.
 const std::string& MonthName(int month);
 
-// "5 March 2011", with what stands between the three. The errors of MonthName.
-std::string DayMonthYear(double day, int month, double year, char between);
-
 struct MonthMatch {
   int month = 0;           // 1 to 12; 0 is none
   std::size_t length = 0;  // bytes of the text that are the name

@@ -20,7 +20,8 @@ std::filesystem::path AtlasFolder();       // city files
 std::filesystem::path BackgroundFolder();  // page backgrounds
 
 // Where the pages of a report are kept: under the program's folder; or, where the program was
-// installed for several users, which the file "shared" beside it says, in the user's cache folder.
+// installed for several users, which the file "shared" beside it says, under the user's cache
+// folder: $XDG_CACHE_HOME, else $HOME/.cache, else the system's folder for such files.
 std::filesystem::path TempFolder();
 
 // The phrase for a key, case aside, in a language: 0 (or -1) English, 1 Hindi, 2 Marathi,

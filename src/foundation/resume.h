@@ -1,6 +1,7 @@
 // Resume-on-error: a routine under it goes on with the next statement when one fails.
 #pragma once
 
+#include <optional>
 #include <utility>
 
 #include "foundation/error.h"
@@ -17,6 +18,13 @@ bool Resume(Statement&& statement) {
   } catch (const Error&) {
     return false;
   }
+}
+
+// The value of a result that an earlier, failed statement may have left unset; Subscript if so.
+template <typename T>
+const T& Filled(const std::optional<T>& result) {
+  if (!result) throw Error(ErrorKind::Subscript);
+  return *result;
 }
 
 }  // namespace foundation

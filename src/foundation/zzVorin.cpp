@@ -4,7 +4,7 @@
 
 #include "foundation/calendar.h"
 #include "foundation/checked.h"
-#include "foundation/locale_names.h"
+#include "foundation/date_text.h"
 #include "foundation/numbers.h"
 #include "foundation/resume.h"
 #include "foundation/text.h"
@@ -97,8 +97,8 @@ std::string DateTimeText(double day, double month, double year, double hour, dou
     day += 1;
   }
   const DateTimeFields date = FieldsOf(DateFromParts(year, month, day));
-  return DayMonthYear(date.day, date.month, date.year, '-') + " " + NumberText(hour) + ":" +
-         NumberText(minutes) + ":" + NumberText(seconds);
+  return DayMonthYear(date.day, date.month, date.year, '-') + " " +
+         HourMinuteSecond(hour, minutes, seconds);
 }
 
 }  // namespace foundation

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "foundation/date_text.h"
 #include "foundation/locale_names.h"
 #include "foundation/numbers.h"
 #include "report/modPrint.h"

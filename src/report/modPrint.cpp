@@ -16,7 +16,7 @@ using forms::LineStyle;
 using foundation::Resume;
 
 constexpr std::string_view kNotPrinted = "np";
-constexpr double kSmallestFont = 7;  // points
+constexpr double kSmallestPrinted = 7;  // points, where sizes are changed
 constexpr auto kBlack = forms::Rgb(0);
 
 forms::PicturePtr Ground(forms::Colour colour, double width, double height) {
@@ -120,7 +120,7 @@ class FormDrawing {
     Resume([&] { target_.SetFontStrikethru(font.strikethrough); });
     Resume([&] { target_.SetFontUnderLine(font.underline); });
     Resume([&] {
-      if (target_.FontSize() < kSmallestFont) target_.SetFontSize(kSmallestFont);
+      if (target_.FontSize() < kSmallestPrinted) target_.SetFontSize(kSmallestPrinted);
     });
   }
 

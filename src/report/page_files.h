@@ -11,8 +11,8 @@ namespace report {
 // where it cannot be written, InvalidCall for no dots.
 void SavePage(std::int16_t PageNum, const forms::Raster& dots);
 
-// The page as a picture in twips. FileNotFound where there is none, InvalidCall where it is no
-// bitmap file.
+// The page as a picture in twips. FileNotFound where there is none, FileAccess where it cannot be
+// read, InvalidCall where it is no bitmap file.
 forms::PicturePtr LoadPage(std::int16_t PageNum);
 
 // Deletes every file of the folder that ends in ".tmp"; one that cannot be deleted stays.

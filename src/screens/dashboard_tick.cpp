@@ -5,10 +5,7 @@
 #include "dayperiods/clsUtilities.h"
 #include "dayperiods/sunrise_at.h"
 #include "engine/record_chart.h"
-#include "foundation/checked.h"
 #include "foundation/date_text.h"
-#include "foundation/locale_names.h"
-#include "foundation/numbers.h"
 #include "foundation/resume.h"
 #include "foundation/zzVorin.h"
 #include "screens/frmMain.h"
@@ -20,7 +17,6 @@ namespace {
 using foundation::DateTimeFields;
 using foundation::DecimalToTimeText;
 using foundation::Filled;
-using foundation::NumberText;
 using foundation::Resume;
 
 void ShowMoment(foundation::DateTime now, frmMain& labels) {
@@ -30,8 +26,7 @@ void ShowMoment(foundation::DateTime now, frmMain& labels) {
   });
   Resume([&] {
     const DateTimeFields at = foundation::FieldsOf(now);
-    labels.lblTime.caption =
-        NumberText(at.hour) + ":" + NumberText(at.minute) + ":" + NumberText(at.second);
+    labels.lblTime.caption = foundation::HourMinuteSecond(at.hour, at.minute, at.second);
   });
 }
 

@@ -13,7 +13,7 @@ namespace screens {
 struct InformationPage {
   std::string_view name;   // of the form
   std::string_view title;  // of the window and the page
-  int sign;                // of the menu's
+  int sign;                // place in MenuSigns
   std::vector<std::string_view> paragraphs;
   std::vector<Period> periods;  // shown on the sample day and by weekday; none without pictures
 };

@@ -79,7 +79,6 @@ TEST(CheckedArithmetic, MakesTrapsErrors) {
   EXPECT_ERROR(DivisionByZero, IntegerDivide(1, 0));
   EXPECT_ERROR(Overflow, IntegerDivide(kLeast, -1));
   EXPECT_EQ(IntegerDivide(-7, 2), -3);
-  ExpectRows(IntegerRemainder, Row(-7, 2, -1), Row(kLeast, -1, 0));
 }
 
 }  // namespace
