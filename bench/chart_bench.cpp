@@ -24,6 +24,7 @@ using foundation::DateTime;
 
 #define CHART "a chart: all longitudes twice, an hour apart, houses, divisions"
 #define YEAR "a year's sunrises and sunsets"
+#define PERIODS "a year's three periods, a chart for each call"
 
 // Every chart has a moment of its own, some days and hours on, so that nobody meets what has just
 // been worked out.
@@ -141,16 +142,20 @@ FIGURE(YearOfSunrises, YEAR, "Durvela")->Unit(benchmark::kMillisecond);
 
 #ifdef HAVE_SWISSEPH
 
+// Julian days.
+double RiseOrSetBySwissEphemeris(DateTime day, int which) {
+  double at[3] = {kLongitude, kLatitude, 0};
+  double found = 0;
+  char error[AS_MAXCH];
+  swe_rise_trans(peer::JulianDay(day - kZone / 24), SE_SUN, nullptr, SEFLG_MOSEPH, which, at,
+                 1013.25, 15, &found, error);
+  return found;
+}
+
 void YearBySwissEphemeris(benchmark::State& state) {
   EachDayOfAYear(state, [](DateTime day) {
-    double at[3] = {kLongitude, kLatitude, 0};
-    double found = 0;
-    char error[AS_MAXCH];
-    for (const int which : {SE_CALC_RISE, SE_CALC_SET}) {
-      swe_rise_trans(peer::JulianDay(day - kZone / 24), SE_SUN, nullptr, SEFLG_MOSEPH, which, at,
-                     1013.25, 15, &found, error);
-      benchmark::DoNotOptimize(found);
-    }
+    benchmark::DoNotOptimize(RiseOrSetBySwissEphemeris(day, SE_CALC_RISE));
+    benchmark::DoNotOptimize(RiseOrSetBySwissEphemeris(day, SE_CALC_SET));
   });
 }
 FIGURE(YearBySwissEphemeris, YEAR, "Swiss Ephemeris, analytic")->Unit(benchmark::kMillisecond);
@@ -180,8 +185,24 @@ void YearOfPeriods(benchmark::State& state) {
     benchmark::DoNotOptimize(periods);
   });
 }
-FIGURE(YearOfPeriods, "a year's three periods, a chart for each call", "Durvela")
+FIGURE(YearOfPeriods, PERIODS, "Durvela")->Unit(benchmark::kMillisecond);
+
+#ifdef HAVE_SWISSEPH
+
+void PeriodsBySwissEphemeris(benchmark::State& state) {
+  EachDayOfAYear(state, [](DateTime day) {
+    const double rise = RiseOrSetBySwissEphemeris(day, SE_CALC_RISE);
+    const double eighth = (RiseOrSetBySwissEphemeris(day, SE_CALC_SET) - rise) / 8;
+    for (const int part : {2, 6, 4}) {  // those of a Saturday
+      double start = rise + part * eighth;
+      benchmark::DoNotOptimize(start);
+    }
+  });
+}
+FIGURE(PeriodsBySwissEphemeris, PERIODS, "Swiss Ephemeris, analytic, no chart")
     ->Unit(benchmark::kMillisecond);
+
+#endif
 
 // 21 charts by hours, 60 by minutes and 59 by seconds, since this tithi ends at 19:24:19 of the
 // next day: nearly the most that an element takes.
