@@ -3,8 +3,8 @@
 set -euo pipefail
 folder=$(mktemp -d)
 trap 'rm -r "$folder"' EXIT
-cmake --install "$2" --prefix "$folder/Any Place" >/dev/null
-cd "$folder/Any Place"
+cmake --install "$2" --prefix "$folder/Any दिल्ली Place" >/dev/null
+cd "$folder/Any दिल्ली Place"
 
 [ "$(bin/durvela --version)" = "Durvela $3" ]
 home=$(dirname "$(readlink -f bin/durvela)")
@@ -14,5 +14,6 @@ count() { find "$1" -name "$2" | wc -l; }
 [ "$(count "$home" '*.afm')" -eq 14 ]
 [ -e "$home/shared" ]
 zcat share/doc/durvela/changelog.gz | head -n 1 | grep -qF "($3)"
+grep -m 1 '<release ' share/metainfo/*.xml | grep -qF "\"$3\""
 zcat share/man/man1/durvela.1.gz | grep -qF "Durvela $3"
 [ "$(count share/icons '*.svg')" -eq 2 ]
