@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <map>
 #include <set>
@@ -122,6 +124,19 @@ TEST(LegacyHindi, ReadsAsItIsSpelled) {
   };
   for (const auto& [legacy, unicode] : texts) EXPECT_EQ(FromLegacyHindi(legacy), unicode) << legacy;
   EXPECT_EQ(FromLegacyHindi(""), "");
+}
+
+TEST(Folders, OfPagesIsTheUsersOwnWhereTheProgramIsShared) {
+  const support::AppFolderScope folder;
+  const auto temp = [&](bool shared, const char* cache, const char* home) {
+    if (shared) folder.Write("shared", "");
+    setenv("XDG_CACHE_HOME", cache, 1);
+    setenv("HOME", home, 1);
+    return TempFolder();
+  };
+  ExpectRows(temp, Row(false, "/cache", "/home/a", folder.path / "temp/"),
+             Row(true, "/cache", "/home/a", std::filesystem::path("/cache/Durvela/temp/")),
+             Row(true, "", "/home/a", std::filesystem::path("/home/a/.cache/Durvela/temp/")));
 }
 
 }  // namespace

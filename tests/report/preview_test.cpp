@@ -204,5 +204,17 @@ TEST_F(PageFiles, StaySilentWhereTheyCannotBeWritten) {
   EXPECT_ERROR(InvalidCall, LoadPage(1));  // it is there in part
 }
 
+TEST_F(PageFiles, AreSharedByTwoPrograms) {
+  Make(foundation::DateFromParts(2011, 1, 31), foundation::DateFromParts(2011, 2, 1));
+  frmSPkun other(services);
+  other.RESET();
+  rasteriser.dots.rgb = {4, 5, 6, 7, 8, 9};
+  other.CreateTMPfile(1, other.PIC);
+  preview.cmbPage.onClick();
+  const auto& dots = std::get<forms::Dots>(preview.PIC.picture->items.at(0));
+  EXPECT_EQ(dots.raster->rgb, rasteriser.dots.rgb);
+  EXPECT_ERROR(FileNotFound, Select(preview.cmbPage, 1));
+}
+
 }  // namespace
 }  // namespace report
