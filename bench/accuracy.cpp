@@ -1,10 +1,11 @@
-// Writes the tables of docs/accuracy.md into a folder: how far the system's figures lie from those
-// of the Swiss Ephemeris.
+// Fills the tables and figures of docs/accuracy.md into its template: how far the system's figures
+// lie from those of the Swiss Ephemeris.
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
 #include <fstream>
+#include <iostream>
+#include <iterator>
 #include <string>
 
 #include "bench/ephemeris.h"
@@ -32,15 +33,16 @@ class Differences {
     worst_ = std::max(worst_, std::abs(x));
     ++count_;
   }
+  int Count() const { return count_; }
   double Mean() const { return sum_ / count_; }
 
-  // "| name | mean | mean size | worst |", each times `scale`.
+  // A new line "| name | mean | mean size | worst |", each times `scale`.
   std::string Row(const std::string& name, double scale, int decimals) const {
-    std::string row = "| " + name;
+    std::string row = "\n| " + name;
     for (const double x : {Mean(), sizes_ / count_, worst_}) {
       row += " | " + FixedText(x * scale, decimals);
     }
-    return row + " |\n";
+    return row + " |";
   }
 
  private:
@@ -49,7 +51,7 @@ class Differences {
 };
 
 std::string Head(const std::string& title) {
-  return "| " + title + " | mean | mean size | worst |\n|---|---|---|---|\n";
+  return "| " + title + " | mean | mean size | worst |\n|---|---|---|---|";
 }
 
 // The way from b to a on a circle.
@@ -57,12 +59,14 @@ double Apart(double a, double b, double circle) {
   return std::remainder(a - b, circle);
 }
 
-// `measure` of a chart and its Julian Day, 5.37 days apart.
+constexpr double kStep = 5.37;  // days
+
+// `measure` of a chart and its Julian Day.
 template <typename Measure>
 Differences Over1950To2050(const Measure& measure) {
   Differences differences;
   const DateTime end = DateFromParts(2050, 12, 31);
-  for (DateTime moment = DateFromParts(1950, 1, 1); moment < end; moment += 5.37) {
+  for (DateTime moment = DateFromParts(1950, 1, 1); moment < end; moment += kStep) {
     const DateTime second = std::round(moment * 86400) / 86400;
     const auto at = foundation::FieldsOf(second);
     engine::clsPP pp;
@@ -73,19 +77,26 @@ Differences Over1950To2050(const Measure& measure) {
   return differences;
 }
 
-// The Sun's mean difference is taken off all.
-std::string Positions() {
-  std::string table = Head("minutes of arc");
-  double constant = 0;
+struct Compared {
+  std::string table;
+  int moments = 0;
+  double constant = 0;  // degrees: the Sun's mean difference, taken off all
+};
+
+Compared Positions() {
+  Compared compared = {Head("minutes of arc")};
+  auto& [table, moments, constant] = compared;
   for (const peer::Body& body : peer::kBodies) {
     const auto difference = [&](const engine::clsPP& pp, double julianDay) {
       return Apart(pp.getPLNT()[body.ours] + pp.pp_AYAN - constant,
                    peer::Longitude(julianDay, body.theirs, body.flags), 360);
     };
     if (body.ours == engine::Sun) constant = Over1950To2050(difference).Mean();
-    table += Over1950To2050(difference).Row(body.name, 60, 3);
+    const Differences differences = Over1950To2050(difference);
+    table += differences.Row(body.name, 60, 3);
+    moments = differences.Count();
   }
-  return table;
+  return compared;
 }
 
 std::string SiderealPositions() {
@@ -96,7 +107,7 @@ std::string SiderealPositions() {
       return Apart(pp.getPLNT()[body.ours],
                    peer::Longitude(julianDay, body.theirs, kAsSeen | SEFLG_SIDEREAL), 360);
     };
-    table += Over1950To2050(difference).Row(body.name, 60, 3);
+    table += Over1950To2050(difference).Row(body.name + std::string(", sidereal"), 60, 3);
   }
   return table;
 }
@@ -216,21 +227,31 @@ std::string Sunrises() {
     table += rise.Row(place.name, 3600, 0);
     sets += set.Row(place.name, 3600, 0);
   }
-  return table + "\n" + sets;
+  return table + "\n\n" + sets;
+}
+
+// Each "@name@" of the text becomes its value.
+void FillIn(std::string& text, const std::string& name, const std::string& value) {
+  const std::string mark = "@" + name + "@";
+  for (std::size_t at = 0; (at = text.find(mark, at)) != text.npos; at += value.size()) {
+    text.replace(at, mark.size(), value);
+  }
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 2) peer::Fail("usage: accuracy FOLDER");
-  const std::filesystem::path folder = argv[1];
-  std::filesystem::create_directories(folder);
-  const auto write = [&](const char* name, const std::string& table) {
-    std::ofstream(folder / name) << table;
-  };
-  write("positions", Positions());
-  write("sidereal_positions", SiderealPositions());
-  write("sidereal_time", SiderealTime());
-  write("endings", Endings());
-  write("sunrises", Sunrises());
+  if (argc != 2) peer::Fail("usage: accuracy TEMPLATE");
+  std::ifstream file(argv[1]);
+  std::string page{std::istreambuf_iterator<char>(file), {}};
+  const Compared positions = Positions();
+  FillIn(page, "moments", foundation::GroupedText(positions.moments));
+  FillIn(page, "step", foundation::NumberText(kStep));
+  FillIn(page, "constant", FixedText(positions.constant * 60, 3));
+  FillIn(page, "positions", positions.table);
+  FillIn(page, "sidereal_positions", SiderealPositions());
+  FillIn(page, "sidereal_time", SiderealTime());
+  FillIn(page, "endings", Endings());
+  FillIn(page, "sunrises", Sunrises());
+  std::cout << page;
 }
