@@ -101,18 +101,27 @@ const atMinute = (place) =>
 const largest = (places) =>
   places.reduce((a, b) => (Number(b.population) > Number(a.population) ? b : a));
 
+const several = (places) =>
+  [...groupBy(places, inFile).values()].filter(({ length }) => length > 1);
+
 // A question mark stands for letters that were lost on the way into the gazetteer.
 const isDamaged = ({ name }) => name.includes('?');
 
 function gather() {
   const world = placesOfTheWorld();
-  const all = [...world, ...furtherPlacesOfIndia(world)].filter((place) => !isDamaged(place));
-  const used = all
-    .filter((place) => !isGone(place) && countries.get(place.iso).use !== 'left out')
+  const further = furtherPlacesOfIndia(world);
+  const all = [...world, ...further].filter((place) => !isDamaged(place));
+  const there = all.filter((place) => !isGone(place));
+  const isUsed = ({ iso }) => countries.get(iso).use !== 'left out';
+  const used = there
+    .filter(isUsed)
     .map((place) => ({ ...place, file: fileName(place), state: stateOf(place, false) }));
   const distinct = [...groupBy(used, atMinute).values()].map(largest);
-  const namesakes = [...groupBy(distinct, inFile).values()].filter(({ length }) => length > 1);
-  for (const place of namesakes.flat()) place.state = stateOf(place, true);
+  for (const place of several(distinct).flat()) place.state = stateOf(place, true);
+  console.log(`${further.length} further places of India`);
+  console.log(`${all.length - there.length} places that are gone`);
+  console.log(`${there.length - used.length} places left out`);
+  console.log(`${several(distinct).length} pairs of name and state for several places`);
   return distinct;
 }
 

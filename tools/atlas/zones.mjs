@@ -1,8 +1,19 @@
 // How many places the built-in country table gives another zone than their own: standard time at
-// the end of 2023, daylight saving left aside.
-import { readdirSync } from 'node:fs';
+// the end of 2023, daylight saving left aside. Makes the table of docs/atlas.md.
+import { readdirSync, readFileSync, writeFileSync } from 'node:fs';
 
-import { countryMap, groupBy, placesFolder, readTable } from './tables.mjs';
+import { countryMap, groupBy, here, placesFolder, readTable } from './tables.mjs';
+
+const reasons = {
+  Mexico: 'the row is Mountain time',
+  USA: 'one row, Central time',
+  Indonesia: 'one row, Central time',
+  Turkey: "east of the row's hour since 2016",
+  Russia: 'one row, Moscow',
+  Australia: 'one row, Eastern time',
+  Canada: 'one row, Eastern time',
+  Eire: 'the row is summer time',
+};
 
 // Minutes east of Greenwich of a zone text: hours, point, minutes; minus is east.
 function tableOffset(text) {
@@ -31,10 +42,19 @@ const offsets = new Map([...new Set(places.map(({ zone }) => zone))]
 const isOff = ({ file, zone }) => tableOffset(tableZones.get(file)) !== offsets.get(zone);
 
 const off = places.filter(isOff);
-const share = (100 * off.length / places.length).toFixed(1);
-console.log(`${off.length} of ${places.length} places, ${share} %`);
 const all = groupBy(places, ({ file }) => file);
-const ofFile = [...groupBy(off, ({ file }) => file)].sort(([, a], [, b]) => b.length - a.length);
-for (const [file, some] of ofFile) {
-  console.log(`${some.length} of ${all.get(file).length}\t${file}`);
-}
+const ofFile = [...groupBy(off, ({ file }) => file)].sort(([, a], [, b]) => b.length - a.length)
+  .map(([file, some]) => [file, some.length, all.get(file).length]);
+for (const [file, some, of] of ofFile) console.log(`${some} of ${of}\t${file}`);
+
+const row = ([name, some, of, why]) =>
+  `| ${name} | ${some.toLocaleString('en')} | ${of.toLocaleString('en')} | ${why} |`;
+const share = `${(100 * off.length / places.length).toFixed(1)} %`;
+const table = [
+  '| File | Places off | of | Why |', '|---|---|---|---|',
+  ...ofFile.slice(0, 8).map((counts) => row([...counts, reasons[counts[0]] ?? ''])),
+  row(['all', off.length, places.length, share]),
+];
+const page = here('../../docs/atlas.md');
+writeFileSync(page, readFileSync(page, 'utf8')
+  .replace(/(?<=<!-- zones -->\n)[^]*(?=<!-- end -->)/, `${table.join('\n')}\n`));
