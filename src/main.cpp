@@ -4,6 +4,7 @@
 
 #include "foundation/version.h"
 #include "screens/qt/application.h"
+#include "screens/qt/run_handler.h"
 
 namespace {
 

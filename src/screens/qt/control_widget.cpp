@@ -1,57 +1,16 @@
 #include "screens/qt/control_widget.h"
 
-#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QWheelEvent>
 #include <QWindow>
 #include <QtMath>
-#include <algorithm>
 #include <utility>
 
-#include "screens/palette.h"
 #include "screens/qt/qt_painting.h"
 
 namespace screens::qt {
-namespace {
-
-constexpr int kShadow = 18;  // pixels on every side of a card
-constexpr double kTileRadius = 12;
-constexpr double kTileField = 56;  // of a tile's picture, where the tile is high enough
-constexpr double kDisabledOpacity = 0.5;
-
-int Margin(const forms::Control& control) {
-  return control.look == forms::Look::Card ? kShadow : 0;
-}
-
-// Of a line: the box of its ends, with room for its width.
-QRect Geometry(const forms::Control& control) {
-  if (control.kind == forms::Kind::Line) {
-    const forms::LineEnds& e = control.ends;
-    const QRect box(QPoint(ToPixels(e.x1), ToPixels(e.y1)), QPoint(ToPixels(e.x2), ToPixels(e.y2)));
-    const int room = qCeil(control.borderWidth);
-    return box.normalized().adjusted(-room, -room, room, room);
-  }
-  const int margin = Margin(control);
-  return PlaceInPixels(control).adjusted(-margin, -margin, margin, margin);
-}
-
-Qt::Alignment ToQt(forms::Alignment alignment) {
-  switch (alignment) {
-    case forms::Alignment::Right:
-      return Qt::AlignRight;
-    case forms::Alignment::Centre:
-      return Qt::AlignHCenter;
-    case forms::Alignment::Left:
-      break;
-  }
-  return Qt::AlignLeft;
-}
-
-}  // namespace
-
 ControlWidget::ControlWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
     : QWidget(parent), ControlView(control, std::move(dispatch)) {
   setMouseTracking(true);
@@ -69,7 +28,7 @@ void ControlWidget::Mirror() {
   const forms::PicturePtr before = shown_ ? shown_->picture : nullptr;
   if (!TakeProperties()) return;
   const forms::Properties& now = control_;
-  Dress(*this, control_, Geometry(control_));
+  Dress(*this, control_, Geometry());
   if (control_.kind == forms::Kind::Label) setVisible(now.visible && !now.caption.empty());
   setCursor(now.grabCursor                  ? Qt::ClosedHandCursor
             : now.handCursor && now.enabled ? Qt::PointingHandCursor
@@ -78,119 +37,15 @@ void ControlWidget::Mirror() {
   update();
 }
 
-QRectF ControlWidget::Body() const {
-  const int margin = Margin(control_);
-  return QRectF(rect()).adjusted(margin, margin, -margin, -margin);
-}
-
-void ControlWidget::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
+// Of a line: the box of its ends, with room for its width.
+QRect ControlWidget::Geometry() const {
   if (control_.kind == forms::Kind::Line) {
-    PaintLine(painter);
-    return;
+    const forms::LineEnds& e = control_.ends;
+    const QRect box(QPoint(ToPixels(e.x1), ToPixels(e.y1)), QPoint(ToPixels(e.x2), ToPixels(e.y2)));
+    const int room = qCeil(control_.borderWidth);
+    return box.normalized().adjusted(-room, -room, room, room);
   }
-  if (control_.look == forms::Look::Card) PaintShadow(painter);
-  if (!control_.enabled) painter.setOpacity(kDisabledOpacity);
-  if (control_.look == forms::Look::Tile) {
-    PaintTile(painter);
-  } else {
-    PaintBody(painter);
-    if (control_.picture) PaintRendered(painter, PlaceOfPicture());
-  }
-  if (control_.kind == forms::Kind::Label) PaintCaption(painter);
-}
-
-// An image stretches its picture; a picture box keeps its shape.
-QRectF ControlWidget::PlaceOfPicture() const {
-  if (control_.kind == forms::Kind::Image) return Body();
-  QSizeF size(control_.picture->width, control_.picture->height);
-  size.scale(Body().size(), Qt::KeepAspectRatio);
-  QRectF place(QPointF(), size);
-  place.moveCenter(Body().center());
-  return place;
-}
-
-// Through the middles of the pixels at its ends.
-void ControlWidget::PaintLine(QPainter& painter) {
-  const forms::LineEnds& e = control_.ends;
-  const QPointF corner = QPointF(pos()) - QPointF(0.5, 0.5);
-  painter.setPen(QPen(screens::qt::ToQt(control_.borderColour), control_.borderWidth, Qt::SolidLine,
-                      Qt::FlatCap));
-  painter.drawLine(QPointF(ToPixels(e.x1), ToPixels(e.y1)) - corner,
-                   QPointF(ToPixels(e.x2), ToPixels(e.y2)) - corner);
-}
-
-void ControlWidget::PaintBody(QPainter& painter) {
-  const bool border = control_.borderColour.alpha > 0;
-  if (!border && control_.backColour.alpha == 0) return;
-  painter.setPen(border ? QPen(screens::qt::ToQt(control_.borderColour), control_.borderWidth)
-                        : QPen(Qt::NoPen));
-  painter.setBrush(screens::qt::ToQt(control_.backColour));
-  const double inset = border ? control_.borderWidth / 2 : 0;
-  const double radius = control_.cornerRadius / kTwipsPerPixel;
-  painter.drawRoundedRect(Body().adjusted(inset, inset, -inset, -inset), radius, radius);
-}
-
-void ControlWidget::PaintShadow(QPainter& painter) {
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(0, 0, 0, 7));
-  const double radius = control_.cornerRadius / kTwipsPerPixel;
-  for (int spread = kShadow - 4; spread > 0; spread -= 2) {
-    painter.drawRoundedRect(Body().adjusted(-spread, 4 - spread, spread, 4 + spread),
-                            radius + spread, radius + spread);
-  }
-}
-
-void ControlWidget::PaintTile(QPainter& painter) {
-  const bool lit = control_.enabled && control_.hot;
-  const double light = !control_.enabled ? 0.05 : control_.pressed ? 0.22 : lit ? 0.14 : 0.07;
-  const bool focus = hasFocus();
-  QPen edge(Qt::NoPen);
-  if (focus) {
-    edge = QPen(screens::qt::ToQt(palette::kGold), 2);
-  } else if (lit) {
-    edge = QPen(screens::qt::ToQt(palette::kDawn), 1);
-  }
-  painter.setPen(edge);
-  painter.setBrush(screens::qt::ToQt(palette::kWhite.WithOpacity(light)));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kTileRadius, kTileRadius);
-
-  if (!control_.picture) return;
-  const double field = std::min({kTileField * height() / 112, width() * 0.8, height() * 0.55});
-  const QPointF middle(width() / 2.0, height() * 0.34);
-  PaintRendered(painter, QRectF(middle.x() - field / 2, middle.y() - field / 2, field, field));
-}
-
-// Pictures change seldom and are painted often: each is rendered once a size.
-void ControlWidget::PaintRendered(QPainter& painter, const QRectF& into) {
-  const double ratio = devicePixelRatioF();
-  const QSize size(qCeil(into.width() * ratio), qCeil(into.height() * ratio));
-  if (rendered_.size() != size || rendered_.devicePixelRatio() != ratio) {
-    rendered_ = QPixmap(size);
-    rendered_.setDevicePixelRatio(ratio);
-    rendered_.fill(Qt::transparent);
-    QPainter onto(&rendered_);
-    PaintPicture(onto, *control_.picture, QRectF(QPointF(), into.size()));
-  }
-  painter.drawPixmap(into.topLeft(), rendered_);
-}
-
-void ControlWidget::PaintCaption(QPainter& painter) {
-  const QString text = screens::qt::ToQt(control_.caption);
-  const double width = Body().width();
-  const QFont font = screens::qt::ToQt(control_.font);
-  painter.setFont(control_.wordWrap ? FittedInto(font, text, Body().size())
-                                    : Fitted(font, text, width));
-  painter.setPen(screens::qt::ToQt(control_.foreColour));
-  const Qt::Alignment alignment = ToQt(control_.alignment);
-  if (control_.wordWrap) {
-    painter.drawText(Body(), int(alignment | Qt::AlignTop) | Qt::TextWordWrap, text);
-    return;
-  }
-  const QString shown =
-      painter.fontMetrics().elidedText(text, Qt::ElideRight, static_cast<int>(width));
-  painter.drawText(Body(), int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
+  return PlaceInPixels(control_).adjusted(-Margin(), -Margin(), Margin(), Margin());
 }
 
 void ControlWidget::Click() {

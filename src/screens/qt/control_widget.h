@@ -30,7 +30,10 @@ class ControlWidget : public QWidget, public ControlView {
 
  private:
   void TellMouse(const std::function<void(forms::Point)>& handler, const QMouseEvent& event);
-  QRectF Body() const;  // without the margin that a shadow takes
+  static constexpr int kShadow = 18;  // pixels on every side of a card
+  int Margin() const { return control_.look == forms::Look::Card ? kShadow : 0; }
+  QRect Geometry() const;
+  QRectF Body() const;  // without the margin
   QRectF PlaceOfPicture() const;
   void PaintLine(QPainter& painter);
   void PaintBody(QPainter& painter);

@@ -3,24 +3,15 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QPainter>
 #include <algorithm>
-#include <cstdlib>
-#include <exception>
 #include <map>
-#include <utility>
 
-#include "foundation/error.h"
-#include "foundation/version.h"
 #include "screens/qt/qt_painting.h"
+#include "screens/qt/run_handler.h"
 
 namespace screens::qt {
 namespace {
-
-QSize ToPixels(float width, float height) {
-  return {screens::qt::ToPixels(width), screens::qt::ToPixels(height)};
-}
 
 // A key together with Alt or Ctrl is the toolkit's own.
 forms::Key KeyOf(const QKeyEvent& event) {
@@ -40,25 +31,7 @@ forms::Key KeyOf(const QKeyEvent& event) {
   }
 }
 
-// Timers go on below the box; an error of theirs is not told any more.
-void EndWith(const char* description) {
-  static bool ending = false;
-  if (std::exchange(ending, true)) return;
-  QMessageBox::critical(nullptr, foundation::kProgramName, description);
-  std::_Exit(EXIT_FAILURE);
-}
-
 }  // namespace
-
-void RunHandler(const std::function<void()>& handler) {
-  try {
-    handler();
-  } catch (const foundation::Error& error) {
-    EndWith(error.what());
-  } catch (const std::exception&) {
-    EndWith("Internal error");
-  }
-}
 
 FormWindow::FormWindow(forms::Form& form) : form_(form) {
   setObjectName(ToQt(form.name));
@@ -97,72 +70,6 @@ void FormWindow::SetTabOrder() {
     if (!view->Model().enabled || !view->Model().visible) continue;
     form_.activeControl = &view->Model();
     return;
-  }
-}
-
-void FormWindow::Mirror() {
-  if (retired_) return;
-  setWindowTitle(ToQt(form_.caption));
-  MirrorBackground();
-  MirrorSize();
-  MirrorPosition();
-  MirrorControls();
-  for (FormTimer* timer : timers_) timer->Mirror();
-  MirrorState();
-  MirrorFocus();
-}
-
-// A control that is hidden passes the focus on, wherever the form wants it.
-void FormWindow::MirrorControls() {
-  forms::Control* const wanted = form_.activeControl;
-  const bool moved = wanted != shownFocus_;
-  for (ControlView* view : views_) view->Mirror();
-  if (moved) form_.activeControl = wanted;
-}
-
-void FormWindow::MirrorBackground() {
-  if (form_.backColour == shownColour_ && form_.picture == shownPicture_ &&
-      form_.paintedPicture == shownPlace_) {
-    return;
-  }
-  shownColour_ = form_.backColour;
-  shownPicture_ = form_.picture;
-  shownPlace_ = form_.paintedPicture;
-  update();
-}
-
-// Only what the form itself has changed; the user's own changes have come in by resizeEvent.
-void FormWindow::MirrorSize() {
-  setMinimumSize(ToPixels(form_.minimumWidth, form_.minimumHeight));
-  const QSize wanted = ToPixels(form_.scaleWidth, form_.scaleHeight);
-  if (std::exchange(shownSize_, wanted) != wanted) resize(wanted);
-}
-
-// Likewise.
-void FormWindow::MirrorPosition() {
-  const QPoint wanted(screens::qt::ToPixels(form_.left), screens::qt::ToPixels(form_.top));
-  if (std::exchange(shownPosition_, wanted) != wanted) move(wanted);
-}
-
-// Likewise. A window that was maximised before it was minimised keeps that in mind.
-void FormWindow::MirrorState() {
-  if (std::exchange(shownState_, form_.windowState) == form_.windowState) return;
-  switch (form_.windowState) {
-    case forms::WindowState::Minimised:
-      setWindowState(windowState() | Qt::WindowMinimized);
-      break;
-    case forms::WindowState::Maximised:
-      setWindowState(Qt::WindowMaximized);
-      break;
-    case forms::WindowState::Normal:
-      setWindowState(Qt::WindowNoState);
-  }
-}
-
-void FormWindow::MirrorFocus() {
-  if (std::exchange(shownFocus_, form_.activeControl) == form_.activeControl) return;
-  for (ControlView* view : views_) {
-    if (&view->Model() == form_.activeControl) view->Widget().setFocus(Qt::OtherFocusReason);
   }
 }
 

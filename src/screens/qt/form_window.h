@@ -75,8 +75,4 @@ class FormWindow : public QWidget {
   bool retired_ = false;
 };
 
-// Runs one handler at the top of the event loop. Whatever error comes out of it is told in one box
-// and ends the program with exit status 1.
-void RunHandler(const std::function<void()>& handler);
-
 }  // namespace screens::qt

@@ -9,6 +9,7 @@
 #include "foundation/error.h"
 #include "screens/qt/driving.h"
 #include "screens/qt/qt_host.h"
+#include "screens/qt/run_handler.h"
 
 namespace screens::qt {
 namespace {

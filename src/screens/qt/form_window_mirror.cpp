@@ -1,0 +1,83 @@
+// How a window takes over what its form has changed.
+
+#include <utility>
+
+#include "screens/qt/form_window.h"
+#include "screens/qt/qt_painting.h"
+
+namespace screens::qt {
+namespace {
+
+QSize ToPixels(float width, float height) {
+  return {screens::qt::ToPixels(width), screens::qt::ToPixels(height)};
+}
+
+}  // namespace
+
+void FormWindow::Mirror() {
+  if (retired_) return;
+  setWindowTitle(ToQt(form_.caption));
+  MirrorBackground();
+  MirrorSize();
+  MirrorPosition();
+  MirrorControls();
+  for (FormTimer* timer : timers_) timer->Mirror();
+  MirrorState();
+  MirrorFocus();
+}
+
+// A control that is hidden passes the focus on, wherever the form wants it.
+void FormWindow::MirrorControls() {
+  forms::Control* const wanted = form_.activeControl;
+  const bool moved = wanted != shownFocus_;
+  for (ControlView* view : views_) view->Mirror();
+  if (moved) form_.activeControl = wanted;
+}
+
+void FormWindow::MirrorBackground() {
+  if (form_.backColour == shownColour_ && form_.picture == shownPicture_ &&
+      form_.paintedPicture == shownPlace_) {
+    return;
+  }
+  shownColour_ = form_.backColour;
+  shownPicture_ = form_.picture;
+  shownPlace_ = form_.paintedPicture;
+  update();
+}
+
+// Only what the form itself has changed; the user's own changes have come in by resizeEvent.
+void FormWindow::MirrorSize() {
+  setMinimumSize(ToPixels(form_.minimumWidth, form_.minimumHeight));
+  const QSize wanted = ToPixels(form_.scaleWidth, form_.scaleHeight);
+  if (std::exchange(shownSize_, wanted) != wanted) resize(wanted);
+}
+
+// Likewise.
+void FormWindow::MirrorPosition() {
+  const QPoint wanted(screens::qt::ToPixels(form_.left), screens::qt::ToPixels(form_.top));
+  if (std::exchange(shownPosition_, wanted) != wanted) move(wanted);
+}
+
+// Likewise. A window that was maximised before it was minimised keeps that in mind.
+void FormWindow::MirrorState() {
+  if (std::exchange(shownState_, form_.windowState) == form_.windowState) return;
+  switch (form_.windowState) {
+    case forms::WindowState::Minimised:
+      setWindowState(windowState() | Qt::WindowMinimized);
+      break;
+    case forms::WindowState::Maximised:
+      setWindowState(Qt::WindowMaximized);
+      break;
+    case forms::WindowState::Normal:
+      setWindowState(Qt::WindowNoState);
+  }
+}
+
+void FormWindow::MirrorFocus() {
+  if (std::exchange(shownFocus_, form_.activeControl) == form_.activeControl) return;
+  for (ControlView* view : views_) {
+    if (&view->Model() == form_.activeControl) view->Widget().setFocus(Qt::OtherFocusReason);
+  }
+}
+
+}  // namespace screens::qt
