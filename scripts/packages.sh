@@ -6,6 +6,7 @@ display_packages=(xvfb xauth)
 test_packages=(libgtest-dev locales appstream desktop-file-utils xvfb dbus-daemon at-spi2-core)
 bench_packages=(libbenchmark-dev libhpdf-dev libnova-dev libsqlite3-dev libswe-dev)
 package_packages=(dpkg-dev file lintian)
+format_packages=(clang-format-14)
 fuzz_packages=(clang-14 libclang-rt-14-dev)
 
 # install_missing PACKAGE...: one apt-get call for those that are not installed, none if all are.
