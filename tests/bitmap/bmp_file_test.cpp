@@ -25,15 +25,14 @@ const std::string kTopDown =
     "\0\0\xFF\7\0\xFF\0\7\xFF\0\0\7"
     "\0\0\0\7\x80\x80\x80\7\xFF\xFF\xFF\7"s;
 
-class BmpFile : public testing::Test {
- protected:
+struct BmpFile : testing::Test {
   BmpPicture Read(std::string_view bytes) {
-    folder_.Write("page.tmp", bytes);
-    return ReadBmp(page_);
+    folder.Write("page.tmp", bytes);
+    return ReadBmp(page);
   }
 
-  support::AppFolderScope folder_;
-  const std::filesystem::path page_ = folder_.path / "page.tmp";
+  support::AppFolderScope folder;
+  const std::filesystem::path page = folder.path / "page.tmp";
 };
 
 TEST_F(BmpFile, IsReadAndWrittenByteForByte) {
@@ -41,40 +40,25 @@ TEST_F(BmpFile, IsReadAndWrittenByteForByte) {
   EXPECT_EQ(picture.pixels.Row(1)[2], 0xFF);  // the red at the top left
   EXPECT_EQ(picture.dotsPerInch, 96);
   EXPECT_EQ(Read(kTopDown).pixels, picture.pixels);
-  WriteBmp(page_, picture.pixels, 96);
-  EXPECT_EQ(foundation::ReadFile(page_), kFile);
+  WriteBmp(page, picture.pixels, 96);
+  EXPECT_EQ(foundation::ReadFile(page), kFile);
+  EXPECT_ERROR(InvalidCall, WriteBmp(page, Pixels(), 96));
+  EXPECT_ERROR(FileAccess, WriteBmp("/dev/full", Pixels(1, 1), 96));
 }
 
 TEST_F(BmpFile, IsRefusedWhereItIsAnotherKindOrCut) {
-  const std::pair<std::size_t, std::vector<std::string>> changes[] = {
-      {0, {"PM"}},             // another mark,
-      {14, {"\x0C"}},          // header,
-      {28, {"\x08"}},          // depth,
-      {26, {"\2"}},            // planes,
-      {30, {"\1"}},            // compression
-      {2, {"\x4F"}},           // sizes of the file
-      {34, {"\x19"}},          // and the image beyond the end,
-      {10, {"\x37", "\x0E"}},  // a start there and in the header
-      {18, {"\5", "\0"s, "\xFF\xFF\xFF\x7F", "\xFF\xFF\xFF\xFF"}},  // widths,
-      {18, {"\0\0\0\x40\2\0\0\0\1\0\x20"s}},                        // rows of 4 GiB,
-      {22, {"\3", "\0\0\0\x80"s}}};                                 // heights
-  for (const auto& [at, all] : changes) {
-    for (const std::string& bytes : all) {
-      SCOPED_TRACE(at);
-      EXPECT_ERROR(InvalidCall, Read(std::string(kFile).replace(at, bytes.size(), bytes)));
-    }
+  // Another mark, header, depth, number of planes and compression; sizes of the file and the image
+  // beyond the end; a start there and in the header; no width; more rows from either end.
+  constexpr std::pair<std::size_t, char> kChanges[] = {{0, 'P'}, {14, 12}, {28, 8},  {26, 2},
+                                                       {30, 1},  {2, 'O'}, {34, 25}, {10, 55},
+                                                       {10, 14}, {18, 0},  {22, 3},  {25, -128}};
+  for (const auto& [at, byte] : kChanges) {
+    SCOPED_TRACE(at);
+    EXPECT_ERROR(InvalidCall, Read(std::string(kFile).replace(at, 1, 1, byte)));
   }
   for (std::size_t size = 0; size < kFile.size(); ++size) {
     EXPECT_ERROR(InvalidCall, Read(kFile.substr(0, size)));
   }
-}
-
-TEST_F(BmpFile, TellsWhatTheDiskRefuses) {
-  EXPECT_ERROR(FileNotFound, ReadBmp(folder_.path / "none.tmp"));
-  EXPECT_ERROR(FileAccess, ReadBmp(folder_.path));
-  EXPECT_ERROR(FileAccess, WriteBmp(folder_.path / "none" / "page.tmp", Pixels(1, 1), 96));
-  EXPECT_ERROR(FileAccess, WriteBmp("/dev/full", Pixels(1, 1), 96));
-  EXPECT_ERROR(InvalidCall, WriteBmp(page_, Pixels(), 96));
 }
 
 }  // namespace
