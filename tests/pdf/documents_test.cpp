@@ -1,6 +1,7 @@
 // Whole documents, and the objects round the pages.
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "paper.h"
 
@@ -92,6 +93,34 @@ TEST_F(Documents, AreConfirmedAndClosed) {
   printer.PDFEndDoc();
   EXPECT_EQ(Told(), "Génération du Fichier PDF - vrPDF 4.0: Fichier PDF généré.\n");
   EXPECT_ERROR(ObjectNotSet, printer.PDFBeginDoc());
+}
+
+// Holds a folder, for root too, until it is asked to close.
+struct Reader : ReaderWindows {
+  explicit Reader(const std::filesystem::path& held) : folder(held) {}
+  void Hold() {
+    permissions(folder, std::filesystem::perms::none);
+    EXPECT_EQ(seteuid(user == 0 ? 65534 : user), 0);
+  }
+  void Close(std::string_view title) override {
+    EXPECT_EQ(seteuid(user), 0);
+    permissions(folder, std::filesystem::perms::owner_all);
+    closed += title;
+  }
+  const std::filesystem::path& folder;
+  const uid_t user = geteuid();
+  std::string closed;
+};
+
+TEST_F(Documents, AreWrittenOnceTheReaderLetsGo) {
+  Reader reader(folder.path);
+  PDFPrinter another(clock, boxes, reader);
+  reader.Hold();
+  another.PDFFileName((folder.path / "held.pdf").string());
+  EXPECT_EQ(reader.closed, "Adobe Reader - [held.pdf]");
+  another.PDFBeginDoc();
+  another.PDFEndDoc();
+  EXPECT_TRUE(foundation::ReadFile(folder.path / "held.pdf").starts_with("%PDF-1.3"));
 }
 
 using Outlines = PaperTest;
