@@ -4,29 +4,23 @@
 
 #include <array>
 
-#include "dayperiods/clsBirthDetails.h"
 #include "dayperiods/clsUtilities.h"
-#include "engine/clsPP.h"
+#include "dayperiods/sunrise_at.h"
 #include "support/session_at.h"
 
 namespace dayperiods {
 namespace {
 
-struct Moment {
-  std::int16_t day, month, year, hour, minute, second;
+struct Place {
+  const char *latitude, *longitude, *zone;
 };
 
 struct KnownDay {
-  Moment moment;
-  struct {
-    const char *latitude, *longitude, *zone;
-  } place;
-  struct {
-    double localMeanRise, localMeanSet, clockRise, clockSet;
-    const char* date;
-  } rows;
-  std::int16_t dayAfter;   // what Sunrise makes of its day
-  const char *rise, *set;  // SRS of the Hindu day's date
+  std::array<std::int16_t, 6> moment;  // day first
+  Place place;
+  SunriseRows rows;
+  std::int16_t dayAfter;           // what Sunrise makes of its day
+  std::array<std::string, 2> sun;  // SRS of the Hindu day's date
   std::array<std::string, 6> periods;
 };
 
@@ -36,84 +30,62 @@ const KnownDay kDays[] = {
 #include "dayperiods/known_days.inc"
 };
 
-std::string Name(const KnownDay& day) {
-  return std::string(day.rows.date) + " at " + day.place.latitude + " " + day.place.longitude;
-}
-
-engine::clsPP PlaceAt(const char* latitude, const char* longitude, const char* zone) {
+engine::clsPP ChartAt(const Place& place) {
   engine::clsPP pp;
-  pp.GenHoro(1, 1, 2011, 12, 0, 0, longitude, latitude, zone, 0, foundation::kTrue16, 0);
+  pp.GenHoro(1, 1, 2011, 12, 0, 0, place.longitude, place.latitude, place.zone, 0, -1, 0);
   return pp;
 }
 
-engine::clsPP PlaceOf(const KnownDay& day) {
-  return PlaceAt(day.place.latitude, day.place.longitude, day.place.zone);
-}
-
-SunriseRows SunriseOf(engine::clsPP& place, Moment& at) {
-  return clsBirthDetails().Sunrise(place.ppLatitude, place.ppLongitude, place.ppZoneHours, at.day,
-                                   at.month, at.year, at.hour, at.minute, at.second);
-}
-
-TEST(KnownDays, HaveTheirSunrise) {
-  for (const KnownDay& day : kDays) {
-    SCOPED_TRACE(Name(day));
-    engine::clsPP place = PlaceOf(day);
-    Moment moment = day.moment;
-    const SunriseRows rows = SunriseOf(place, moment);
-    EXPECT_DOUBLE_EQ(rows.localMeanRise, day.rows.localMeanRise);
-    EXPECT_DOUBLE_EQ(rows.localMeanSet, day.rows.localMeanSet);
-    EXPECT_DOUBLE_EQ(rows.clockRise, day.rows.clockRise);
-    EXPECT_DOUBLE_EQ(rows.clockSet, day.rows.clockSet);
-    EXPECT_EQ(rows.date, day.rows.date);
-    EXPECT_EQ(std::tuple(moment.day, moment.month), std::tuple(day.dayAfter, day.moment.month));
-  }
-}
-
-TEST(KnownDays, HaveTheirTimeTexts) {
-  for (const KnownDay& day : kDays) {
-    if (day.dayAfter == 0) continue;  // the Hindu day's date is in the month before
-    SCOPED_TRACE(Name(day));
-    const engine::clsPP place = PlaceOf(day);
-    const auto text = [&](const char* riseOrSet) {
-      return clsBirthDetails().SRS(place.ppLatitude, place.ppLongitude, place.ppZoneHours,
-                                   riseOrSet, day.moment.year, day.moment.month, day.dayAfter);
-    };
-    EXPECT_EQ(text("R"), day.rise);
-    EXPECT_EQ(text("s"), day.set);
+TEST(KnownDays, HaveTheirSunriseAndTimeTexts) {
+  clsBirthDetails details;
+  for (const KnownDay& known : kDays) {
+    SCOPED_TRACE(known.rows.date + " at " + known.place.latitude + " " + known.place.longitude);
+    engine::clsPP at = ChartAt(known.place);
+    auto [day, month, year, hour, minute, second] = known.moment;
+    const SunriseRows rows = details.Sunrise(at.ppLatitude, at.ppLongitude, at.ppZoneHours, day,
+                                             month, year, hour, minute, second);
+    EXPECT_DOUBLE_EQ(rows.localMeanRise, known.rows.localMeanRise);
+    EXPECT_DOUBLE_EQ(rows.localMeanSet, known.rows.localMeanSet);
+    EXPECT_DOUBLE_EQ(rows.clockRise, known.rows.clockRise);
+    EXPECT_DOUBLE_EQ(rows.clockSet, known.rows.clockSet);
+    EXPECT_EQ(rows.date, known.rows.date);
+    EXPECT_EQ(day, known.dayAfter);
+    if (day == 0) continue;  // the Hindu day's date is in the month before
+    const auto [latitude, longitude, zone] =
+        std::tuple(at.ppLatitude, at.ppLongitude, at.ppZoneHours);
+    EXPECT_EQ((std::array{details.SRS(latitude, longitude, zone, "R", year, month, day),
+                          details.SRS(latitude, longitude, zone, "s", year, month, day)}),
+              known.sun);
   }
 }
 
 TEST(KnownDays, HaveTheirPeriods) {
-  for (const KnownDay& day : kDays) {
-    SCOPED_TRACE(Name(day));
-    const auto session =
-        support::SessionAt(day.place.latitude, day.place.longitude, day.place.zone);
-    const auto& at = day.moment;
+  for (const auto& [moment, place, rows, dayAfter, sun, periods] : kDays) {
+    SCOPED_TRACE(rows.date + " at " + place.latitude + " " + place.longitude);
+    const auto session = support::SessionAt(place.latitude, place.longitude, place.zone);
+    const auto& [day, month, year, hour, minute, second] = moment;
     clsUtilities of(session);
-    of.CalcDurvela(at.day, at.month, at.year, at.hour, at.minute, at.second);
-    of.CalcGulikYum(at.day, at.month, at.year, at.hour, at.minute, at.second);
+    of.CalcDurvela(day, month, year, hour, minute, second);
+    of.CalcGulikYum(day, month, year, hour, minute, second);
     EXPECT_EQ((std::array{of.DurvelaStart, of.DurvelaEnd, of.GulikStart, of.GulikEnd, of.YumStart,
                           of.YumEnd}),
-              day.periods);
+              periods);
   }
 }
 
 // Ordinary days by the formulas of the NOAA solar calculator (noaa_times.py beside this file).
 TEST(OrdinaryDays, AgreeWithThePublishedFormulasToTheMinute) {
   const struct {
-    std::int16_t day, month, year;
-    const char *latitude, *longitude, *zone;
+    int day, month, year;
+    Place place;
     double rise, set;
   } kOrdinaryDays[] = {
 #include "dayperiods/ordinary_days.inc"
   };
-  for (const auto& day : kOrdinaryDays) {
-    engine::clsPP place = PlaceAt(day.latitude, day.longitude, day.zone);
-    Moment noon = {day.day, day.month, day.year, 12, 0, 0};
-    const SunriseRows rows = SunriseOf(place, noon);
-    EXPECT_NEAR(rows.clockRise, day.rise, 1 / 60.0) << rows.date << " " << day.latitude;
-    EXPECT_NEAR(rows.clockSet, day.set, 1 / 60.0) << rows.date << " " << day.latitude;
+  for (const auto& [day, month, year, place, rise, set] : kOrdinaryDays) {
+    const SunriseRows rows = SunriseAt(ChartAt(place), {year, month, day, 12, 0, 0});
+    EXPECT_NEAR(rows.clockRise, rise, 1 / 60.0) << rows.date << " " << place.latitude;
+    EXPECT_NEAR(rows.clockSet, set, 1 / 60.0) << rows.date << " " << place.latitude;
   }
 }
 
