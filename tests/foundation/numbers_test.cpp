@@ -35,7 +35,7 @@ TEST(LeadingNumber, IsTheNumericPartThatTheTextBeginsWith) {
              Row("5.", 5), Row("1.2.3", 1.2), Row("1,5", 1), Row("", 0), Row("inf", 0),
              Row("nan", 0), Row("0x10", 0), Row("-", 0), Row(".", 0), Row("1e-400", 0),
              Row("0." + std::string(400, '0') + "1e10", 0));
-  for (const auto& text : {std::string("1e400"), "-" + std::string(400, '9') + "e-5"}) {
+  for (const std::string& text : {"1e" + std::string(20, '9'), std::string(400, '9') + "e-5"}) {
     EXPECT_ERROR(Overflow, LeadingNumber(text));
   }
 }
