@@ -38,14 +38,7 @@ TEST(LeadingNumber, IsTheNumericPartThatTheTextBeginsWith) {
   for (const std::string& text : {"1e" + std::string(20, '9'), std::string(400, '9') + "e-5"}) {
     EXPECT_ERROR(Overflow, LeadingNumber(text));
   }
-}
-
-TEST(WholeNumber, TakesNothingButANumber) {
   ExpectRows(WholeNumber, Row(" 28.5 ", 28.5), Row("28.5N", std::nullopt), Row("", std::nullopt));
-}
-
-TEST(DecimalOf, IsWhatTheShortTextOf32BitsSays) {
-  ExpectRows(DecimalOf, Row(4000.2F, 4000.2), Row(-1e30F, -1e30));
 }
 
 TEST(NumberText, IsTheShortestThatReadsBack) {
@@ -56,6 +49,7 @@ TEST(NumberText, IsTheShortestThatReadsBack) {
   ExpectRows(written, Row(0, "0"), Row(-0.0, "0"), Row(28.4, "28.4"),
              Row(28.666666666666668, "28.666666666666668"), Row(0.0001, "0.0001"),
              Row(0.00001, "1E-05"), Row(1e15, "1000000000000000"), Row(1e16, "1E+16"));
+  ExpectRows(DecimalOf, Row(4000.2F, 4000.2), Row(-1e30F, -1e30));  // by the text of 32 bits
   EXPECT_ERROR(Overflow, NumberText(std::numeric_limits<double>::infinity()));
 }
 
