@@ -81,6 +81,7 @@ TEST(DateTimeTexts, CarryOnceAndThenThroughTheCalendar) {
 TEST(PaddedDigits, AreCutToTheirWidth) {
   ExpectRows([](auto value, int width) { return PadDigits(value, width); }, Row(0, 2, "00"),
              Row(123, 2, "12"), Row("é", 3, "00é"));
+  EXPECT_ERROR(InvalidCall, PadDigits(1, -1));
 }
 
 TEST(Angles, FollowDegreesAndMinutes) {
@@ -92,6 +93,7 @@ TEST(Angles, FollowDegreesAndMinutes) {
 TEST(Angles, GiveAZoneItsMeridian) {
   ExpectRows(ZoneToMeridianText, Row("-5.30", "82.30E"), Row("-3.30", "52.30E"), Row("5", "75.0W"),
              Row("+0.20", "5.0W"), Row("+11", "165.0W"), Row("", "0.0W"));
+  EXPECT_ERROR(Overflow, ZoneToMeridianText("999999999999"));
 }
 
 TEST(Angles, ShowTheirPlaceInASign) {
