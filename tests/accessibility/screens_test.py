@@ -1,0 +1,185 @@
+#!/usr/bin/python3
+"""Every screen as it is told over the accessibility bus and reached by the keyboard alone."""
+
+import contextlib
+import os
+import subprocess
+import time
+import unittest
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib
+
+TAB, RETURN, ESCAPE = 0xFF09, 0xFF0D, 0xFF1B  # X11's symbols
+ENTRIES_READ = 3
+PATIENCE, PAUSE = 10, 0.02  # seconds
+ANSWER_IN = 5000  # milliseconds
+
+DASHBOARD, TIMETABLE = "Durvela 2", ("Timetable", "Durvela")
+INFORMATION = ["What is Durvela", "Calculation of Durvela", "Products", "Sitara Desk",
+               "Yama Ghantak", "Gulika Kaal"]
+OK = ["push button: OK"]
+
+# From the dashboard on, what is pressed in one window and the title of the next; the role of the
+# last one, and where the keyboard stops in it.
+SCREENS = [
+    ([], "frame",
+     ["push button: What is Durvela", "push button: Timetable", "push button: About us",
+      "push button: Calculation of Durvela", "push button: Products", "push button: Sitara Desk",
+      "push button: Yama Ghantak", "push button: Gulika Kaal"]),
+    *[([(title, title)], "dialog", OK) for title in INFORMATION],
+    ([("About us", "About Durvela")], "frame", OK + ["push button: System Info..."]),
+    ([("About us", "About Durvela"), ("System Info...", "Durvela")], "alert", OK),
+    ([TIMETABLE], "frame",
+     ["spin button: Starting Date", "spin button: Ending Date", "spin button: Time",
+      "push button: Edit Place", "push button: Save as Default", "push button: < Quick View",
+      "push button: Generate Report >", "push button: Minimise", "push button: Close",
+      "scroll bar: Rows of the page"]),
+    ([TIMETABLE, ("Edit Place", "Select City and Press Enter/Double Click")], "dialog",
+     ["text: City", "list: Places", "combo box: Country"]),
+    ([TIMETABLE, ("Generate Report >", "Durvela - Print Preview")], "frame",
+     ["combo box: Page", "push button: >>", "push button: Print this page",
+      "push button: Print All", "push button: »", "push button: <<"]),
+]
+
+
+@contextlib.contextmanager
+def running_program():
+    with subprocess.Popen([os.environ["DURVELA"]]) as program:
+        try:
+            yield
+        finally:
+            program.kill()
+
+
+def until(condition):
+    """What the condition gives, as soon as that is anything, or after a while."""
+    end = time.monotonic() + PATIENCE
+    while True:
+        found = None
+        with contextlib.suppress(GLib.Error):  # of what is not there yet, or no more
+            found = condition()
+        if found or time.monotonic() > end:
+            return found
+        time.sleep(PAUSE)
+
+
+def press(symbol):
+    Atspi.generate_keyboard_event(symbol, None, Atspi.KeySynthType.SYM)
+
+
+def children(node):
+    """Of a long list the first."""
+    count = node.get_child_count()
+    if node.get_role_name() == "list":
+        count = min(count, ENTRIES_READ)
+    return [child for i in range(count) if (child := node.get_child_at_index(i))]
+
+
+def has(node, state):
+    return node.get_state_set().contains(state)
+
+
+def caret(node):
+    return Atspi.Text.get_caret_offset(node) if "Text" in node.get_interfaces() else None
+
+
+def is_stop(node):
+    """Entries tell the focus though their list has not got it, and texts of boxes take clicks."""
+    focusable = has(node, Atspi.StateType.FOCUSABLE)
+    return focusable and node.get_role_name() not in ("list item", "label")
+
+
+def name_of(node):
+    """That of its label, if it has one."""
+    labels = [relation.get_target(0) for relation in node.get_relation_set()
+              if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY]
+    return (labels or [node])[0].get_name()
+
+
+def find_window(title, role=None):
+    """The one that came last."""
+    windows = [window for program in children(Atspi.get_desktop(0)) for window in children(program)]
+    fitting = [window for window in windows
+               if window.get_name() == title and role in (None, window.get_role_name())
+               and has(window, Atspi.StateType.SHOWING)]
+    return fitting[-1] if fitting else None
+
+
+def read(node):
+    """What shows of it, itself first."""
+    if not has(node, Atspi.StateType.SHOWING):
+        return []
+    return [node] + [each for child in children(node) for each in read(child)]
+
+
+class Screen:
+    """A window, and where the keyboard stands in it."""
+
+    def __init__(self, title, role=None, stops=None):
+        """As soon as it has so many stops, or any."""
+        self.window = until(lambda: find_window(title, role))
+        assert self.window, f"{title} does not show"
+        until(lambda: self.read() and stops in (None, len(self.stops)))
+
+    def read(self):
+        self.nodes = read(self.window)
+        self.stops = [node for node in self.nodes if is_stop(node)]
+        return self.focused()
+
+    def focused(self):
+        return next((node for node in self.stops if has(node, Atspi.StateType.FOCUSED)), None)
+
+    def tab(self):
+        """To the next stop, through all parts of a picker."""
+        before = self.focused()
+        part = caret(before)
+        press(TAB)
+        moved = until(lambda: self.focused() not in (None, before) or caret(before) != part)
+        if moved and self.focused() == before:
+            self.tab()
+
+    def ring(self):
+        """The stops from the first on, once around."""
+        ring = []
+        while (stop := f"{self.focused().get_role_name()}: {name_of(self.focused())}") not in ring:
+            ring.append(stop)
+            if len(self.stops) > 1:
+                self.tab()
+        return ring
+
+    def open(self, name):
+        until(lambda: name_of(self.focused()) == name or self.tab())
+        press(RETURN)
+
+
+class Screens(unittest.TestCase):
+    def test_tell_their_controls_and_lead_the_keyboard_around(self):
+        for way, role, ring in SCREENS:
+            title = DASHBOARD
+            with self.subTest(way=way), running_program():
+                for control, following in way:
+                    Screen(title).open(control)
+                    title = following
+                screen = Screen(title, role, len(ring))
+                self.assertEqual(screen.ring(), ring)
+                for node in screen.nodes:
+                    self.assertTrue(node.get_name() or node.get_role_name() == "panel", node)
+                if way:
+                    press(ESCAPE)
+                    self.assertTrue(
+                        until(lambda: not has(screen.window, Atspi.StateType.SHOWING)))
+
+    def test_open_by_an_action(self):
+        """Without a wait for the window, which stays open."""
+        with running_program():
+            stops = {stop.get_name(): stop for stop in Screen(DASHBOARD).stops}
+            self.assertTrue(Atspi.Action.do_action(stops["Gulika Kaal"], 0))
+            self.assertTrue(until(lambda: find_window("Gulika Kaal")))
+
+
+if __name__ == "__main__":
+    Atspi.set_timeout(ANSWER_IN, ANSWER_IN)
+    unittest.main()
