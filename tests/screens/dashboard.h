@@ -4,6 +4,7 @@
 #include "foundation/version.h"
 #include "screens/dashboard_tick.h"
 #include "screens/frmMain.h"
+#include "screens/place_labels.h"
 #include "support/machine_fakes.h"
 #include "support/screen_fakes.h"
 
@@ -12,6 +13,13 @@ namespace screens {
 // Each followed by a blank.
 std::string Words(const auto&... texts) {
   return ((texts + " ") + ...);
+}
+
+// What the labels of a form say in the order of the settings.
+std::string PlaceOf(auto& form) {
+  std::string place;
+  for (const forms::Control* label : PlaceLabelsOf(form)) place += label->caption + " ";
+  return place;
 }
 
 struct Fakes {

@@ -1,33 +1,14 @@
-// A city picker on fakes, with an atlas of its own and a form that takes the result.
+// A city picker on fakes, with an atlas of its own and a dashboard that takes the result.
 #pragma once
 
 #include "atlas/clsAtlas.h"
+#include "screens/dashboard.h"
 #include "screens/frmCity.h"
 #include "support/app_folder.h"
-#include "support/machine_fakes.h"
-#include "support/screen_fakes.h"
 
 namespace screens {
 
-// With the labels that a picker writes to.
-struct Caller : forms::Form {
-  Caller() : Form("Caller", "Caller", 3000, 3000) {}
-
-  CONTROL(Label, lblCity, {.caption = "Delhi"});
-  CONTROL(Label, lblCountry, {.caption = "India"});
-  CONTROL(Label, lblLat, {});
-  CONTROL(Label, lblLong, {});
-  CONTROL(Label, lblZoneTime, {});
-  CONTROL(Label, lblZone, {});
-
-  std::string Place() {
-    std::string place;
-    for (const forms::Control& label : Controls()) place += label.caption + " ";
-    return place;
-  }
-};
-
-struct Picker {
+struct Picker : Fakes {
   // The entry selected in the list of places.
   std::string Chosen() const {
     const forms::ItemList& list = *form.lstCity.items;
@@ -36,9 +17,8 @@ struct Picker {
 
   support::AppFolderScope folder;
   support::FakeYielder yielder;
-  support::FakeHost host;
   atlas::clsAtlas atlas{yielder};
-  Caller caller;
+  frmMain caller{services};
   frmCity form{host, Filled(folder, atlas)};
 
  private:

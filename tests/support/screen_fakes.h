@@ -20,31 +20,31 @@ class RecordingTarget : public forms::Printer {
  public:
   std::vector<std::string> calls;
 
-  void SetForeColor(forms::Colour c) override { Note("ForeColor", {Of(c)}); }
-  void SetDrawWidth(double pixels) override { Note("DrawWidth", {Of(pixels)}); }
-  void SetFont(std::string_view name) override { Note("Font", {std::string(name)}); }
-  void SetFontSize(double points) override { Note("FontSize", {Of(size_ = points)}); }
+  void SetForeColor(forms::Colour c) override { Note("ForeColor", c); }
+  void SetDrawWidth(double pixels) override { Note("DrawWidth", pixels); }
+  void SetFont(std::string_view name) override { Note("Font", name); }
+  void SetFontSize(double points) override { Note("FontSize", size_ = points); }
   double FontSize() const override { return size_; }
-  void SetFontBold(bool on) override { Note("FontBold", {Of(on)}); }
-  void SetFontItalic(bool on) override { Note("FontItalic", {Of(on)}); }
-  void SetFontStrikethru(bool on) override { Note("FontStrikethru", {Of(on)}); }
-  void SetFontUnderLine(bool on) override { Note("FontUnderLine", {Of(on)}); }
-  void SetRightToLeft(bool on) override { Note("RightToLeft", {Of(on)}); }
-  void SetCurrentX(double x) override { Note("CurrentX", {Of(x_ = x)}); }
+  void SetFontBold(bool on) override { Note("FontBold", on); }
+  void SetFontItalic(bool on) override { Note("FontItalic", on); }
+  void SetFontStrikethru(bool on) override { Note("FontStrikethru", on); }
+  void SetFontUnderLine(bool on) override { Note("FontUnderLine", on); }
+  void SetRightToLeft(bool on) override { Note("RightToLeft", on); }
+  void SetCurrentX(double x) override { Note("CurrentX", x_ = x); }
   double CurrentX() const override { return x_; }
-  void SetCurrentY(double y) override { Note("CurrentY", {Of(y_ = y)}); }
+  void SetCurrentY(double y) override { Note("CurrentY", y_ = y); }
   double CurrentY() const override { return y_; }
-  void Cls() override { Note("Cls", {}); }
+  void Cls() override { Note("Cls"); }
   void Line(double x1, double y1, double x2, double y2, forms::Colour c,
             forms::LineStyle style) override {
-    Note("Line", {Of(x1), Of(y1), Of(x2), Of(y2), Of(c), Of(static_cast<int>(style))});
+    Note("Line", x1, y1, x2, y2, c, static_cast<int>(style));
   }
   void PaintPicture(const forms::PicturePtr&, double x, double y, double width,
                     double height) override {
-    Note("PaintPicture", {Of(x), Of(y), Of(width), Of(height)});
+    Note("PaintPicture", x, y, width, height);
   }
   void Print(std::string_view text) override {
-    Note("Print", {Of(x_), Of(y_), std::string(text)});
+    Note("Print", x_, y_, text);
     y_ += TextHeight(text);
   }
   double TextWidth(std::string_view text) const override {
@@ -53,24 +53,21 @@ class RecordingTarget : public forms::Printer {
   double TextHeight(std::string_view) const override { return 240; }
 
   void AskUser() override {
-    Note("AskUser", {});
+    Note("AskUser");
     if (cancelled) throw foundation::Error(foundation::ErrorKind::Cancelled);
   }
   bool cancelled = false;
-  void SetOrientation(forms::Orientation o) override {
-    Note("Orientation", {Of(static_cast<int>(o))});
-  }
-  void NewPage() override { Note("NewPage", {}); }
-  void EndDoc() override { Note("EndDoc", {}); }
+  void SetOrientation(forms::Orientation o) override { Note("Orientation", static_cast<int>(o)); }
+  void NewPage() override { Note("NewPage"); }
+  void EndDoc() override { Note("EndDoc"); }
 
  private:
+  static std::string Of(std::string_view text) { return std::string(text); }
   static std::string Of(double x) { return foundation::NumberText(x); }
   static std::string Of(forms::Colour c) { return Of(c.red * 65536 + c.green * 256 + c.blue); }
 
-  void Note(const std::string& member, const std::vector<std::string>& arguments) {
-    std::string call = member;
-    for (const std::string& argument : arguments) call += " " + argument;
-    calls.push_back(call);
+  void Note(const char* member, const auto&... arguments) {
+    calls.emplace_back((std::string(member) + ... + (" " + Of(arguments))));
   }
 
   double x_ = 0, y_ = 0, size_ = 8.25;
@@ -100,11 +97,7 @@ struct FakeHost : forms::FormHost {
 // Any picture comes out as the same dots.
 struct FakeRasteriser : forms::Rasteriser {
   forms::Raster dots = {.width = 2, .height = 1, .rgb = {255, 0, 0, 1, 2, 3}};
-  mutable int rendered = 0;
-  forms::Raster Render(const forms::Picture&) const override {
-    ++rendered;
-    return dots;
-  }
+  forms::Raster Render(const forms::Picture&) const override { return dots; }
 };
 
 struct FakeClipboard : forms::Clipboard {

@@ -41,7 +41,6 @@ TEST(Printing, GivesAPageOfDotsAndOfPaperForEachMonth) {
   const forms::PicturePtr page = report::LoadPage(1);
   const forms::Raster& dots = *std::get<forms::Dots>(page->items.at(0)).raster;
   EXPECT_EQ(std::pair(dots.width, dots.height), std::pair(909, 682));
-  EXPECT_NEAR(page->width, 13635, 2);
   const auto dark = std::ranges::count_if(dots.rgb, [](int value) { return value < 128; });
   EXPECT_GT(dark, 20000);  // heads, rules and 31 rows
   EXPECT_LT(dark, 200000);
@@ -56,8 +55,7 @@ TEST(Printing, GivesAPageOfDotsAndOfPaperForEachMonth) {
 TEST(Printing, TellsThatItCannotPrint) {
   Printing printing(QStringLiteral("/nowhere/at/all.pdf"), DateFromParts(2011, 1, 2));
   printing.preview.cmdPrintPage_Click();
-  ASSERT_EQ(printing.fakes.boxes.shown.size(), 1U);
-  EXPECT_EQ(printing.fakes.boxes.shown[0].text, "Printing Cancelled: Path/File access error");
+  EXPECT_EQ(printing.fakes.boxes.shown.at(0).text, "Printing Cancelled: Path/File access error");
 }
 
 }  // namespace

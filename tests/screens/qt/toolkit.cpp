@@ -10,21 +10,18 @@
 namespace screens::qt {
 namespace {
 
-class Toolkit : public testing::Environment {
- public:
+struct Toolkit : testing::Environment {
   void SetUp() override {
     LeaveThemeAside();
-    application_ = std::make_unique<QApplication>(argc_, argv_);
+    application = std::make_unique<QApplication>(count, names);
     DressApplication();
     foundation::SetUserNames(foundation::EnglishNames());
   }
-  void TearDown() override { application_.reset(); }
+  void TearDown() override { application.reset(); }
 
- private:
-  int argc_ = 1;
-  char name_[16] = "screens_qt_test";
-  char* argv_[2] = {name_, nullptr};
-  std::unique_ptr<QApplication> application_;
+  char name[16] = "screens_qt_test", *names[2] = {name, nullptr};
+  int count = 1;
+  std::unique_ptr<QApplication> application;
 };
 
 const auto* const kToolkit = testing::AddGlobalTestEnvironment(new Toolkit);
