@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <utility>
-
 #include "report/make_report.h"
 #include "support/app_folder.h"
 #include "support/machine_fakes.h"
@@ -27,33 +25,10 @@ struct Reporting {
 
   Reporting() { foundation::InitSessionRecord(session, foundation::DateFromParts(2011, 3, 5)); }
 
-  // From one day to another at noon in Delhi.
-  void Make(foundation::DateTime from, foundation::DateTime to) {
-    MakeReport({from, to, 0.5, "28.40N", "77.13E", "82.30E", "-5.30", "Delhi", "India", status},
+  // From one day to another in Delhi.
+  void Make(foundation::DateTime from, foundation::DateTime to, foundation::DateTime time = 0.5) {
+    MakeReport({from, to, time, "28.40N", "77.13E", "82.30E", "-5.30", "Delhi", "India", status},
                preview, services);
-  }
-
-  // The entries of the page list, with a stroke behind each.
-  std::string Pages() const {
-    std::string pages;
-    for (int i = 0; i < preview.cmbPage.items->ListCount(); ++i) {
-      pages += std::string(preview.cmbPage.items->List(i)) + "|";
-    }
-    return pages;
-  }
-
-  auto Files() const {
-    return std::distance(std::filesystem::directory_iterator(folder.path / "temp"), {});
-  }
-
-  // Texts of the target's Print calls, of the last page drawn.
-  std::vector<std::string> Printed() const {
-    std::vector<std::string> printed, before;
-    for (const std::string& call : host.target.calls) {
-      if (call == "Cls" && !printed.empty()) before = std::exchange(printed, {});
-      if (call.starts_with("Print ")) printed.push_back(call);
-    }
-    return printed.empty() ? before : printed;
   }
 };
 
