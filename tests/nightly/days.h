@@ -1,5 +1,9 @@
-// The Gregorian calendar counted day by day, as one would on paper.
+// Days by the calendar of the C library, which the program does not use.
 #pragma once
+
+#include <gtest/gtest.h>
+
+#include <ctime>
 
 namespace nightly {
 
@@ -7,29 +11,24 @@ struct Day {
   int year, month, day;
   int weekday;  // 1 = Sunday
   int serial;   // days since 30 December 1899
-
-  bool IsLastOfMonth() const { return day == DaysOfMonth(); }
-  int DaysOfMonth() const {
-    const bool leap = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
-    if (month == 2) return leap ? 29 : 28;
-    return month == 4 || month == 6 || month == 9 || month == 11 ? 30 : 31;
-  }
-
-  void Advance() {
-    ++serial;
-    weekday = weekday % 7 + 1;
-    if (!IsLastOfMonth()) {
-      ++day;
-      return;
-    }
-    day = 1;
-    month = month % 12 + 1;
-    if (month == 1) ++year;
-  }
+  bool isLastOfMonth;
 };
 
-// Two known days to count from: a Friday, and a Monday.
-inline constexpr Day kFirstOf100 = {100, 1, 1, 6, -657434};
-inline constexpr Day kFirstOf1900 = {1900, 1, 1, 2, 2};
+// Until one fails.
+template <typename Check>
+void EachDay(int firstYear, int lastYear, Check check) {
+  std::tm at = {};
+  at.tm_year = firstYear - 1900;
+  for (at.tm_mday = 1; !testing::Test::HasFailure(); ++at.tm_mday) {
+    const auto serial = static_cast<int>(timegm(&at) / 86400 + 25569);  // that of 1 January 1970
+    if (at.tm_year + 1900 > lastYear) return;
+    SCOPED_TRACE(std::asctime(&at));
+    std::tm next = at;
+    ++next.tm_mday;
+    timegm(&next);
+    check(Day{at.tm_year + 1900, at.tm_mon + 1, at.tm_mday, at.tm_wday + 1, serial,
+              next.tm_mday == 1});
+  }
+}
 
 }  // namespace nightly
