@@ -11,9 +11,7 @@
 
 namespace {
 
-struct Moment {
-  double day, month, year, hour, minute, second;
-};
+using Numbers = std::array<double, 7>;
 
 void Angles(std::string_view text) {
   double number = foundation::LeadingNumber(text);
@@ -22,24 +20,25 @@ void Angles(std::string_view text) {
   fuzz::Try([&] { foundation::DegMinToDecimal(number); });
 }
 
-void Chart(const foundation::SessionRecord& place, const Moment& at, std::int32_t mode) {
+void Chart(const foundation::SessionRecord& place, const Numbers& numbers) {
+  const auto& [day, month, year, hour, minute, second, ayanamsa] = numbers;
+  const std::int32_t mode = foundation::RoundToInt32(ayanamsa);
   engine::clsPP chart;
-  chart.GenHoro(at.day, at.month, at.year, at.hour, at.minute, at.second, place.LongitudeText,
-                place.LatitudeText, place.ZoneMeridianText, mode % 8,
+  chart.GenHoro(day, month, year, hour, minute, second, place.LongitudeText, place.LatitudeText,
+                place.ZoneMeridianText, mode % 8,
                 mode < 0 ? foundation::kTrue16 : foundation::kFalse16, 0);
   fuzz::Require(chart.ppSidTime >= 0 && chart.ppSidTime <= 24);
-  for (const double longitude : chart.getPLNTinSeq()) {
-    fuzz::Require(longitude >= 0 && longitude <= 360);
-  }
+  for (const double at : chart.getPLNTinSeq()) fuzz::Require(at >= 0 && at <= 360);
 }
 
-void Periods(const foundation::SessionTable& session, const Moment& at) {
-  dayperiods::clsUtilities day(session);
-  day.CalcDurvela(at.day, at.month, at.year, at.hour, at.minute, at.second);
-  day.CalcGulikYum(at.day, at.month, at.year, at.hour, at.minute, at.second);
-  for (const std::string* text : {&day.DurvelaStart, &day.DurvelaEnd, &day.GulikStart,
-                                  &day.GulikEnd, &day.YumStart, &day.YumEnd}) {
-    fuzz::Require(text->size() == 8 && *text < "24");
+void Periods(const foundation::SessionTable& session, const Numbers& numbers) {
+  const auto& [day, month, year, hour, minute, second, ayanamsa] = numbers;
+  dayperiods::clsUtilities of(session);
+  of.CalcDurvela(day, month, year, hour, minute, second);
+  of.CalcGulikYum(day, month, year, hour, minute, second);
+  for (const auto& text :
+       {of.DurvelaStart, of.DurvelaEnd, of.GulikStart, of.GulikEnd, of.YumStart, of.YumEnd}) {
+    fuzz::Require(text.size() == 8 && text < "24");
   }
 }
 
@@ -53,11 +52,8 @@ void fuzz::Run(const std::string& bytes) {
     *text = foundation::TakeLine(rest);
     fuzz::Try([&] { Angles(*text); });
   }
-  std::array<double, 7> numbers = {};
+  Numbers numbers = {};
   for (double& number : numbers) number = foundation::LeadingNumber(foundation::TakeLine(rest));
-  const auto& [day, month, year, hour, minute, second, mode] = numbers;
-  const Moment at = {day, month, year, hour, minute, second};
-  const double ayanamsa = mode;
-  fuzz::Try([&] { Chart(place, at, foundation::RoundToInt32(ayanamsa)); });
-  Periods(session, at);
+  fuzz::Try([&] { Chart(place, numbers); });
+  Periods(session, numbers);
 }
