@@ -83,7 +83,7 @@ TEST_F(Report, LeavesAFileAMonthUntilTheNext) {
   const auto files = [&] {
     return std::distance(std::filesystem::directory_iterator(folder.path / "temp"), {});
   };
-  folder.Write("temp/kept.txt", "x");
+  for (const char* name : {"temp/foreign.tmp", "temp/kept.txt"}) folder.Write(name, "x");
   Make(DateFromParts(2011, 1, 1), DateFromParts(2011, 12, 31));
   EXPECT_EQ(files(), 13);  // one of them kept.txt
   EXPECT_EQ(host.calls, (std::vector<std::string>{"Unload frmSPkun", "Show frmSPkun"}));
