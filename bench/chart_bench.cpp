@@ -7,7 +7,7 @@
 #include "engine/clsPP.h"
 #include "foundation/calendar.h"
 #include "foundation/numbers.h"
-#include "screens/dashboard.h"
+#include "support/dashboard.h"
 #include "support/session_at.h"
 
 #ifdef HAVE_SWISSEPH

@@ -33,7 +33,7 @@ inline constexpr auto kSun = Rgb(0xFFE08A);
 // The three periods, everywhere the same; the paper ones are text on paper or fields below cream.
 inline constexpr auto kDurvela = Rgb(0xE4572E);
 inline constexpr auto kDurvelaOnPaper = Rgb(0xB83A17);
-inline constexpr auto kDurvelaPressed = Rgb(0x9C2F10);
+inline constexpr auto kDurvelaHot = Rgb(0x9C2F10);
 inline constexpr auto kGulik = Rgb(0xA78BFA);
 inline constexpr auto kGulikOnPaper = Rgb(0x6B4FC9);
 inline constexpr auto kYum = Rgb(0x34B3A0);

@@ -3,6 +3,7 @@
 
 import contextlib
 import os
+import re
 import subprocess
 import time
 import unittest
@@ -171,6 +172,16 @@ class Screens(unittest.TestCase):
                     press(ESCAPE)
                     self.assertTrue(
                         until(lambda: not has(screen.window, Atspi.StateType.SHOWING)))
+
+    def test_tell_the_page_of_a_report(self):
+        """In words, a line a day, though what shows is a picture."""
+        with running_program():
+            Screen(DASHBOARD).open("Timetable")
+            Screen("Durvela").open("Generate Report >")
+            page = next(node for node in Screen("Durvela - Print Preview").nodes
+                        if node.get_name() == "The page")
+            today = rf"{time.localtime().tm_mday}-\w{{3}}( \d\d:\d\d:\d\d){{9}}"
+            self.assertTrue(until(lambda: re.search(today, page.get_description())))
 
     def test_open_by_an_action(self):
         """Without a wait for the window, which stays open."""

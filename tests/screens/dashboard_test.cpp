@@ -1,4 +1,4 @@
-#include "screens/dashboard.h"
+#include "support/dashboard.h"
 
 #include <gtest/gtest.h>
 

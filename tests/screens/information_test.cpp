@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "screens/credits.h"
-#include "screens/dashboard.h"
 #include "screens/frmAbout.h"
+#include "support/dashboard.h"
 
 namespace screens {
 namespace {

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "atlas/clsAtlas.h"
-#include "screens/dashboard.h"
 #include "screens/frmCity.h"
 #include "support/app_folder.h"
+#include "support/dashboard.h"
 
 namespace screens {
 

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "screens/dashboard.h"
+#include "support/dashboard.h"
 #include "support/locales.h"
 
 namespace screens {

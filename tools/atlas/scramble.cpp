@@ -59,7 +59,7 @@ std::string Record(std::string_view line, const std::string& country) {
   const std::string state(fields[1]);
   const double latitude = Degrees(fields[2]);
   const double longitude = Degrees(fields[3]);
-  for (const unsigned char c : place + state) {
+  for (const char c : place + state) {
     if (c < ' ' || c > '~' || c == ',') throw std::runtime_error("a name with a comma or no ASCII");
   }
   return std::string(SearchName(place)) + ',' + place + ',' + state + ',' + country + ',' +

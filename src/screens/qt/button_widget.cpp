@@ -58,7 +58,7 @@ QString ButtonStyle() {
              .arg(name(palette::kInk), name(palette::kQuiet), name(palette::kPaper),
                   name(palette::kRule), name(palette::kFocus), name(palette::kQuiet),
                   name(palette::kDurvelaOnPaper), name(palette::kCream),
-                  name(palette::kDurvelaPressed)) +
+                  name(palette::kDurvelaHot)) +
          QStringLiteral(
              "QPushButton[look=primary]:focus { border: 2px solid %1; }"
              "QPushButton[look=primary]:disabled { background: %2; color: %3;"

@@ -6,8 +6,8 @@
 
 #include <QTest>
 
-#include "screens/dashboard.h"
 #include "screens/qt/qt_host.h"
+#include "support/dashboard.h"
 
 namespace screens::qt {
 namespace {
