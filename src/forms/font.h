@@ -2,11 +2,15 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace forms {
 
+// The interface's own.
+inline constexpr std::string_view kBaseFace = "Noto Sans";
+
 struct Font {
-  std::string name = "Noto Sans";
+  std::string name{kBaseFace};
   float size = 9.375F;  // points of 20 twips, whatever the screen
   bool bold = false;
   bool italic = false;

@@ -5,13 +5,13 @@
 #include <string_view>
 
 #include "forms/colour.h"
+#include "forms/font.h"
 #include "foundation/bounded_array.h"
 
 namespace report::display {
 
 inline constexpr bool kColourOption = false;      // labels in the colours of their planets
 inline constexpr bool kLegacyHindiNames = false;  // planets also by their names in that encoding
-inline constexpr std::string_view kBaseFont = "Noto Sans";
 
 // By language number: the face, and what is added to a size in points.
 struct LanguageFont {
@@ -19,7 +19,7 @@ struct LanguageFont {
   int sizeStep;
 };
 inline constexpr foundation::BoundedArray<LanguageFont, 0, 4> kLanguageFonts{
-    {{{"Noto Sans", 0},
+    {{{forms::kBaseFace, 0},
       {"Lohit Devanagari", 5},
       {"Lohit Devanagari", 6},
       {"Lohit Malayalam", 3},

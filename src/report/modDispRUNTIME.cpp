@@ -27,7 +27,7 @@ class LanguageDress {
       : language_(language), extraSize_(extraSize), keepSize_(keepSize) {}
 
   void Apply(forms::Control& control) const {
-    const bool takesPart = control.font.name != display::kBaseFont || control.tag == "hhh";
+    const bool takesPart = control.font.name != forms::kBaseFace || control.tag == "hhh";
     if (!takesPart) return;
     std::string phrase = control.caption;
     Resume([&] { phrase = foundation::LanguagePhrase(control.caption, language_); });

@@ -6,6 +6,7 @@
 #include <QStyleFactory>
 
 #include "foundation/version.h"
+#include "report/display_settings.h"
 #include "screens/palette.h"
 #include "screens/qt/accessibility.h"
 #include "screens/qt/button_widget.h"
@@ -86,9 +87,13 @@ QPalette Colours() {
 }
 
 QFont Letters() {
-  QFont font(QStringList{QStringLiteral("Noto Sans"), QStringLiteral("Lohit Devanagari"),
-                         QStringLiteral("Lohit Malayalam"), QStringLiteral("Lohit Kannada"),
-                         QApplication::font().family()});
+  QStringList faces;  // of all languages
+  for (int language = 0; language <= 4; ++language) {
+    faces.append(ToQt(report::display::kLanguageFonts[language].face));
+  }
+  faces.append(QApplication::font().family());
+  faces.removeDuplicates();
+  QFont font(faces);
   font.setPixelSize(14);
   return font;
 }
