@@ -90,8 +90,7 @@ const InformationPage& WhatIsPage() {
       "What is Durvela",
       0,
       {"Durvela is a part of each day that is held unlucky for beginnings. A journey, a purchase "
-       "or "
-       "new work is not begun in it; what has begun before may go on.",
+       "or new work is not begun in it; what has begun before may go on.",
        "It lasts an eighth of the daylight: about an hour and a half, longer in summer and shorter "
        "in winter.",
        "Each weekday has its own part, counted from sunrise. The table shows which.",

@@ -72,6 +72,11 @@ TEST_F(Preview, ScrollsByKeysAndByHand) {
   ExpectRows(press, Row(forms::Key::Down, 1, -1000), Row(forms::Key::Down, 9, -way),
              Row(forms::Key::Up, 20, 0));
 
+  preview.PIC.onMouseWheel(-1);
+  EXPECT_NEAR(page.top, -0.1 * way, 1);
+  preview.PIC.onMouseWheel(2);
+  EXPECT_EQ(page.top, 0);
+
   preview.PIC.onMouseDown({500, 500});
   preview.PIC.onMouseMove({400, 300});
   EXPECT_EQ(std::tuple(page.left, page.top, preview.PIC.grabCursor), std::tuple(-100, -200, true));

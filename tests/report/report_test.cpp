@@ -45,6 +45,31 @@ TEST_F(ReportPage, HasItsHeadsItsPlaceAndItsFigures) {
   EXPECT_EQ(Drawn("Print"), 2 + 3 + 10 + 1 + 10);  // one row
 }
 
+// Further days that were worked out independently.
+TEST_F(ReportPage, HasARowADay) {
+  const struct {
+    int month, day;
+    const char* row;
+  } days[] = {
+      {1, 1, "07:14:00 17:35:00 10:21:00 09:49:15 11:06:52 16:17:22 17:35:00 13:42:07 14:59:45"},
+      {1, 10, "07:15:00 17:42:00 10:27:00 08:33:23 09:51:45 13:46:53 15:05:15 11:10:08 12:28:30"},
+      {11, 30, "06:55:00 17:24:00 10:29:00 12:09:30 13:28:08 10:50:52 12:09:30 08:13:37 09:32:15"}};
+  for (const auto& [month, day, row] : days) {
+    host.target.calls.clear();
+    Make(DateFromParts(2011, month, 1), DateFromParts(2011, month, day));
+    const int top = 1320 + 270 * (day - 1);
+    std::string drawn;
+    for (const int left : {2250, 3420, 4500, 5730, 6810, 8010, 9120, 10320, 11460}) {
+      const std::string at =
+          "Print " + std::to_string(left - (day >= 28 ? 15 : 0)) + " " + std::to_string(top) + " ";
+      for (const std::string& call : host.target.calls) {
+        if (call.starts_with(at)) drawn += (drawn.empty() ? "" : " ") + call.substr(at.size());
+      }
+    }
+    EXPECT_EQ(drawn, row);
+  }
+}
+
 TEST_F(ReportPage, CountsWeekdaysFromTheUsersFirst) {
   foundation::LocaleNames names = foundation::EnglishNames();
   names.firstWeekday = 2;

@@ -20,6 +20,20 @@ TEST(InformationScreens, CloseByOk) {
   EXPECT_EQ(fakes.host.calls, (std::vector<std::string>{"Unload frmGulik", "Unload frmAbout"}));
 }
 
+TEST(InformationScreens, ShowThePartsOfTheirOwnPeriods) {
+  Fakes fakes;
+  const auto table = [&](const InformationPage& of) {
+    InformationScreen page(of, fakes.host);
+    const std::string words = WordsOf(*page.ControlNamed("Week").picture);
+    return words.substr(words.find('\n') + 1);
+  };
+  EXPECT_EQ(table(WhatIsPage()), "Durvela 8 2 7 5 6 4 3");
+  EXPECT_EQ(table(GulikPage()), "Gulik 7 6 5 4 3 2 8");
+  EXPECT_EQ(table(YumPage()), "Yum 5 4 3 2 8 7 6");
+  EXPECT_EQ(table(CalculatePage()),
+            table(WhatIsPage()) + "\n" + table(GulikPage()) + "\n" + table(YumPage()));
+}
+
 TEST(PeriodPictures, TellTheTableAndTheSampleDay) {
   EXPECT_EQ(WordsOf(*WeekdayTable({Period::Durvela, Period::Yum})),
             "Sun Mon Tue Wed Thu Fri Sat\nDurvela 8 2 7 5 6 4 3\nYum 5 4 3 2 8 7 6");
