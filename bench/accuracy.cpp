@@ -243,6 +243,7 @@ void FillIn(std::string& text, const std::string& name, const std::string& value
 int main(int argc, char** argv) {
   if (argc != 2) peer::Fail("usage: accuracy TEMPLATE");
   std::ifstream file(argv[1]);
+  if (!file) peer::Fail("the template cannot be read");
   std::string page{std::istreambuf_iterator<char>(file), {}};
   const Compared positions = Positions();
   FillIn(page, "moments", foundation::GroupedText(positions.moments));

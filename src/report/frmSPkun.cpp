@@ -120,9 +120,10 @@ void frmSPkun::ShowPage(std::int16_t& PageNum, std::string_view Pname, std::stri
   const std::string_view number = mark == std::string_view::npos ? PTitle : PTitle.substr(mark + 1);
   PageNum = foundation::RoundToInt16(foundation::LeadingNumber(number));
   PIC.picture = nullptr;
+  const forms::PicturePtr page = LoadPage(PageNum);
   // What stands under its name then is a page of a former report.
   if (unwritten_.contains(PageNum)) throw foundation::Error(foundation::ErrorKind::FileAccess);
-  PIC.picture = LoadPage(PageNum);
+  PIC.picture = page;
   PIC.spokenText = words_[PageNum];
   if (ToPrinter) {
     services_.printer.PaintPicture(PIC.picture, 0, 0, PIC.picture->width, PIC.picture->height);

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# installed.sh SOURCE BUILD VERSION: installs into a folder of its own and looks at what is there.
+# installed.sh SOURCE BUILD VERSION DATE: installs into a folder of its own and looks at what is there.
 set -euo pipefail
 folder=$(mktemp -d)
 trap 'rm -r "$folder"' EXIT
@@ -14,6 +14,8 @@ count() { find "$1" -name "$2" | wc -l; }
 [ "$(count "$home" '*.afm')" -eq 14 ]
 [ -e "$home/shared" ]
 zcat share/doc/durvela/changelog.gz | head -n 1 | grep -qF "($3)"
-grep -m 1 '<release ' share/metainfo/*.xml | grep -qF "\"$3\""
+zcat share/doc/durvela/changelog.gz | grep -m 1 '^ -- ' |
+  grep -qF "$(LC_ALL=C date -d "$4" '+%a, %d %b %Y')"
+grep -m 1 '<release ' share/metainfo/*.xml | grep -qF "version=\"$3\" date=\"$4\""
 zcat share/man/man1/durvela.1.gz | grep -qF "Durvela $3"
 [ "$(count share/icons '*.svg')" -eq 2 ]

@@ -122,8 +122,11 @@ TEST(Timetable, EditsItsPlaceWithThePicker) {
   t.host.shown = true;
   t.form.cmdEditPlace.onClick();
   EXPECT_EQ(t.host.calls, Calls{"ShowModal frmCity of frmDurvela"});
+  const Calls before = t.host.target.calls;
   forms::SetText(t.picker.form.txtCity, "Uj");
   t.picker.form.lstCity.onDoubleClick();
+  forms::SetMoment(t.form.DT2, DateFromParts(2012, 3, 5));
+  EXPECT_EQ(t.host.target.calls, before);
   EXPECT_EQ(Words(t.form.lblCity.caption, t.form.lblLat.caption), "Ujjain(Madhya Pradesh) 23.11N ");
 }
 
