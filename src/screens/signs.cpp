@@ -134,4 +134,31 @@ forms::PicturePtr SunSign() {
   return picture;
 }
 
+forms::PicturePtr BoxSign(foundation::MessageIcon icon) {
+  const auto disc = [](Colour colour, const char* letter) {
+    auto picture = forms::NewPicture(kField, kField);
+    picture->items.emplace_back(forms::Outline{Path::Circle(kMiddle, 26), colour, {}});
+    picture->items.emplace_back(forms::Lettering{.text = letter,
+                                                 .at = {kMiddle.x, 42},
+                                                 .alignment = forms::Alignment::Centre,
+                                                 .size = 38,
+                                                 .bold = true,
+                                                 .colour = palette::kCream});
+    return picture;
+  };
+  switch (icon) {
+    case foundation::MessageIcon::Information:
+      return disc(palette::kGulikOnPaper, "i");
+    case foundation::MessageIcon::Question:
+      return disc(palette::kGulikOnPaper, "?");
+    case foundation::MessageIcon::Exclamation:
+      return disc(palette::kFocus, "!");
+    case foundation::MessageIcon::Critical:
+      return disc(palette::kDurvelaOnPaper, "×");
+    case foundation::MessageIcon::None:
+      break;
+  }
+  return nullptr;
+}
+
 }  // namespace screens

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "forms/picture.h"
+#include "foundation/machine.h"
 
 namespace screens {
 
@@ -21,5 +22,8 @@ forms::PicturePtr ProgramSign();
 
 // A sun with its rays, on a field of 56 by 56.
 forms::PicturePtr SunSign();
+
+// What a message box is about, on a field of 56 by 56; null for nothing.
+forms::PicturePtr BoxSign(foundation::MessageIcon icon);
 
 }  // namespace screens

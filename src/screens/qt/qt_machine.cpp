@@ -11,25 +11,12 @@
 #include "foundation/version.h"
 #include "screens/qt/form_window.h"
 #include "screens/qt/qt_painting.h"
+#include "screens/signs.h"
 
 namespace screens::qt {
 namespace {
 
-QMessageBox::Icon ToQt(foundation::MessageIcon icon) {
-  switch (icon) {
-    case foundation::MessageIcon::Information:
-      return QMessageBox::Information;
-    case foundation::MessageIcon::Question:
-      return QMessageBox::Question;
-    case foundation::MessageIcon::Exclamation:
-      return QMessageBox::Warning;
-    case foundation::MessageIcon::Critical:
-      return QMessageBox::Critical;
-    case foundation::MessageIcon::None:
-      break;
-  }
-  return QMessageBox::NoIcon;
-}
+constexpr int kSign = 40;  // pixels, of a message box
 
 // The active window of a form; or any, when it is a window manager that asks for a close.
 QWindow* Owner() {
@@ -55,14 +42,17 @@ foundation::MessageAnswer QtMessageBoxes::Show(std::string_view text, foundation
                                                foundation::MessageButtons buttons,
                                                std::string_view title) {
   const bool question = buttons == foundation::MessageButtons::YesNo;
-  QMessageBox box(ToQt(icon), screens::qt::ToQt(title.empty() ? foundation::kProgramName : title),
-                  screens::qt::ToQt(text),
-                  question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+  QMessageBox box(
+      QMessageBox::NoIcon, screens::qt::ToQt(title.empty() ? foundation::kProgramName : title),
+      screens::qt::ToQt(text), question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
   // The owner of its native window alone: a form may go while the box is open, the box stays.
   box.winId();
   box.windowHandle()->setTransientParent(Owner());
   box.setWindowModality(Qt::ApplicationModal);
   box.setTextFormat(Qt::PlainText);
+  if (const forms::PicturePtr sign = BoxSign(icon)) {
+    box.setIconPixmap(ToIcon(*sign).pixmap(QSize(kSign, kSign), box.devicePixelRatio()));
+  }
   if (question) box.setEscapeButton(QMessageBox::No);
   const int answer = box.exec();
   if (!question) return foundation::MessageAnswer::Ok;

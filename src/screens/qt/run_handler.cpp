@@ -1,12 +1,12 @@
 #include "screens/qt/run_handler.h"
 
-#include <QMessageBox>
 #include <cstdlib>
 #include <exception>
 #include <utility>
 
 #include "foundation/error.h"
 #include "foundation/version.h"
+#include "screens/qt/qt_machine.h"
 
 namespace screens::qt {
 namespace {
@@ -15,7 +15,8 @@ namespace {
 void EndWith(const char* description) {
   static bool ending = false;
   if (std::exchange(ending, true)) return;
-  QMessageBox::critical(nullptr, foundation::kProgramName, description);
+  QtMessageBoxes().Show(description, foundation::MessageIcon::Critical,
+                        foundation::MessageButtons::Ok, foundation::kProgramName);
   std::_Exit(EXIT_FAILURE);
 }
 
