@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTextCharFormat>
+#include <QToolButton>
 #include <QWheelEvent>
 #include <utility>
 
@@ -15,18 +16,27 @@
 namespace screens::qt {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 constexpr int kButtons = 42;     // pixels for arrows and padding
 constexpr int kArrowInset = 14;  // from the right edge to the middle of an arrow
 
 const QDate kFirstDate(100, 1, 1), kLastDate(9999, 12, 31);
 
-// With a line around it; and no day of the week is more than another.
+// With a line around it, and arrows that are letters; and no day of the week is more than another.
 void DressCalendar(QCalendarWidget& calendar) {
   QPalette colours = calendar.palette();
   colours.setColor(QPalette::Window, ToQt(palette::kRule));
   calendar.setPalette(colours);
   calendar.setAutoFillBackground(true);
   calendar.setContentsMargins(1, 1, 1, 1);
+  for (const auto& [name, arrow] :
+       {std::pair(u"qt_calendar_prevmonth"_s, u"‹"_s), {u"qt_calendar_nextmonth"_s, u"›"_s}}) {
+    auto* button = calendar.findChild<QToolButton*>(name);
+    if (button == nullptr) continue;
+    button->setIcon({});
+    button->setText(arrow);
+  }
   QTextCharFormat plain;
   plain.setForeground(ToQt(palette::kInk));
   for (const auto day : {Qt::Saturday, Qt::Sunday}) calendar.setWeekdayTextFormat(day, plain);
