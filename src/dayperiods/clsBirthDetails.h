@@ -14,9 +14,8 @@
 namespace dayperiods {
 
 // Sunrise and sunset of one day in decimal hours, which may lie below 0 or above 24 where the day
-// of the clock does not hold them. By the zone's clock they are whole minutes, and 0
-// beyond 63 degrees of latitude; local mean times are those moved by the place's way from the
-// zone's meridian.
+// of the clock does not hold them. By the zone's clock they are whole minutes, and 0 beyond 63
+// degrees of latitude; local mean times are those moved by the place's way from the meridian.
 struct SunriseRows {
   double localMeanRise = 0;  // row 1
   double localMeanSet = 0;   // row 2

@@ -20,8 +20,7 @@ inline double RealMod(double a, double b) {
   return a - b * std::floor(a / b);
 }
 
-// The whole part of a longitude or of what is made of one: for an x from 0 to the greatest
-// int alone.
+// The whole part of a longitude or of what is made of one, from 0 to the greatest int alone.
 inline int WholePart(double x) {
   return static_cast<int>(x);
 }

@@ -8,8 +8,8 @@
 namespace screens {
 
 // Clears the page and draws a row for each day from `start`, at its time of day, up to `end`; a
-// last day whose time has passed `end` has none. Positions are twips. The errors of
-// the calculations and of the page come through; rows drawn until then stay.
+// last day whose time has passed `end` has none. Positions are twips. The errors of the
+// calculations and of the page come through; rows drawn until then stay.
 void DrawQuickView(forms::DrawingTarget& page, foundation::DateTime start, foundation::DateTime end,
                    const foundation::SessionTable& session);
 

@@ -11,6 +11,7 @@
 #include "screens/qt/qt_painting.h"
 
 namespace screens::qt {
+
 ControlWidget::ControlWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
     : QWidget(parent), ControlView(control, std::move(dispatch)) {
   setMouseTracking(true);

@@ -29,8 +29,9 @@ class ControlWidget : public QWidget, public ControlView {
   void keyPressEvent(QKeyEvent*) override;
 
  private:
-  void TellMouse(const std::function<void(forms::Point)>& handler, const QMouseEvent& event);
   static constexpr int kShadow = 18;  // pixels on every side of a card
+
+  void TellMouse(const std::function<void(forms::Point)>& handler, const QMouseEvent& event);
   int Margin() const { return control_.look == forms::Look::Card ? kShadow : 0; }
   QRect Geometry() const;
   QRectF Body() const;  // without the margin

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "foundation/error.h"
-#include "foundation/version.h"
 #include "screens/qt/qt_machine.h"
 
 namespace screens::qt {
@@ -16,7 +15,7 @@ void EndWith(const char* description) {
   static bool ending = false;
   if (std::exchange(ending, true)) return;
   QtMessageBoxes().Show(description, foundation::MessageIcon::Critical,
-                        foundation::MessageButtons::Ok, foundation::kProgramName);
+                        foundation::MessageButtons::Ok, {});
   std::_Exit(EXIT_FAILURE);
 }
 

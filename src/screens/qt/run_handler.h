@@ -1,4 +1,4 @@
-// Where the errors of the form's handlers end.
+// Where the errors of forms' handlers end.
 #pragma once
 
 #include <functional>
