@@ -37,7 +37,6 @@ std::string_view clsPP::getPlanetName(double PlanetNum) {
 
 std::string_view clsPP::getRashiName(double sign) {
   const int index = foundation::RoundToInt16(sign);
-  if (index < 0) throw foundation::Error(foundation::ErrorKind::Subscript);
   return RashiNameLang(static_cast<std::int16_t>(index + 1), 0);
 }
 

@@ -17,18 +17,18 @@ constexpr BoundedArray<std::string_view, 0, 13> kBodies{
     {"", "Asc", "Sun", "Moon", "Mars", "Mercury", "Jupiter", "Venus", "Saturn", "Rahu", "Ketu",
      "Uranus", "Neptune", "Pluto"}};
 
-constexpr BoundedArray<std::string_view, 0, 13> kBodiesOfTheory{
-    {"", "ASC", "SUN", "MERCURY", "VENUS", "MARS", "JUPITER", "SATURN", "MOON", "RAHU", "KETU",
+constexpr BoundedArray<std::string_view, 1, 13> kBodiesOfTheory{
+    {"ASC", "SUN", "MERCURY", "VENUS", "MARS", "JUPITER", "SATURN", "MOON", "RAHU", "KETU",
      "URANUS", "NEPTUNE", "PLUTO"}};
 
-constexpr BoundedArray<std::string_view, 0, 12> kSigns{
-    {"", "Aries", "Taurus", "Gemini", "Cancer", "Leo", "Virgo", "Libra", "Scorpio", "Sagittarius",
+constexpr BoundedArray<std::string_view, 1, 12> kSigns{
+    {"Aries", "Taurus", "Gemini", "Cancer", "Leo", "Virgo", "Libra", "Scorpio", "Sagittarius",
      "Capricorn", "Aquarius", "Pisces"}};
 
 // Bytes of the legacy Devanagari font.
-constexpr BoundedArray<std::string_view, 0, 12> kSignsInHindi{
-    {"", "es\"k", "o`\"k", "feFkqu", "ddZ", "flag", "dU;k", "rqyk", "o`f'pd", "/uq", "edj", "dqaHk",
-     "ehu"}};
+constexpr BoundedArray<std::string_view, 1, 12> kSignsInHindi{{"es\"k", "o`\"k", "feFkqu", "ddZ",
+                                                               "flag", "dU;k", "rqyk", "o`f'pd",
+                                                               "/uq", "edj", "dqaHk", "ehu"}};
 
 constexpr BoundedArray<int, 1, 12> kSignLords{{4, 7, 5, 3, 2, 5, 7, 4, 6, 8, 8, 6}};
 

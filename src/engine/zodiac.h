@@ -16,7 +16,7 @@ namespace engine {
 // "".
 std::string_view BodyName(int number);
 // In the order of the theory: 1 "ASC", "SUN", "MERCURY", "VENUS", "MARS", "JUPITER", "SATURN",
-// "MOON", "RAHU", "KETU", "URANUS", "NEPTUNE", 13 "PLUTO"; 0 is "".
+// "MOON", "RAHU", "KETU", "URANUS", "NEPTUNE", 13 "PLUTO".
 std::string_view BodyNameUpper(std::int16_t number);
 
 // The sign at a longitude, from 1.
@@ -37,7 +37,7 @@ std::string_view NakName(std::int16_t star);
 int NakLordNumber(double longitude);
 std::string NakLordUpper(double longitude);
 
-// Signs 1 "Aries" to 12 "Pisces"; 0 is "". Short, and in language 0, "ARI"; a short name of another
+// Signs 1 "Aries" to 12 "Pisces". Short, and in language 0, "ARI"; a short name of another
 // language is the English one uncut.
 std::string RashiNameText(std::int16_t sign, bool isShort, std::int32_t language = 0);
 // In language 1 Hindi, as bytes of the legacy font's encoding; in any other English.

@@ -6,6 +6,7 @@
 
 #include "engine/divisions.h"
 #include "foundation/text.h"
+#include "support/errors.h"
 #include "support/table.h"
 
 namespace engine {
@@ -17,6 +18,10 @@ TEST(Zodiac, SignsHaveNamesAndLords) {
   ExpectRows(RashiNameText, Row(9, true, 0, "SAG"), Row(9, true, 1, "Sagittarius"));
   ExpectRows(RashiNameLang, Row(2, 1, "o`\"k"), Row(2, 2, "Taurus"));
   EXPECT_EQ(BodyNameUpper(8), "MOON");
+  EXPECT_ERROR(Subscript, BodyNameUpper(0));
+  EXPECT_ERROR(Subscript, RashiNameText(0, true));
+  EXPECT_ERROR(Subscript, RashiNameLang(0, 1));
+  EXPECT_ERROR(Subscript, RashiNameLang(13, 0));
   EXPECT_EQ(NakName(27), "Revati");
   // The number and the code of a sign's lord are two lists of one thing.
   for (std::int16_t sign = 1; sign <= 12; ++sign) {
