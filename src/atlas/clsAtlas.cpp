@@ -149,7 +149,11 @@ void clsAtlas::DeletePlace(std::string_view Country, const PlaceRecord& record) 
 }
 
 void clsAtlas::AddPlace(std::string_view Country, const PlaceRecord& record) {
-  Silently([&] { WriteLines(CityFile(Country), Writing::AtEnd, {Scrambled(Country, record)}); });
+  Silently([&] {
+    const auto file = CityFile(Country);
+    WriteLines(file, Writing::AtEnd, {});  // a country gets its file, even if its record fails
+    WriteLines(file, Writing::AtEnd, {Scrambled(Country, record)});
+  });
 }
 
 std::string clsAtlas::Entry(std::size_t list, std::int16_t index) const {

@@ -48,7 +48,8 @@ class clsAtlas {
   // Writes a copy of the line before over every line that holds the record. The file keeps its
   // number of lines; a record that stood first leaves an empty line, which ends a load.
   void DeletePlace(std::string_view Country, const PlaceRecord& record);
-  // Appends the record; makes the file of a country that has none.
+  // Appends the record; makes the file of a country that has none, and leaves it empty if the
+  // record cannot be written.
   void AddPlace(std::string_view Country, const PlaceRecord& record);
 
   // Fields of record Index, from 1; an empty text where there is none.

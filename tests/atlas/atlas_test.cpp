@@ -146,6 +146,15 @@ TEST_F(Atlas, StaysSilentWhereItCannotReadOrWrite) {
   EXPECT_FALSE(std::filesystem::exists(folder_.path / "outside.city"));
 }
 
+TEST_F(Atlas, MakesTheFileBeforeARecordFails) {
+  WriteIndia({kDelhiLine});
+  PlaceRecord place = kAgra;
+  place.State = std::string(32768, 'x');
+  for (const char* country : {"India", "Nowhere"}) atlas_.AddPlace(country, place);
+  ExpectIndia({kDelhiLine});
+  EXPECT_EQ(foundation::ReadFile(folder_.path / "atlas/Nowhere.city"), "");
+}
+
 TEST_F(Atlas, LosesLinesThatAFullDiskDoesNotTake) {
   WriteIndia({kBombayLine, kDelhiLine});
   {
