@@ -1,6 +1,7 @@
 // The table of session records in which screens and calculators meet.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 
@@ -10,7 +11,8 @@
 
 namespace foundation {
 
-// The moment and the place of one calculation. The moment is 0 until it is first filled.
+// The moment and the place of one calculation. The moment is 0 until it is first filled. Nothing
+// uses the reserved fields; they keep the layout of the record.
 struct SessionRecord {
   std::int32_t RecordTag = 0;
   std::string PersonName;  // for a report's header
@@ -21,14 +23,16 @@ struct SessionRecord {
   double Hour = 0;
   double Minute = 0;
   double Second = 0;
-  std::string LatitudeText;           // degrees.minutes and hemisphere, "28.40N"
-  std::string LongitudeText;          // "77.13E"
-  std::string ZoneMeridianText;       // the zone's standard meridian, "82.30E"
-  std::string ZoneTimeText;           // hours.minutes, minus east of Greenwich, "-5.30"
-  double WarTimeCorrection = 0;       // hours
+  std::string LatitudeText;      // degrees.minutes and hemisphere, "28.40N"
+  std::string LongitudeText;     // "77.13E"
+  std::string ZoneMeridianText;  // the zone's standard meridian, "82.30E"
+  std::string ZoneTimeText;      // hours.minutes, minus east of Greenwich, "-5.30"
+  double WarTimeCorrection = 0;  // hours
+  std::array<std::int32_t, 3> Reserved = {};
   std::int32_t AyanamsaChoice = 0;    // a mode of the engine, 0 Lahiri
   Boolean16 RahuKetuFlag = kFalse16;  // the corrected node in place of the mean one
   std::string CityName;
+  std::string ReservedText;
   std::string CountryName;
 };
 

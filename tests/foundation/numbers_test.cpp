@@ -102,6 +102,8 @@ TEST(SessionTable, FillsOnlyAFreshRecord) {
   SessionTable session;
   const SessionRecord& record = session.Current();
   session.Current().PersonName = "left over";
+  session.Current().Reserved = {1, 2, 3};
+  session.Current().ReservedText = "kept";
   InitSessionRecord(session, DateFromParts(2011, 3, 5) + TimeFromParts(6, 12, 9));
   InitSessionRecord(session, DateFromParts(2030, 1, 1));
   EXPECT_EQ(std::tuple(record.PersonName, record.RecordFlag, record.RahuKetuFlag),
@@ -109,6 +111,8 @@ TEST(SessionTable, FillsOnlyAFreshRecord) {
   EXPECT_EQ((std::array{record.Day, record.Month, record.Year, record.Hour, record.Minute,
                         record.Second}),
             (std::array<double, 6>{5, 3, 2011, 6, 12, 9}));
+  EXPECT_EQ(std::tuple(record.Reserved, record.ReservedText),
+            std::tuple(std::array<std::int32_t, 3>{1, 2, 3}, "kept"));
 }
 
 }  // namespace
