@@ -81,7 +81,8 @@ void PDFPrinter::PDFAttachLink(const Argument& link, LinkKind kind, double x, do
     }
     return;
   }
-  linked_.isImage = kind == LinkKind::Image;
+  // Links of other kinds leave the mark alone: a picture whose link failed still has it.
+  if (kind == LinkKind::Image) linked_.isImage = true;
   if (!link.IsEmptyText()) Link(x, y, Encoded(*link.Text()), "");
   linked_.text = {};
   linked_.isImage = false;

@@ -71,6 +71,17 @@ TEST_F(Images, ArePlacedInTheirSize) {
           jpeg + "\nendstream\nendobj\n\n10 0 obj\n"));
 }
 
+TEST_F(Images, LendTheirSizeToTheNextLinkWhereTheirOwnFails) {
+  folder.Write("a.jpg", Jpeg(Frame('\xC0', 60, 30, 3)));
+  printer.PDFSetFont(9, 10, 0);  // a face without metrics
+  EXPECT_ERROR(FileNotFound, printer.PDFImage((folder.path / "a.jpg").string(), 10, 20, 0, 0, "u"));
+  printer.PDFSetFont(0, 10, 0);
+  printer.PDFDrawEllipse(50, 100, 40, 20, "u");
+  printer.PDFDrawEllipse(50, 100, 40, 20, "u");
+  // 60 by 30 as the picture, then 20 by 10 as the ellipse's own.
+  EXPECT_EQ(Between(Whole(), "/Rect ", " /Border"), "[30 737.89 90 707.89][30 737.89 50 727.89]");
+}
+
 TEST_F(Images, AreRefusedWhereTheyAreNoJpeg) {
   const auto told = [&](const std::string& name, const std::string& bytes) {
     if (!bytes.empty()) folder.Write(name, bytes);
