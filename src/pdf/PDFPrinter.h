@@ -154,7 +154,8 @@ class PDFPrinter : public forms::DrawingTarget {
   const std::string& PDFGetDrawColor() const { return pen_.fillColour; }
 
   // Shapes. A rectangle or ellipse stands in a box from its top left. A polygon is x1, y1, x2,
-  // y2...; Subscript for none and for half a point.
+  // y2...; half a point at the end is dropped behind an even number of points (5 or 9 numbers).
+  // Subscript for half a point behind an odd number (3 or 7), and for no point.
   void PDFSetLineWidth(double width) { pen_.lineWidth = width; }
   void PDFSetLineStyle(std::int32_t style);  // 0 solid, 1 dashes, 2 dash dot, 3 dash dot dot
   void PDFSetDrawMode(std::int32_t mode);    // 0 outline, 1 filled, 2 both

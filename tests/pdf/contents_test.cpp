@@ -56,7 +56,6 @@ TEST_F(Shapes, AreOutlinedOrFilled) {
     printer.PDFDrawPolygon({1, 2, 3, 4});
   }
   EXPECT_EQ(Content(), KnownContent("outlined shapes") + KnownContent("filled shapes"));
-  EXPECT_ERROR(Subscript, printer.PDFDrawPolygon({1, 2, 3}));
 }
 
 TEST_F(Shapes, LeaveWhiteTextAndARectangleItsKind) {
@@ -68,6 +67,16 @@ TEST_F(Shapes, LeaveWhiteTextAndARectangleItsKind) {
   const std::string file = Whole();
   EXPECT_TRUE(Holds(file, "/Rect [50 781.89 80 781.89]"));
   EXPECT_EQ(Between(file, "\n(", ") Tj"), "shown");
+}
+
+TEST_F(Shapes, DropHalfAPointBehindAnEvenNumberOfPoints) {
+  const auto lines = [](std::size_t numbers) {
+    Paper paper;
+    paper.printer.PDFDrawPolygon(std::vector(numbers, 1.0));
+    return Between(paper.Content(), "1.00 840.89 ", "\n");
+  };
+  ExpectRows(lines, Row(4, "mll"), Row(5, "mll"), Row(8, "mllll"), Row(9, "mllll"));
+  for (const std::size_t numbers : {0, 1, 3, 7}) EXPECT_ERROR(Subscript, lines(numbers));
 }
 
 using Texts = PaperTest;
