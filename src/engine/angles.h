@@ -1,31 +1,31 @@
-// Angles as the engine's theories reckon them: degrees, revolutions and multiples.
+// Angle arithmetic: degrees, revolutions and multiples of an angle.
 #pragma once
 
 #include <cmath>
 
 namespace engine {
 
-// To the twelve figures that all series here were made with.
+// The series here were computed with these twelve figures.
 inline constexpr double PiValue = 3.14159265359;
 inline constexpr double DegToRad = PiValue / 180;
 
-// x less the greatest whole number not above it: of revolutions, the part that counts. Unlike the
-// clock's FracPart it takes an x beyond 32 bits.
+// The fractional part, never negative: of revolutions, the part that counts. Unlike
+// foundation::FracPart it accepts x beyond 32 bits.
 inline double FracPart(double x) {
   return x - std::floor(x);
 }
 
-// a less the greatest whole multiple of b not above it; b is not 0.
+// a modulo b, with the sign of b; b is not 0.
 inline double RealMod(double a, double b) {
   return a - b * std::floor(a / b);
 }
 
-// The whole part of a longitude or of what is made of one, from 0 to the greatest int alone.
+// Truncates a longitude or a value derived from one. x must lie within 0 to the greatest int.
 inline int WholePart(double x) {
   return static_cast<int>(x);
 }
 
-// Sine and cosine of one angle; their sums and differences are those of the angles.
+// Sine and cosine of an angle; + and - add and subtract the angles.
 struct SinCos {
   double sin = 0;
   double cos = 1;
@@ -41,8 +41,7 @@ inline SinCos SinCosOf(double radians) {
   return {std::sin(radians), std::cos(radians)};
 }
 
-// Sines and cosines of the multiples -Highest to Highest of one angle, from the sine and cosine of
-// the angle itself.
+// Sines and cosines of the multiples -Highest to Highest of an angle.
 template <int Highest>
 class Multiples {
  public:
@@ -52,7 +51,7 @@ class Multiples {
     for (int k = 1; k <= Highest; ++k) at_[Highest - k] = -at_[Highest + k];
   }
 
-  // k lies within -Highest to Highest; the tables that name it are held to that by their tests.
+  // k must lie within -Highest to Highest; it is not checked.
   const SinCos& operator[](int k) const { return at_[Highest + k]; }
 
  private:

@@ -11,8 +11,8 @@ struct AyanamsaRow {
   double rate;           // degrees a day
 };
 
-// By mode. Rows 2 and 5 are the same figures under two names; the last is row 0's rate from a date
-// of its own.
+// By mode. Rows 2 and 5 hold the same figures; the last has row 0's rate but another reference
+// date.
 constexpr foundation::BoundedArray<AyanamsaRow, 0, 7> kModes{{{
     {2006, 9, 1, 23.9502777778, 3.822153777E-05},   // N.C. Lahiri
     {2006, 9, 1, 23.6887222222, 3.8020735228E-05},  // Sri Sanatan
@@ -34,7 +34,7 @@ void Shift(std::int16_t mode, DateTime civilDate, Positions& positions) {
   positions[Ayanamsa] = ayanamsa;
 }
 
-// Three seconds of arc off the ayanamsa of a mode, and on to every body.
+// Takes three seconds of arc off the ayanamsa and adds them to every body.
 void StepBack(Positions& positions) {
   constexpr double kStep = 0.000833333333333333;
   positions[Ayanamsa] -= kStep;
@@ -64,7 +64,7 @@ void ApplyAyanMode(std::int16_t AyanMode, foundation::Boolean16 correctedNode, D
     case 1:
       ApplyFixedCorrections(correctedNode, positions);
       Shift(AyanMode, civilDate, positions);
-      positions[Sun] += 0.00111111111111111;  // four seconds of arc, and none an hour later
+      positions[Sun] += 0.00111111111111111;  // four seconds of arc; the later value gets none
       break;
     case 2:
     case 3:
@@ -79,7 +79,7 @@ void ApplyAyanMode(std::int16_t AyanMode, foundation::Boolean16 correctedNode, D
       break;
     case 8:
     case 9:
-      Shift(AyanMode, civilDate, positions);  // which finds no row
+      Shift(AyanMode, civilDate, positions);  // throws Subscript: these modes have no row
       StepBack(positions);
       break;
     default:

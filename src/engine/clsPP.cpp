@@ -36,13 +36,12 @@ void clsPP::GenHoro(double day, double month, double year, double hour, double m
   ppLongitude = DecimalDegrees(longitude, "W");
   ppLatitude = DecimalDegrees(latitude, "S");
 
-  Reckon();
+  Calculate();
   Publish();
 }
 
-// What stands in the sky. The positions are whole once they are wrapped; all that follows reads
-// them as they are then.
-void clsPP::Reckon() {
+// The positions are final once wrapped; everything after that reads them in this state.
+void clsPP::Calculate() {
   const double hours = ppHour + ppMin / 60.0 + ppSec / 3600;
   const TimeBase time =
       TimeBaseOf(DayNumber(ppDay, ppMonth, ppYear), hours, ppZoneHours, WarTimeCorrection);
@@ -56,7 +55,7 @@ void clsPP::Reckon() {
   ApplyAyanMode(ayanMode_, nodeModeA_, civilDate_, positions_);
   WrapPositions();
 
-  const double T = anHourLater - kHourInCenturies;  // as it comes back, rounding and all
+  const double T = anHourLater - kHourInCenturies;  // repeats the rounding of the round trip
   ppSidTime = LocalSiderealTime({time.DayPart, T}, ppLongitude);
   houses_ = CalcHouses(ppSidTime, ppLatitude, T, positions_[Ayanamsa]);
   divTable_ = FillDivTable(houses_.Cusps[1], positions_);
@@ -64,8 +63,8 @@ void clsPP::Reckon() {
   maitri_ = Maitri(divTable_);
 }
 
-// One moment's longitudes, `later` places on. The Sun comes first: every planet is seen from where
-// it puts the Earth.
+// Longitudes of one moment, stored `later` places further on. The Sun comes first because the
+// planets' geocentric longitudes need it.
 void clsPP::PlaceBodies(double TimeT, int later, const Perturbations& perturbations) {
   const PlanetTime at = {TimeT, positions_[Ayanamsa], perturbations};
   SunPlace sun;
@@ -78,7 +77,7 @@ void clsPP::PlaceBodies(double TimeT, int later, const Perturbations& perturbati
 void clsPP::PlaceMoon(double TimeT, int later) {
   const MoonPlace moon = CalcMoon(TimeT);
   positions_[Moon + later] = moon.longitude;
-  // The corrected node leans on the Sun of the chart's moment, an hour later as well.
+  // The corrected node always uses the Sun of the chart's moment, also for the later value.
   const double rahu = nodeModeB_ == foundation::kFalse16
                           ? moon.meanNode
                           : CalcNode(moon.meanNode, positions_[Sun], civilDate_);
@@ -87,7 +86,7 @@ void clsPP::PlaceMoon(double TimeT, int later) {
   positions_[Ketu + later] = ketu >= 360 ? ketu - 360 : ketu;
 }
 
-// Into the circle; 360 itself stays.
+// Into 0 to 360; 360 itself stays.
 void clsPP::WrapPositions() {
   for (int i = Ayanamsa; i <= Pluto + kHourLater; ++i) {
     double& longitude = positions_[i];

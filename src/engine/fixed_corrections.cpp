@@ -1,11 +1,11 @@
-// What modes 0 and 1 add to each body.
+// The per-body corrections of modes 0 and 1.
 
 #include "engine/ayanamsa.h"
 
 namespace engine {
 namespace {
 
-// Parts of a degree.
+// Units, in parts of a degree.
 constexpr double Minutes = 60;
 constexpr double Seconds = 3600;
 
@@ -18,8 +18,8 @@ struct Correction {
 
 // clang-format off
 
-// Each is added on its own, in this order. Where a later value differs from the first, the motion
-// that a chart shows depends on it.
+// Added one by one in this order. Where the later value differs from the first, the motion that a
+// chart shows depends on it.
 constexpr Correction kCorrections[] = {
     {Sun,     -22, -22, Seconds},
     {Sun,      -7,  -7, Seconds},

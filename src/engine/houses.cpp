@@ -16,7 +16,7 @@ void FillCusps(double First, double Step, int Index, HouseTable& Cusps) {
   }
 }
 
-// Midway from a cusp on to the next one; the wrap is the caller's.
+// The midpoint from a cusp forward to the next; the caller wraps it.
 double Junction(double before, double cusp) {
   const double middle = (cusp + before) / 2;
   return cusp < before ? middle + 180 : middle;
@@ -24,7 +24,7 @@ double Junction(double before, double cusp) {
 
 void FillSandhis(Houses& houses) {
   const HouseTable& cusps = houses.Cusps;
-  // The first junction alone wraps at 360 itself.
+  // Only the first junction wraps at exactly 360.
   const double first = Junction(cusps[12], cusps[1]);
   houses.Sandhis[1] = first >= 360 ? first - 360 : first;
   for (int i = 2; i <= 12; ++i) {
@@ -42,7 +42,7 @@ double LocalSiderealTime(const TimeBase& time, double longitude) {
 }
 
 double AscendantAt(double Hours, double Lat, const RisingFrame& frame) {
-  double A = Hours * 15 + 90;  // the quadrant to look in
+  double A = Hours * 15 + 90;  // selects the quadrant of the arctangent
   if (A >= 360) A -= 360;
   const double h = PiValue / 12 * Hours;
   const double p = Lat * DegToRad;
@@ -62,7 +62,7 @@ double AscendantAt(double Hours, double Lat, const RisingFrame& frame) {
 Houses CalcHouses(double siderealTime, double latitude, double T, double ayanamsa) {
   const RisingFrame frame = {23.452294 - T * 0.0130125, ayanamsa};
   const double Asc = AscendantAt(siderealTime, latitude, frame);
-  // What rises at the equator six hours earlier.
+  // The midheaven is what rises at the equator six hours earlier.
   const double Mc = AscendantAt(siderealTime - 6, 0, frame);
 
   Houses houses;

@@ -1,4 +1,4 @@
-// Sidereal time and the twelve houses, by trisection of the quadrants.
+// Sidereal time and the twelve houses, by dividing each quadrant in three.
 #pragma once
 
 #include "engine/time_base.h"
@@ -6,31 +6,31 @@
 
 namespace engine {
 
-// Degrees by house 1 to 12; element 0 is not used.
+// Degrees by house 1 to 12; element 0 is unused.
 using HouseTable = foundation::BoundedArray<double, 0, 12>;
 
 struct Houses {
   HouseTable Cusps;    // 1 is the ascendant, 10 the midheaven
-  HouseTable Sandhis;  // i is the junction of the houses i - 1 and i
+  HouseTable Sandhis;  // element i lies between houses i - 1 and i
 };
 
-// Hours, 0 to below 24, at a longitude in degrees, east positive.
+// Local sidereal time in hours, 0 to below 24; the longitude is in degrees, east positive.
 double LocalSiderealTime(const TimeBase& time, double longitude);
 
-// The frame that a longitude rises in, both in degrees.
+// What the rising longitude depends on besides time and latitude, in degrees.
 struct RisingFrame {
   double Obliquity;  // mean
-  double AyanValue;  // taken off the result
+  double AyanValue;  // ayanamsa, subtracted from the result
 };
 
-// The longitude that rises where the sidereal time is `Hours` and the latitude `Lat` degrees, in
-// degrees. Exactly 90, with no ayanamsa off, where both are 0. DivisionByZero where the rising
-// point has no direction.
+// The longitude in degrees that rises at sidereal time `Hours` and latitude `Lat` in degrees.
+// Exactly 90, without subtracting the ayanamsa, if both are 0. DivisionByZero if the rising point
+// has no direction.
 double AscendantAt(double Hours, double Lat, const RisingFrame& frame);
 
-// Sidereal time in hours, latitude in degrees; T in Julian centuries, for the obliquity. The
-// ayanamsa in degrees is taken off every cusp. Cusps and junctions are 0 to 360 degrees; errors as
-// AscendantAt.
+// siderealTime in hours, latitude in degrees, T in Julian centuries (for the obliquity). The
+// ayanamsa in degrees is subtracted from every cusp. Cusps and junctions are 0 to 360 degrees.
+// Errors as for AscendantAt.
 Houses CalcHouses(double siderealTime, double latitude, double T, double ayanamsa);
 
 }  // namespace engine

@@ -1,4 +1,4 @@
-// The Moon by its series, and the mean node of its orbit.
+// The Moon's longitude from its series, and the mean node of its orbit.
 #pragma once
 
 namespace engine {

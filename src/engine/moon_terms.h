@@ -1,9 +1,9 @@
-// The Moon's series: its longitude over the mean one.
+// The series of the Moon's longitude, added to its mean longitude.
 #pragma once
 
 namespace engine {
 
-// A term is its coefficient times the sine of a sum of whole multiples of the arguments: the Moon's
+// A term is the coefficient times the sine of a sum of multiples of the arguments: the Moon's
 // anomaly, the Sun's anomaly, the Moon's elongation from the Sun, its argument of latitude, and its
 // mean node.
 struct MoonTerm {

@@ -6,7 +6,7 @@
 namespace engine {
 namespace {
 
-// The sign that a count from the start of the zodiac comes to.
+// The sign, 1 to 12, of a count from the start of the zodiac.
 std::int16_t SignOf(int count) {
   const int sign = count % 12;
   return static_cast<std::int16_t>(sign == 0 ? 12 : sign);

@@ -13,16 +13,16 @@ namespace {
 
 using foundation::DateTime;
 
-// Minutes of arc by the angle between Sun and node, an entry each 3 degrees from 0 to 45.
+// Minutes of arc by the angle between Sun and node, one entry every 3 degrees from 0 to 45.
 constexpr foundation::BoundedArray<std::uint8_t, 0, 15> NodeSwing{
     {0, 10, 20, 30, 40, 49, 58, 66, 73, 79, 85, 90, 93, 96, 98, 98}};
 
 struct YearRow {
-  int yearOffset, month, day;  // of the date, from the chart's year
+  int yearOffset, month, day;  // relative to the chart's year
   int minutes;                 // of arc
 };
 
-// In the order of the dates.
+// In date order.
 // clang-format off
 constexpr YearRow NodeYearRows[] = {
     {-1, 12, 22,  2},
@@ -60,7 +60,7 @@ constexpr YearRow NodeYearRows[] = {
 };
 // clang-format on
 
-// The swing in minutes of arc, for the Sun `A` degrees past the node.
+// Interpolated swing in minutes of arc for the Sun `A` degrees past the node.
 double SwingAt(double A) {
   while (A < 0) A += 180;
   if (A > 180) A -= 180;
@@ -71,7 +71,7 @@ double SwingAt(double A) {
   }
   int k = foundation::FloorToInt16(A / 3);
   int j = k + 1;
-  if (A >= 45) {  // the table read from its end back
+  if (A >= 45) {  // past the middle, read the table backwards
     k = 30 - k;
     j = k - 1;
   }

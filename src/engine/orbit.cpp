@@ -10,8 +10,8 @@ namespace {
 
 using foundation::Divide;
 
-// Kepler's equation by Newton's steps, radians. The theories ask for no more than the first step
-// that is not above the limit.
+// Solves Kepler's equation by Newton's method, in radians. Stops after the first step within the
+// limit, which is enough for these mean elements.
 double EccentricAnomaly(double meanAnomaly, double eccentricity) {
   constexpr double kStepLimit = 0.01;
   double e = meanAnomaly + eccentricity * std::sin(meanAnomaly);
@@ -33,18 +33,18 @@ double EccentricityTangent(double eccentricity) {
   return Divide(kTanEighth - tanHalf, 1 + kTanEighth * tanHalf);
 }
 
-// tan(E / 2), by the form that keeps its figures where E is near half a turn.
+// tan(E / 2), in the form that stays accurate near half a turn.
 double HalfTangent(const SinCos& E) {
   return E.cos > 0 ? E.sin / (1 + E.cos) : Divide(1 - E.cos, E.sin);
 }
 
-// Twice the angle of a tangent.
+// Sine and cosine of twice the arctangent of t.
 SinCos TwiceArctangent(double t) {
   const double square = t * t;
   return {2 * t / (1 + square), (1 - square) / (1 + square)};
 }
 
-// The longitude of a vector, in degrees.
+// The longitude of a vector in degrees.
 double Direction(double x, double y) {
   const double l = std::atan(Divide(y, x)) / DegToRad;
   if (x < 0) return l + 180;
@@ -54,7 +54,7 @@ double Direction(double x, double y) {
 }  // namespace
 
 double OrbitLongitude(const OrbitElements& orbit, Body body, SunPlace& sun) {
-  // Before Newton's steps, which need not end where there is no ellipse.
+  // Comes first: it rejects an eccentricity beyond 1, for which Newton's method may not converge.
   const double eccentricityTangent = EccentricityTangent(orbit.Ecc);
 
   double meanAnomaly = orbit.L - orbit.Peri;
@@ -72,7 +72,7 @@ double OrbitLongitude(const OrbitElements& orbit, Body body, SunPlace& sun) {
   const double x = r * (u.cos + n.sin * w.sin * c);
   const double y = r * (u.sin - n.cos * w.sin * c);
 
-  if (body == Sun) sun = {x, y};  // and the sum below is twice the vector, its direction the same
+  if (body == Sun) sun = {x, y};  // the sum below is then twice the vector, with the same direction
   return Direction(x + sun.SunX, y + sun.SunY);
 }
 

@@ -1,4 +1,4 @@
-// From the elements of an elliptic orbit to a geocentric longitude.
+// Geocentric longitude from the elements of an elliptic orbit.
 #pragma once
 
 #include "engine/positions.h"
@@ -11,19 +11,19 @@ struct OrbitElements {
   double Node;  // longitude of the ascending node, degrees
   double Ecc;   // eccentricity, below 1
   double Incl;  // inclination to the ecliptic, degrees
-  double Axis;  // half the major axis, astronomical units
+  double Axis;  // semi-major axis, astronomical units
 };
 
-// The Sun as it stands from the Earth, astronomical units on the ecliptic.
+// The Sun as seen from the Earth, in astronomical units on the ecliptic.
 struct SunPlace {
   double SunX = 0;
   double SunY = 0;
 };
 
-// The geocentric longitude in degrees, 0 to 360, without light time, aberration and nutation. The
-// Sun's own call fills `sun`; every planet's call needs it filled for the same moment.
-// InvalidCall for an eccentricity beyond 1; DivisionByZero for a body exactly a quarter turn from
-// the zero point.
+// The geocentric longitude in degrees, 0 to 360, without light time, aberration or nutation. The
+// call for the Sun fills `sun`; calls for planets need it filled for the same moment. InvalidCall
+// for an eccentricity beyond 1; DivisionByZero for a body exactly a quarter turn from the zero
+// point.
 double OrbitLongitude(const OrbitElements& orbit, Body body, SunPlace& sun);
 
 }  // namespace engine

@@ -1,6 +1,6 @@
-// The perturbation series of Jupiter and Saturn. A term is its coefficient times the product of up
-// to three factors. u grows by one in five centuries; with the mean longitudes P, Q, S of Jupiter,
-// Saturn and Uranus, V is the great inequality's 5 Q - 2 P, W is S - Q and Z is Q - P.
+// The perturbation series of Jupiter and Saturn. A term is the coefficient times the product of up
+// to three factors. U grows by one in five centuries. With the mean longitudes P, Q and S of
+// Jupiter, Saturn and Uranus, V is 5 Q - 2 P (the great inequality), W is S - Q and Z is Q - P.
 #pragma once
 
 namespace engine::perturbation {
@@ -74,7 +74,7 @@ inline constexpr Term JupDE[] = {
     { 3606, SinV},
 };
 
-// Jupiter, half the major axis: units of 1e-06 astronomical units.
+// Jupiter, semi-major axis: units of 1e-06 astronomical units.
 inline constexpr Term JupDA[] = {
     { 111, CosQ,  Sin3Z},
     { 204, CosQ,  Sin2Z},
@@ -168,7 +168,7 @@ inline constexpr Term SatDE[] = {
     { -7929, SinV},
 };
 
-// Saturn, half the major axis: units of 1e-06 astronomical units.
+// Saturn, semi-major axis: units of 1e-06 astronomical units.
 inline constexpr Term SatDA[] = {
     { -427, Sin3Q, SinZ},
     {  398, Sin3Q, Sin3Z},

@@ -37,7 +37,7 @@ class Factors {
   }
 
  private:
-  // Sines and cosines of the multiples of an angle alternate from `firstSine` on.
+  // Sines and cosines of an angle's multiples alternate from `firstSine` on.
   void Put(Factor firstSine, int multiple, SinCos value) {
     at_[firstSine + 2 * (multiple - 1)] = value.sin;
     at_[firstSine + 2 * (multiple - 1) + 1] = value.cos;

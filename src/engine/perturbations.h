@@ -3,11 +3,11 @@
 
 namespace engine {
 
-// What one planet's mean elements are changed by.
+// Corrections to a planet's mean elements.
 struct ElementTerms {
   double longitude = 0;     // degrees
   double perihelion = 0;    // degrees times eccentricity
-  double eccentricity = 0;  // as it stands
+  double eccentricity = 0;  // added unscaled
   double axis = 0;          // astronomical units
 };
 
@@ -16,8 +16,8 @@ struct Perturbations {
   ElementTerms SaturnTerms;
 };
 
-// T in Julian centuries from the epoch. Overflow or InvalidCall where T is so far away that a term
-// has no value.
+// T in Julian centuries from the epoch. Overflow or InvalidCall if T is too large for a term to
+// have a value.
 Perturbations CalcPerturbations(double T);
 
 }  // namespace engine

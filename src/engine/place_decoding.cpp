@@ -12,8 +12,8 @@ namespace {
 using foundation::LastCharacter;
 using foundation::LeadingNumber;
 
-// "28.40N" as "28N4": the number at the start, written shortest, its point replaced by the letter.
-// A text that ends in neither letter stays as it is.
+// Turns "28.40N" into "28N4": the leading number in its shortest form, with the letter in place of
+// the point. Text that ends in neither letter is returned unchanged.
 std::string LetterForPoint(std::string_view text, std::string_view positive,
                            std::string_view negative) {
   const std::string_view letter = LastCharacter(text);
@@ -48,7 +48,7 @@ LatLongParts SepLatLong(std::string_view text) {
 
 LatLongParts LatitudeParts(std::string_view text) {
   std::string latitude = LetterForPoint(text, "N", "S");
-  // A latitude whose letter went with its point gets it back; a longitude does not.
+  // A latitude whose letter was dropped with its point gets it back; a longitude does not.
   if (latitude.find_first_of("NS") == std::string::npos) latitude += LastCharacter(text);
   return SepLatLong(latitude);
 }

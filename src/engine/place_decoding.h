@@ -10,22 +10,22 @@ namespace engine {
 struct LatLongParts {
   double degrees = 0;
   double minutes = 0;
-  std::string hemisphere;  // the last character that is no digit; empty if there is none
+  std::string hemisphere;  // the last character that is not a digit; empty if there is none
 };
 
-// Splits a text at characters that are no digits; the last of them wins. The digits after it are
-// the minutes, a single one being the tens: "28N4" is 28 degrees 40 minutes.
+// Splits a text at each character that is not a digit; the last one wins. The digits after it are
+// the minutes; a single digit counts as tens: "28N4" is 28 degrees 40 minutes.
 LatLongParts SepLatLong(std::string_view text);
 
-// The parts of a text in degrees.minutes with its hemisphere at the end. The longitude of whole
-// degrees loses its point and its letter on the way, and its degrees count as minutes.
+// Parts of a text in degrees.minutes that ends with its hemisphere. A longitude of whole degrees
+// loses its point and its letter, so that its degrees count as minutes.
 LatLongParts LatitudeParts(std::string_view text);
 LatLongParts LongitudeParts(std::string_view text);
 
-// Decimal degrees, below 0 in the hemisphere `negative`. Overflow where they have no finite value.
+// Decimal degrees, negative in the hemisphere `negative`. Overflow if they are not finite.
 double DecimalDegrees(const LatLongParts& parts, std::string_view negative);
 
-// A meridian in decimal degrees, east positive; a text without a letter is east.
+// A meridian in decimal degrees, east positive; without a letter it is east.
 double ZoneDegrees(std::string_view zone);
 
 }  // namespace engine

@@ -8,8 +8,8 @@
 namespace engine {
 namespace {
 
-// A body in two lines; of each quantity but the axis, the rate a century and the value at the
-// epoch.
+// Two lines per body. Each pair is the rate per century and the value at the epoch; the axis is
+// constant.
 // clang-format off
 constexpr MeanElements kMeanElements[] = {
     //        L                      Peri                    Node
@@ -73,7 +73,7 @@ double PlanetLongitude(Body body, const PlanetTime& at, SunPlace& sun) {
       orbit.L = L0 - 0.166 * SinDegrees(L0 + 50.0 + at.ayanamsa);
       break;
     case Neptune:
-      // The last argument is centuries taken as radians.
+      // Adds centuries as if they were radians.
       orbit.L =
           L0 + 0.1 - 0.1 * SinDegrees(L0 / 2 - 90.0 + at.ayanamsa) + 0.166 * std::sin(at.T - 1.0);
       break;

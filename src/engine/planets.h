@@ -1,4 +1,4 @@
-// The Sun and the eight planets: mean elements and what each body changes in its own.
+// The Sun and the eight planets: mean elements and the corrections to each.
 #pragma once
 
 #include "engine/orbit.h"
@@ -6,7 +6,7 @@
 
 namespace engine {
 
-// A quantity that grows evenly with the time in Julian centuries.
+// A quantity that is linear in the time, in Julian centuries.
 struct Linear {
   double rate;
   double start;  // at the epoch
@@ -14,7 +14,7 @@ struct Linear {
   constexpr double At(double T) const { return T * rate + start; }
 };
 
-// Elements referred to a fixed sidereal zero point, the longitude in revolutions.
+// Mean elements, referred to a fixed sidereal zero point.
 struct MeanElements {
   Body body;
   Linear L;     // revolutions
@@ -27,13 +27,13 @@ struct MeanElements {
   OrbitElements At(double T) const;
 };
 
-// Of the Sun and the planets; Subscript for any other.
+// Defined for the Sun and the planets; Subscript for any other body.
 const MeanElements& MeanElementsOf(Body body);
 
-// Elements at one moment and the arguments of their corrections.
+// The moment to evaluate at, and what the corrections need.
 struct PlanetTime {
   double T;                            // Julian centuries
-  double ayanamsa;                     // degrees, for the sines of the outer planets
+  double ayanamsa;                     // degrees, for the outer planets' corrections
   const Perturbations& perturbations;  // of the chart's moment, also an hour later
 };
 

@@ -78,7 +78,7 @@ PlanetsTable2 clsPP::getPlanetsTable2() const {
     PlanetRow2& row = table[static_cast<std::size_t>(body)];
     FillCells(row, body, longitudes[static_cast<std::size_t>(body)]);
     row.Combust = CombustTest(row.Name, row.Longitude, pp_Sun);
-    // No sign is both a body's fall and its exaltation, so that one of them is empty.
+    // No body has its fall and its exaltation in the same sign, so at least one of these is empty.
     row.Dignity = std::string(DebilTest(row.Name, row.Longitude)) +
                   std::string(ExaltTest(row.Name, row.Longitude));
     if (body > 0) row.Motion = getRET(static_cast<std::int16_t>(body));

@@ -1,4 +1,4 @@
-// A chart as tables for the reader: a row a body, with its place, lords and state.
+// A chart as tables: one row per body with its place, lords and state.
 #pragma once
 
 #include <array>
@@ -7,12 +7,12 @@
 
 namespace engine {
 
-// What both tables tell of a body.
+// Columns that both tables share.
 struct PlanetCells {
   std::string_view Name;  // "Asc", "Sun" to "Pluto" as in BodyName
   double Longitude = 0;   // degrees
-  int Sign = 0;           // 0 Aries to 11, 12 where the rounded seconds end the zodiac
-  std::string Degrees;    // in the sign, two figures as the next two
+  int Sign = 0;           // 0 Aries to 11; 12 if rounding the seconds ends the zodiac
+  std::string Degrees;    // within the sign; two digits, as the next two
   std::string Minutes;
   std::string Seconds;         // rounded
   int Star = 0;                // 1 to 27

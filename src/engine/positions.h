@@ -1,13 +1,13 @@
-// The longitudes that one chart consists of, by body.
+// The longitudes of a chart, by body.
 #pragma once
 
 #include "foundation/bounded_array.h"
 
 namespace engine {
 
-// Where a body stands among the positions.
+// Index of a body in Positions.
 enum Body : int {
-  Ayanamsa = 1,  // no body: the zero point's own longitude
+  Ayanamsa = 1,  // not a body: the longitude of the zero point
   Sun,
   Mercury,
   Venus,
@@ -22,14 +22,14 @@ enum Body : int {
   Pluto,
 };
 
-// The same body an hour later stands so many places further; the ayanamsa has no second value.
+// Offset from a body's slot to its position an hour later; the ayanamsa has no later value.
 inline constexpr int kHourLater = 13;
 
-// Degrees; element 0 is not used.
+// Degrees; element 0 is unused.
 using Positions = foundation::BoundedArray<double, 0, 26>;
 
-// Display number to place in the positions: the slot of the ayanamsa or ascendant, the Sun, the
-// Moon, the planets by their weekdays, the nodes, the outer planets. Element 0 is not used.
+// Maps display numbers to slots in Positions: the ayanamsa (or ascendant), the Sun, the Moon, the
+// planets in weekday order, the nodes, the outer planets. Element 0 is unused.
 inline constexpr foundation::BoundedArray<int, 0, 13> BodyOrder{
     {0, Ayanamsa, Sun, Moon, Mars, Mercury, Jupiter, Venus, Saturn, Rahu, Ketu, Uranus, Neptune,
      Pluto}};

@@ -7,7 +7,7 @@
 
 namespace engine {
 
-// GenHoro with the record's own place, ayanamsa, node and correction; its errors.
+// GenHoro with the record's place, ayanamsa, node and war-time correction. Errors as for GenHoro.
 inline void GenRecordHoro(clsPP& chart, const foundation::SessionRecord& record, double day,
                           double month, double year, double hour, double minute, double second) {
   chart.GenHoro(day, month, year, hour, minute, second, record.LongitudeText, record.LatitudeText,

@@ -5,7 +5,7 @@
 namespace engine {
 namespace {
 
-// A row a body, a character for each other one.
+// A row per body, with one character for each other body.
 constexpr foundation::BoundedArray<std::string_view, 1, 9> kNatural{{
     " 22120000",  // Sun
     "2 1211100",  // Moon
@@ -18,11 +18,11 @@ constexpr foundation::BoundedArray<std::string_view, 1, 9> kNatural{{
     "00211200 ",  // Ketu
 }};
 
-// By the place of one's own sign counted from the other's, 1 to 12: friends stand within three
-// signs on either side.
+// By the place of the body's sign counted from the other's, 1 to 12: friends are within three signs
+// on either side.
 constexpr std::string_view kTemporal = "022200000222";
 
-// By the natural relation, '0' to '2', and whether the temporal one is friendly.
+// By the natural relation, '0' to '2', and by whether the temporal one is friendly.
 constexpr char kCompound[3][2] = {{'4', '1'}, {'0', '2'}, {'1', '3'}};
 
 char Temporal(int sign, int otherSign) {

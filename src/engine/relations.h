@@ -1,4 +1,4 @@
-// How the bodies of a chart stand to each other: friend, neutral, enemy.
+// Relations between the bodies of a chart: friend, neutral, enemy.
 #pragma once
 
 #include "engine/divisions.h"
@@ -6,16 +6,16 @@
 
 namespace engine {
 
-// Cells of one character by layer 1 to 3, body and other body, both 1 to 9 in the order Sun, Moon,
-// Mars, Mercury, Jupiter, Venus, Saturn, Rahu, Ketu; a body's cell with itself holds none ('\0').
+// Characters by layer 1 to 3, body and other body, both 1 to 9 in the order Sun, Moon, Mars,
+// Mercury, Jupiter, Venus, Saturn, Rahu, Ketu; '\0' for a body with itself.
 //   layer 1, natural: '2' friend, '1' neutral, '0' enemy
-//   layer 2, temporal: '2' friend, '0' enemy, by the signs between them
+//   layer 2, temporal: '2' friend, '0' enemy, by the distance of their signs
 //   layer 3, compound: '3' great friend, '2' friend, '1' neutral, '0' enemy, '4' great enemy
 using RelationRow = foundation::BoundedArray<char, 1, 9>;
 using RelationLayer = foundation::BoundedArray<RelationRow, 1, 9>;
 using RelationTable = foundation::BoundedArray<RelationLayer, 1, 3>;
 
-// From the rashi column of the wide divisions.
+// Uses the rashi column of the wide divisions.
 RelationTable Maitri(const DivTable& divisions);
 
 }  // namespace engine

@@ -44,7 +44,7 @@ constexpr struct {
 } kPeriods[kLords] = {{"KET", 7},  {"VEN", 20}, {"SUN", 6},  {"MOO", 10}, {"MAR", 7},
                       {"RAH", 18}, {"JUP", 16}, {"SAT", 19}, {"MER", 17}};
 
-// Rows whose print differs from the sum: the start from 0 Aries, the text, the start in the sign.
+// Rows printed differently from the running sum: start from 0 Aries, text, start in the sign.
 constexpr struct {
   int Row;
   const char* Start;
@@ -64,9 +64,9 @@ std::string DegreesText(int seconds) {
 
 SubSubRows FillSubSubTable() {
   using foundation::NumberText;
-  SubSubRows rows{};  // clang 14 breaks off at "rows;"
+  SubSubRows rows{};  // clang 14 crashes on "rows;"
   int row = 0;
-  int thirds = 0;  // of a second: a part of a part is 10/3 seconds times both lords' years
+  int thirds = 0;  // of a second: a sub-sub span is 10/3 seconds times both lords' years
   for (int star = 0; star < kLords; ++star) {
     for (int sub = star; sub < star + kLords; ++sub) {
       for (int subSub = sub; subSub < sub + kLords; ++subSub) {

@@ -1,4 +1,4 @@
-// The moment of a chart as its theories count it: days, Julian centuries, the civil date.
+// The moment of a chart: day number, Julian centuries, civil date.
 #pragma once
 
 #include <cstdint>
@@ -10,22 +10,23 @@ namespace engine {
 inline constexpr double kDaysPerCentury = 36525;
 inline constexpr double kHourInCenturies = 1.0 / 24 / kDaysPerCentury;
 
-// Days on the Gregorian calendar, counted backward without end: Julian Day at the date's midnight
-// less 1720994.5. 31 December 1899 is 694025. Overflow beyond 32 bits.
+// Days in the proleptic Gregorian calendar: the Julian Date at midnight less 1720994.5, so 31
+// December 1899 is 694025. Overflow beyond 32 bits.
 std::int32_t DayNumber(int day, int month, std::int32_t year);
 
-// A moment counted from Greenwich noon of 31 December 1899 (JD 2415020.0).
+// A moment relative to Greenwich noon of 31 December 1899 (JD 2415020.0).
 struct TimeBase {
-  double DayPart;  // days from Greenwich noon of the civil date; also below 0 or above 1
+  double DayPart;  // days from Greenwich noon of the civil date; may be below 0 or above 1
   double TimeT;    // Julian centuries
 };
 
-// `hours` by the zone's clock, `zoneHours` east positive, `correction` hours added to the clock.
+// `hours` is the zone's clock time, `zoneHours` is east positive, `correction` is hours added to
+// the clock.
 TimeBase TimeBaseOf(std::int32_t dayNumber, double hours, double zoneHours, double correction);
 
-// The midnight that begins a date given by its fields. A year below 100 is taken as a text of two
-// figures is: 0 to 29 for 2000 to 2029, 30 to 99 for 1930 to 1999. InvalidCall for a month that has
-// no name, TypeMismatch for a day that does not exist or a year outside 100 to 9999.
+// The midnight that begins a date. A year below 100 is read like a two-digit text: 0 to 29 is 2000
+// to 2029, 30 to 99 is 1930 to 1999. InvalidCall for a month that has no name; TypeMismatch for a
+// day that does not exist or a year outside 100 to 9999.
 foundation::DateTime CivilDate(int day, int month, std::int32_t year);
 
 }  // namespace engine

@@ -6,7 +6,7 @@
 namespace engine {
 namespace {
 
-// A sign 1 to 12; 13 for a longitude of exactly 360, which is of the kind of 1.
+// A sign 1 to 12; 13, for a longitude of exactly 360, behaves like 1.
 class Sign {
  public:
   explicit Sign(int number) : number_(number) {}
@@ -25,7 +25,7 @@ class Sign {
   int number_;
 };
 
-// The unequal parts of a sign under "Thrisamsa".
+// The unequal parts of a sign in the Thrisamsa.
 struct UnequalPart {
   int lastDegree;  // of the sign's 1 to 30
   int sign;
@@ -85,7 +85,7 @@ DivRow WideDivisions(double longitude) {
       W(8) + sign.ByQuality(1, 9, 5),                       // Ashtamsa
       ekadasamsa < 1 ? ekadasamsa + 12 : ekadasamsa,        // Ekadasamsa
   };
-  constexpr int kReduced = 16;  // later columns keep a sign beyond 12
+  constexpr int kReduced = 16;  // later columns keep values above 12
   DivRow row;
   for (int column = 1; column <= 20; ++column) {
     int value = columns[column];

@@ -41,7 +41,7 @@ constexpr BoundedArray<std::string_view, 0, 27> kStars{
      "Chitra",   "Swati",    "Vishakha", "Anuradha", "Jyeshtha",  "Moola",     "P. Asadh",
      "U. Asadh", "Shravana", "Dhanista", "Shatabhi", "P. Bhadra", "U. Bhadra", "Revati"}};
 
-// By the star's number modulo nine.
+// By star number modulo nine.
 constexpr BoundedArray<int, 0, 8> kStarLords{{5, 10, 7, 2, 3, 4, 9, 6, 8}};
 
 // Degrees from the Sun.
