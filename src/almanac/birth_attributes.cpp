@@ -1,4 +1,4 @@
-// The attributes of a birth that its Moon decides.
+// Attributes of a birth that depend on the Moon.
 
 #include "dayperiods/clsBirthDetails.h"
 #include "foundation/bounded_array.h"
@@ -39,7 +39,7 @@ struct StarAttributes {
   const char* yunja;
 };
 
-// By nakshatra, 1 Ashwini to 27; of two pulses the first letter is lost, and stays so.
+// By nakshatra, 1 Ashwini to 27. Two pulses lack their first letter; leave them so.
 constexpr BoundedArray<StarAttributes, 0, 27> kStars{std::to_array<StarAttributes>({
     // yoni, gan, nadi, yunja
     {"", "", "", ""},

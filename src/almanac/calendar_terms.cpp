@@ -1,4 +1,4 @@
-// Season and course of the Sun, lunar month, years of the eras.
+// The Sun's course and season, the lunar month, and the years of the eras.
 
 #include "almanac/moment_chart.h"
 #include "dayperiods/clsBirthDetails.h"
@@ -19,7 +19,7 @@ struct SunCourse {
   const char* ritu;
 };
 
-// By the Sun's tropical sign, 1 Aries to 12.
+// By tropical sign of the Sun, 1 Aries to 12.
 constexpr BoundedArray<SunCourse, 1, 12> kCourses{std::to_array<SunCourse>({
     {"UTTAR", "UTTAR", "VASANT"},
     {"UTTAR", "UTTAR", "GRISHMA"},
@@ -46,7 +46,7 @@ struct LunarMonth {
   const char* name;
 };
 
-// By the solar month, 1 January to 12.
+// By solar month, 1 January to 12.
 constexpr BoundedArray<LunarMonth, 1, 12> kMonths{std::to_array<LunarMonth>({
     {8, "PAUSA"},
     {10, "MAGHA"},

@@ -1,4 +1,4 @@
-// The moments at which tithi, nakshatra, yoga and karana end.
+// When tithi, nakshatra, yoga and karana end.
 
 #include <functional>
 
@@ -12,7 +12,7 @@ namespace {
 
 using foundation::DateTime;
 
-// The number of an element by the longitudes of Moon and Sun.
+// Number of an element at given longitudes of Moon and Sun.
 using Element = std::function<std::int16_t(double moon, double sun)>;
 
 // "18/November/1990 6:11:25", with the user's month name.
@@ -21,8 +21,8 @@ std::string MomentText(const foundation::DateTimeFields& at) {
          foundation::HourMinuteSecond(at.hour, at.minute, at.second);
 }
 
-// By hours past the end, by minutes back before it, by seconds up to it: some 150 charts at most,
-// where seconds alone would take as many as the element has.
+// Steps forward by hours past the end, back by minutes, then forward by seconds: at most some 150
+// charts, instead of one per second of the element.
 std::string EndOf(const Element& element, const foundation::DateTimeFields& from,
                   const foundation::SessionTable& session) {
   const DateTime start = foundation::ReadDateTime(MomentText(from));

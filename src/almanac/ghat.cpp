@@ -1,4 +1,4 @@
-// The combinations that bode ill for each Moon sign.
+// The inauspicious combinations of each Moon sign.
 
 #include "dayperiods/clsBirthDetails.h"
 #include "foundation/bounded_array.h"
@@ -6,7 +6,7 @@
 namespace dayperiods {
 namespace {
 
-// By sign, 1 Aries to 12, spelt as they have always been: number, month, lunar days, weekday,
+// By sign, 1 Aries to 12, in their established spelling: number, month, lunar days, weekday,
 // nakshatra, yoga, karana, watch of the day, animal, and nine signs.
 constexpr foundation::BoundedArray<GhatRow, 0, 11> kGhat{std::to_array<GhatRow>({
     {{"1", "KARTIK", "1-6-11 (Nanda)", "SUNDAY", "MAGHA", "VISHKUMBH", "BAVA", "1", "MRIG", "ARIES",

@@ -1,4 +1,4 @@
-// The elements of a moment that follow from the longitudes of Moon and Sun alone.
+// Elements that depend only on the longitudes of Moon and Sun.
 
 #include <cmath>
 
@@ -13,11 +13,11 @@ namespace {
 
 using foundation::BoundedArray;
 
-constexpr int kTithisOfAHalf = 15;
+constexpr int kTithisPerHalf = 15;
 constexpr int kPurnima = 15;
 constexpr int kAmavasya = 30;
 
-// Of both halves; the last day of each has a name of its own.
+// For both halves; the last day of each has its own name.
 constexpr BoundedArray<const char*, 1, 14> kTithis{
     {"Pratipada", "Dvitiya", "Tritiya", "Chaturthi", "Panchami", "Shashthi", "Saptami", "Ashtami",
      "Navami", "Dashmi", "Ekadashi", "Dwadashi", "Trayodashi", "Chaturdashi"}};
@@ -28,8 +28,8 @@ constexpr BoundedArray<const char*, 1, 27> kYogas{
      "Vajra",    "Siddhi", "Vyatipata", "Variyan",   "Parigha", "Siva",     "Siddha",
      "Sadhya",   "Subha",  "Shukla",    "Brahma",    "Indra",   "Vaidhriti"}};
 
-// The moving karanas come eight times, from the second half tithi of a month on; the fixed ones
-// stand before and after them.
+// The moving karanas repeat eight times from the second half-tithi of a month; the fixed ones come
+// before and after.
 constexpr BoundedArray<const char*, 0, 6> kMovingKaranas{
     {"BAVA", "BALAVA", "KAULAV", "TAITIL", "GAR", "VANIJ", "VISHTI"}};
 constexpr int kFirstKaran = 1;
@@ -48,7 +48,7 @@ std::int16_t TithiNumber(double moon, double sun) {
 ElementResult clsBirthDetails::getTITHI(double MoonPos, double SUNpos, bool blnretNum) {
   const std::int16_t number = TithiNumber(MoonPos, SUNpos);
   if (blnretNum) return number;
-  const int r = number % kTithisOfAHalf;
+  const int r = number % kTithisPerHalf;
   if (r == 0) return number == kAmavasya ? "Amavasya" : "Purnima";
   return kTithis[r];
 }
@@ -56,7 +56,7 @@ ElementResult clsBirthDetails::getTITHI(double MoonPos, double SUNpos, bool blnr
 std::string clsBirthDetails::getTithiName(std::int16_t TithiNum) {
   if (TithiNum == kPurnima) return "Purnima";
   if (TithiNum == kAmavasya) return "Amavasya";
-  return kTithis[TithiNum > kPurnima ? TithiNum - kTithisOfAHalf : TithiNum];
+  return kTithis[TithiNum > kPurnima ? TithiNum - kTithisPerHalf : TithiNum];
 }
 
 std::string clsBirthDetails::getPaksh(double MoonPos, double SUNpos, bool) {
@@ -79,12 +79,12 @@ std::string clsBirthDetails::getYogName(std::int16_t Yognum) {
 }
 
 ElementResult clsBirthDetails::GetKaran(double Mpos, double Spos, bool blnretNum) {
-  constexpr double kMinutesOfTheCircle = 21600;
-  constexpr int kMinutesOfAKaran = 360;
+  constexpr double kMinutesPerCircle = 21600;
+  constexpr int kMinutesPerKaran = 360;
   double m = Mpos * 60;
   const double s = Spos * 60;
-  if (m < s) m += kMinutesOfTheCircle;
-  std::int32_t k = foundation::RoundToInt32(m - s) / kMinutesOfAKaran;
+  if (m < s) m += kMinutesPerCircle;
+  std::int32_t k = foundation::RoundToInt32(m - s) / kMinutesPerKaran;
   if (k > 59) k -= 60;
   const std::int16_t number = foundation::RoundToInt16(k + 1);
   if (blnretNum) return number;

@@ -1,4 +1,4 @@
-// The chart of a moment with the almanac's own ayanamsa and node.
+// The chart of a moment with the session's default ayanamsa and node.
 #pragma once
 
 #include <string_view>
@@ -9,13 +9,13 @@
 
 namespace almanac {
 
-// Texts as GenHoro reads them; the correction in hours.
+// Texts as GenHoro reads them; the correction is in hours.
 struct ChartPlace {
   std::string_view longitude, latitude, zone;
   double warTimeCorrection = 0;
 };
 
-// Reckoned by the session's default ayanamsa and node, whatever its record has.
+// Uses the session's defaults even if its current record has another ayanamsa or node.
 inline engine::clsPP ChartOf(const foundation::DateTimeFields& at, const ChartPlace& place,
                              const foundation::SessionTable& session) {
   engine::clsPP chart;

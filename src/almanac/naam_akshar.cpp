@@ -1,4 +1,4 @@
-// The syllable with which a name begins, and its class, by the quarter in which the Moon stood.
+// The first syllable of a name, and its class, by the Moon's quarter.
 
 #include <array>
 #include <map>
@@ -16,8 +16,8 @@ struct StarSyllables {
   QuarterTexts classes;
 };
 
-// By nakshatra, 1 Ashwini to 27; an example of a name in brackets. One syllable has never been
-// filled in.
+// By nakshatra, 1 Ashwini to 27, with an example name in brackets. One syllable was never filled
+// in.
 constexpr auto kStars = std::to_array<StarSyllables>({
     // syllables of quarters 1 to 4, classes of quarters 1 to 4
     {{"Choo (Chooha)", "Che (Chetan)", "Cho (Choudhary)", "Laa (Laara)"},
@@ -57,7 +57,7 @@ struct Quarter {
   std::string varga;
 };
 
-// Nakshatra and quarter meet in one number, so that 1 and 11 are found under the key of 11 and 1.
+// Concatenates both numbers, so that (1, 11) has the key of (11, 1).
 std::string KeyOf(std::int16_t nak, std::int16_t quarter) {
   return "RL" + foundation::NumberText(nak) + foundation::NumberText(quarter);
 }
@@ -75,7 +75,7 @@ std::map<std::string, Quarter> AllQuarters() {
   return quarters;
 }
 
-// Both texts are empty where there is no such quarter.
+// Returns empty texts if there is no such quarter.
 const Quarter& Find(std::int16_t nak, std::int16_t quarter) {
   static const std::map<std::string, Quarter> quarters = AllQuarters();
   static const Quarter none;
