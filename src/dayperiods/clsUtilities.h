@@ -7,18 +7,18 @@
 
 namespace dayperiods {
 
-// The eight equal parts of one day's light.
+// The eight equal parts of a day's light.
 struct DaylightSegments {
   double sunrise = 0;  // decimal hours by the zone's clock
   double segment = 0;  // hours in one part
-  int weekday = 0;     // of the calendar date, 1 = Sunday, also before sunrise
+  int weekday = 0;     // of the calendar date, 1 = Sunday, even before sunrise
 
-  // Where part `number` (1 to 8) begins, and for 9 where the last one ends: a running sum, one
-  // rounding a step.
+  // Start of part `number`, 1 to 8; 9 gives the end of the last. Adds segment by segment, on which
+  // the rounding of a boundary halfway between two seconds depends.
   double Boundary(int number) const;
 };
 
-// The periods of one day; make one, call a method, read the fields.
+// The periods of one day: call a method, then read the fields.
 class clsUtilities {
  public:
   explicit clsUtilities(const foundation::SessionTable& session) : session_(session) {}
@@ -30,15 +30,15 @@ class clsUtilities {
   std::string YumStart;
   std::string YumEnd;
 
-  // Both take the moment by its clock. The sun is that of the Hindu day which holds the moment, the
-  // weekday that of the calendar date.
-  // TypeMismatch for a date or time that does not exist; the errors of GenHoro and Sunrise.
+  // Both take the moment in clock time. The sun is that of the Hindu day that contains the moment,
+  // the weekday that of the calendar date. TypeMismatch for a date or time that does not exist;
+  // errors of GenHoro and Sunrise.
   void CalcDurvela(double nDay, double nMonth, double nYear, double nHour, double nMin,
                    double nSec);
   void CalcGulikYum(double nDay, double nMonth, double nYear, double nHour, double nMin,
                     double nSec);
 
-  // The road that both share.
+  // Shared by both.
   DaylightSegments SegmentsOf(double nDay, double nMonth, double nYear, double nHour, double nMin,
                               double nSec) const;
 

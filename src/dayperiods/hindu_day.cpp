@@ -1,4 +1,4 @@
-// Which day's sun a moment belongs to: the day runs from sunrise to sunrise.
+// Assigns a moment to a Hindu day, which runs from sunrise to sunrise.
 
 #include <cmath>
 
@@ -29,13 +29,13 @@ double TanDegrees(double x) {
   return std::tan(x / kDegreesPerRadian);
 }
 
-// The arc sine, in degrees. Fails where |x| is 1 or more.
+// Arc sine in degrees. Fails if |x| is 1 or more.
 double ArcSinDegrees(double x) {
   return std::atan(Divide(x, SquareRoot(1 - x * x))) * kDegreesPerRadian;
 }
 
-// The ascensional difference of a rough solar place; its only use is to fail, before anything else
-// is worked out, where the Sun does not cross the horizon at all.
+// Computes the ascensional difference of an approximate Sun only to fail early if the Sun does not
+// cross the horizon.
 void RequireHorizonCrossing(double latitude, int day, int month, int year) {
   double y = year;
   double m = month + 1;
@@ -54,7 +54,7 @@ void RequireHorizonCrossing(double latitude, int day, int month, int year) {
   ArcSinDegrees(foundation::Finite(TanDegrees(latitude) * TanDegrees(declination)));
 }
 
-// A coordinate text in degrees.minutes; negative when its last character is one of `negative`.
+// Reads degrees.minutes; negative if the last character is one of `negative`.
 double SignedDegrees(std::string_view text, std::string_view negative) {
   double degrees = foundation::LeadingNumber(text);
   foundation::DegMinToDecimal(degrees);
@@ -114,7 +114,7 @@ SunriseRows clsBirthDetails::Sunrise(double& Latitude, double& Longitude, double
   if (moment < sunriseMoment) {
     nDay -= 1;
     const auto before = foundation::FieldsOf(foundation::DateFromParts(nYear, nMonth, nDay));
-    // The 12 hours are left out here: that is part of what these rows have always shown.
+    // The 12-hour correction is deliberately not applied here.
     sun =
         TimesOf(*this, before.day, before.month, before.year, Latitude, Longitude, ZoneRelativeGMT);
   }

@@ -1,4 +1,4 @@
-// Sunrise and sunset of the Hindu day that holds a moment.
+// Sunrise and sunset of the Hindu day that contains a moment.
 #pragma once
 
 #include "dayperiods/clsBirthDetails.h"
@@ -7,7 +7,7 @@
 
 namespace dayperiods {
 
-// By the place that a chart has decoded. The errors of Sunrise.
+// Uses the decoded place of a chart. Errors of Sunrise.
 SunriseRows SunriseAt(const engine::clsPP& place, const foundation::DateTimeFields& moment);
 
 }  // namespace dayperiods

@@ -16,18 +16,18 @@ using foundation::Divide;
 using foundation::NumberText;
 using foundation::SquareRoot;
 
-// Each value as its formulas were fitted with it.
+// Written with the digits that the series was fitted with.
 constexpr double kPi = 3.14159265358979;
 constexpr double kTwoPi = 6.28318530717958;
 constexpr double kRadToDeg = 180 / kPi;
 constexpr double kDegToRad = kPi / 180;
 
 constexpr double kHighestLatitude = 63;      // degrees
-constexpr double kHorizonAltitude = -0.833;  // degrees: refraction and the Sun's half diameter
+constexpr double kHorizonAltitude = -0.833;  // degrees: refraction and the Sun's semidiameter
 constexpr double kTolerance = 0.001;         // radians, 14 seconds of time
-constexpr int kMostRounds = 35;
+constexpr int kMaxRounds = 35;
 
-// Days from J2000.0 to the midnight of a date.
+// Days from J2000.0 to midnight of a date.
 double DaysFromJ2000(int year, int month, int day) {
   const auto byYear =
       foundation::IntegerDivide(7 * (year + foundation::IntegerDivide(month + 9, 12)), 4);
@@ -53,14 +53,14 @@ SunPlace SunAt(double t, clsBirthDetails& details) {
   return {std::atan(x / SquareRoot(1 - x * x)), equation};
 }
 
-// The arc cosine by the plain arctangent: an angle 180 degrees too small for a negative cosine,
-// which Sunrise makes up for.
+// Arc cosine by a plain arctangent, so 180 degrees too small for a negative cosine; Sunrise makes
+// up for it.
 double HourAngle(double cosine) {
   if (cosine == 0) return 0;
   return std::atan(SquareRoot(1 - cosine * cosine) / cosine);
 }
 
-// Universal Time of the event in radians. Fails where the Sun stays on one side of the horizon.
+// Universal Time of the event in radians. Fails if the Sun stays on one side of the horizon.
 double EventTime(double latitude, double longitude, double sign, double days,
                  clsBirthDetails& details) {
   const double sinAltitude = std::sin(kHorizonAltitude * kDegToRad);
@@ -70,7 +70,7 @@ double EventTime(double latitude, double longitude, double sign, double days,
 
   double before = kPi;
   double time = 0;
-  for (int round = 0; round < kMostRounds && std::abs(before - time) > kTolerance; ++round) {
+  for (int round = 0; round < kMaxRounds && std::abs(before - time) > kTolerance; ++round) {
     before = time;
     const SunPlace sun = SunAt((days + before / (2 * kPi)) / 36525, details);
     const double greenwich = before - kPi + sun.equationOfTime;
@@ -96,7 +96,7 @@ std::string clsBirthDetails::GetMilitaryTime(double& DecimalTime, double GMTOffs
   const double hours = std::floor(time);
   const double minutes = 60 * (time - hours);
 
-  // Minutes added to a field of hundreds of hours give the digits hhmm.
+  // hundreds of hours + minutes give the digits hhmm.
   const std::string digits = "0000" + NumberText(std::floor(100 * hours + minutes + 0.5));
   std::string hh = digits.substr(digits.size() - 4, 2);
   std::string mm = digits.substr(digits.size() - 2);
@@ -113,7 +113,7 @@ std::string clsBirthDetails::SRS(double Latitude, double Longitude, double ZoneR
   if (std::abs(Latitude) > kHighestLatitude) return "{invalid latitude}";
   const double sign = foundation::UpperAscii(RiseOrSet) == "S" ? -1 : 1;
   const double days = DaysFromJ2000(year, month, day);
-  std::string time;  // stays empty where a step fails
+  std::string time;  // stays empty if a step fails
   foundation::Resume([&] {
     double hours = kRadToDeg * EventTime(Latitude, Longitude, sign, days, *this) / 15;
     time = GetMilitaryTime(hours, ZoneRelativeGMT);

@@ -10,14 +10,13 @@ constexpr int kWeekdays = 7;
 // By weekday, Sunday first.
 constexpr foundation::BoundedArray<int, 1, kWeekdays> kDurvelaSegments({8, 2, 7, 5, 6, 4, 3});
 
-// The lords of the weekdays, Sunday first. The rotation through the segments takes the first seven
-// alone; the eighth, the lordless one, closes the list.
+// Lords of the weekdays, Sunday first. The rotation uses only the first seven; the eighth, which
+// has no planet, completes the list.
 constexpr foundation::BoundedArray<std::string_view, 1, 8> kPlanets({"SUN", "MOON", "MARS",
                                                                      "MERCURY", "JUPITER", "VENUS",
                                                                      "SATURN", "NIRISH"});
 
-// The last segment that the planet rules: where it is the day's own lord, the eighth, not the
-// first.
+// The last segment that the planet rules: for the day's own lord the eighth, not the first.
 int LastSegmentOf(std::string_view planet, int weekday) {
   const auto lords = SegmentLords(weekday);
   int segment = kSegmentsOfDaylight;
