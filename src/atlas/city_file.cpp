@@ -42,8 +42,8 @@ CityReader::CityReader(fs::path file)
     : file_(std::move(file)), bytes_(foundation::ReadFile(file_)) {}
 
 bool CityReader::AtEnd() {
-  if (at_ == bytes_.size()) ReadWhatWasAppended();
-  return at_ == bytes_.size() && !behindComma_;
+  if (at_ == bytes_.size()) ReadAppended();
+  return at_ == bytes_.size() && !afterComma_;
 }
 
 foundation::ByteText CityReader::Item() {
@@ -51,12 +51,12 @@ foundation::ByteText CityReader::Item() {
   const std::size_t begin = std::min(rest.find_first_not_of(' '), rest.size());
   const std::size_t end = std::min(rest.find_first_of(",\r\n", begin), rest.size());
   const std::string_view behind = rest.substr(end);
-  behindComma_ = behind.starts_with(',');
+  afterComma_ = behind.starts_with(',');
   at_ += end + (behind.starts_with("\r\n") ? 2 : behind.empty() ? 0 : 1);
   return foundation::ByteText(std::string(rest.substr(begin, end - begin)));
 }
 
-void CityReader::ReadWhatWasAppended() {
+void CityReader::ReadAppended() {
   std::error_code unknown;
   const auto size = fs::file_size(file_, unknown);
   if (unknown || size <= bytes_.size()) return;

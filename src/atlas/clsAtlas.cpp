@@ -9,15 +9,15 @@ namespace {
 
 using foundation::ByteText;
 
-constexpr int kMostEntries = 31800;  // of a list control
+constexpr int kMaxEntries = 31800;  // in a list control
 
 std::string Display(const std::array<std::string, 8>& fields) {
   const auto& [place, city, state, country, latitude, latsign, longitude, longsign] = fields;
   return place + ", " + state + ", " + country;
 }
 
-// The eight fields of a scrambled line; commas beyond the seventh belong to the last.
-// InvalidCall where there are too few.
+// The eight fields of a scrambled line; commas after the seventh belong to the last field.
+// InvalidCall if there are too few.
 std::array<std::string, 8> FieldsOf(const ByteText& line) {
   const std::string record = foundation::FromBytes(DecodeText(line, kAtlasKey));
   std::array<std::string, 8> fields;
@@ -34,7 +34,7 @@ std::array<std::string, 8> FieldsOf(const ByteText& line) {
   return fields;
 }
 
-// InvalidCall where a field holds what a city file cannot.
+// InvalidCall if a field holds characters that a city file cannot.
 ByteText Scrambled(std::string_view country, const PlaceRecord& r) {
   std::string record = r.Place;
   for (const std::string_view field :
@@ -51,7 +51,7 @@ ByteText Scrambled(std::string_view country, const PlaceRecord& r) {
 
 }  // namespace
 
-// A city file being read, until someone closes all files.
+// A city file being read. Reading fails once all open files have been closed.
 class clsAtlas::OpenFile {
  public:
   OpenFile(const clsAtlas& atlas, const std::filesystem::path& file)
@@ -102,7 +102,7 @@ void clsAtlas::LoadRecords(std::string_view country, forms::ListControl* list) {
 
 void clsAtlas::Enter(const std::array<std::string, 8>& fields, forms::ListControl* list) {
   if (list != nullptr) {
-    if (list->ListCount() >= kMostEntries) list->Clear();
+    if (list->ListCount() >= kMaxEntries) list->Clear();
     list->SetItemData(list->AddItem(Display(fields)), getLength());
   }
   const auto& [place, city, state, country, latitude, latsign, longitude, longsign] = fields;

@@ -1,4 +1,4 @@
-// The atlas: the only reader and writer of the city files, one for each country.
+// The atlas: the only code that reads and writes the city files, one per country.
 #pragma once
 
 #include <array>
@@ -14,10 +14,10 @@
 
 namespace atlas {
 
-// The eight fields of a place but its country, which is that of the file.
+// The fields of a place, except for the country, which is that of the file.
 struct PlaceRecord {
   std::string Place;  // listed and searched by
-  std::string City;   // what a choice hands back
+  std::string City;   // returned when the place is chosen
   std::string State;
   std::string Latitude;   // degrees.minutes, "28.40"
   std::string Latsign;    // "N" or "S"
@@ -25,34 +25,34 @@ struct PlaceRecord {
   std::string Longsign;   // "E" or "W"
 };
 
-// Getters read the country loaded last. No operation fails: what cannot be read or written ends
-// it, with what was done so far. LoadCities yields after each record, EditPlace and DeletePlace
-// after each line they read; a load called meanwhile ends them, so that of two loads the later
-// one holds.
+// Getters read the country loaded last. Operations do not report errors: one that cannot read or
+// write stops and keeps what it has done so far. LoadCities yields after each record, EditPlace and
+// DeletePlace after each line they read. A load called meanwhile ends them, so the later of two
+// loads wins.
 class clsAtlas {
  public:
-  // The yielder outlives the atlas.
+  // The yielder must outlive the atlas.
   explicit clsAtlas(foundation::Yielder& yielder) : yielder_(yielder) {}
 
-  // Fills the list with the names of all countries that have a file, sorted, case aside.
+  // Fills the list with all countries that have a file, sorted ignoring case.
   void LoadCountry(forms::ListControl& lstC) const;
 
-  // Reads a country's records. The list, if there is one, gets "Place, State, Country" of each
-  // with its number from 0 beside it; a list of 31,800 entries is emptied before the next.
+  // Reads a country's records. The list, unless null, gets "Place, State, Country" for each, with
+  // the record's number from 0 as item data; at 31,800 entries it is cleared before the next.
   void LoadCities(std::string_view CountrySelected, forms::ListControl* lstC);
 
-  // Writes the new record over every line that holds the old one, in all fields and their case. A
-  // line whose scrambled bytes hold a comma, which no printable ASCII makes, comes apart there, in
-  // DeletePlace too.
+  // Replaces every line that holds the old record; all fields must match, including case. A line
+  // whose scrambled bytes contain a comma (printable ASCII never does) is split there; DeletePlace
+  // does so too.
   void EditPlace(std::string_view Country, const PlaceRecord& old, const PlaceRecord& changed);
-  // Writes a copy of the line before over every line that holds the record. The file keeps its
-  // number of lines; a record that stood first leaves an empty line, which ends a load.
+  // Replaces every line that holds the record with a copy of the line before it, so the file keeps
+  // its number of lines. A deleted first record leaves an empty line, which ends a load.
   void DeletePlace(std::string_view Country, const PlaceRecord& record);
   // Appends the record; makes the file of a country that has none, and leaves it empty if the
   // record cannot be written.
   void AddPlace(std::string_view Country, const PlaceRecord& record);
 
-  // Fields of record Index, from 1; an empty text where there is none.
+  // Fields of record Index, counted from 1; empty if there is none.
   std::string getPlace(std::int16_t Index) const { return Entry(0, Index); }
   std::string getCity(std::int16_t Index) const { return Entry(1, Index); }
   std::string getState(std::int16_t Index) const { return Entry(2, Index); }
@@ -76,7 +76,7 @@ class clsAtlas {
 
   foundation::Yielder& yielder_;
   std::array<std::vector<std::string>, 7> colAtlas_;
-  unsigned closings_ = 0;  // how often all open files were closed at once
+  unsigned closings_ = 0;  // how often all open files have been closed
 };
 
 }  // namespace atlas

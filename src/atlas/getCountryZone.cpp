@@ -9,12 +9,12 @@ namespace {
 
 struct CountryZone {
   std::string_view country;
-  std::string_view zone;  // hours.minutes, handed on as it stands
+  std::string_view zone;  // hours.minutes, returned verbatim
 };
 
-// The first row of a name holds. Names are spelled, and cut to 18 characters, as the country field
-// of the city files has them. Up to ZIMBABWE a minus stands east of Greenwich; the rows after it
-// do not keep to that, and five of them are never reached: their names stand above already.
+// The first row of a name counts. Names are spelled, and cut to 18 characters, as in the country
+// field of the city files. Up to ZIMBABWE a minus usually means east of Greenwich; later rows mix
+// the signs. Five of those are never reached because their names appear earlier.
 constexpr CountryZone kZones[] = {
     {"AFGHANISTAN", "-4.30"},
     {"ALBANIA", "-1"},

@@ -1,4 +1,4 @@
-// The zone of a country, from one fixed table.
+// The zone of a country, from a fixed table.
 #pragma once
 
 #include <string>
@@ -6,9 +6,8 @@
 
 namespace atlas {
 
-// A zone offset such as "-5.30" (hours.minutes) for a country's name, case aside; India's for an
-// empty name, and an empty text for a name that the table lacks. One zone a country, without
-// daylight saving.
+// The zone offset of a country, such as "-5.30" (hours.minutes), ignoring case; India's for an
+// empty name, empty text for an unknown one. One zone per country, without daylight saving.
 std::string getCountryZone(std::string_view country);
 
 }  // namespace atlas

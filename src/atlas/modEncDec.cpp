@@ -12,7 +12,7 @@ namespace {
 
 using foundation::ByteText;
 
-// The first byte meets the key's second character, and so on round the key.
+// The key runs cyclically, starting at its second character.
 ByteText Shifted(const ByteText& text, std::string_view key, int direction) {
   if (key.empty()) return text;
   const std::string upperKey = foundation::UpperAscii(key);
