@@ -20,7 +20,7 @@ constexpr std::uint32_t kInfoSize = 40;
 constexpr std::uint32_t kHeaderSize = 14 + kInfoSize;
 constexpr double kMetresPerInch = 0.0254;
 
-// Little-endian numbers, appended.
+// Appends a little-endian number.
 void Put(std::string& bytes, std::uint32_t number, int size) {
   for (int i = 0; i < size; ++i) bytes += static_cast<char>(number >> 8 * i & 0xFF);
 }
@@ -43,17 +43,17 @@ std::string HeaderOf(const Pixels& pixels, std::uint32_t pixelsPerMetre) {
   Put(header, static_cast<std::uint32_t>(pixels.Width()), 4);
   Put(header, static_cast<std::uint32_t>(pixels.Height()), 4);
   Put(header, 1, 2);   // plane
-  Put(header, 24, 2);  // bits a pixel
+  Put(header, 24, 2);  // bits per pixel
   Put(header, 0, 4);   // not compressed
   Put(header, imageSize, 4);
   Put(header, pixelsPerMetre, 4);
   Put(header, pixelsPerMetre, 4);
-  Put(header, 0, 4);  // no table of colours
+  Put(header, 0, 4);  // no colour table
   Put(header, 0, 4);
   return header;
 }
 
-// What a file says of its rows.
+// The layout of the rows, as the header describes it.
 struct Layout {
   std::size_t start = 0;
   std::size_t bytesPerPixel = 0;

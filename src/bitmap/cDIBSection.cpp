@@ -13,7 +13,7 @@
 namespace bitmap {
 namespace {
 
-// The size of an image beyond 2 GiB is cut to its lowest bits.
+// An image size beyond 2 GiB is truncated to 32 bits.
 BITMAPINFOHEADER HeaderOf(std::int32_t width, std::int32_t height) {
   const auto imageSize =
       static_cast<std::uint64_t>(Pixels::StrideOf(width)) * static_cast<std::uint64_t>(height);

@@ -1,4 +1,4 @@
-// cDIBSection: one 24-bit bitmap whose pixels are at hand.
+// cDIBSection: a 24-bit bitmap with direct access to its pixels.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +10,7 @@
 
 namespace bitmap {
 
-// What a bitmap says of itself.
+// The bitmap's own description.
 struct BITMAPINFOHEADER {
   std::int32_t headerSize = 0;  // 40
   std::int32_t width = 0;       // pixels
@@ -23,31 +23,31 @@ struct BITMAPINFOHEADER {
 
 inline constexpr std::int32_t SRCCOPY = 13369376;
 
-// Empty, or holding one bitmap. Places are those of the picture as it is seen, from its top left;
-// a negative size stands for the size of this object. What lies outside a picture is left out.
+// Empty, or holding one bitmap. Coordinates count from the top left of the picture as seen; a
+// negative size means the size of this object. Parts outside a picture are clipped.
 class cDIBSection {
  public:
-  // Makes a black bitmap in place of a former one. False, and empty, where it cannot be had.
+  // Replaces any bitmap with a black one. Returns false, and stays empty, if it cannot be created.
   bool Create(std::int32_t lWidth, std::int32_t lHeight);
-  // Takes a picture's size and its dots: those it consists of, or those that the screen would show.
-  // False, and empty, where there are none.
+  // Takes the size and pixels of a picture, rendering it as on the screen if it does not consist of
+  // pixels. Returns false, and stays empty, if there are none.
   bool CreateFromPicture(const forms::Picture& picThis, const forms::Rasteriser& rasteriser);
   void ClearUp() { pixels_ = {}; }
 
-  // The pixels, for reading and writing alike; null when empty.
+  // The pixels, for reading and writing; null if empty.
   Pixels* hdc() { return pixels_.Empty() ? nullptr : &pixels_; }
   const Pixels* hDib() const { return pixels_.Empty() ? nullptr : &pixels_; }
   std::uint8_t* DIBSectionBitsPtr() { return pixels_.Bytes().data(); }
   const std::uint8_t* DIBSectionBitsPtr() const { return pixels_.Bytes().data(); }
 
-  // Of the bitmap that was asked for last, also where it could not be had, and after ClearUp.
+  // Describes the bitmap requested last, even if it could not be created, and after ClearUp.
   const BITMAPINFOHEADER& Header() const { return header_; }
   std::int32_t Width() const { return header_.width; }
   std::int32_t Height() const { return header_.height; }
   std::int32_t BytesPerScanLine() const;
 
-  // Copies from a picture to the top left of this one, and from this one to a picture.
-  // InvalidCall for a way of combining pixels other than SRCCOPY.
+  // Copy from a picture to the top left of this one, and from this one to a picture. InvalidCall
+  // for any raster operation other than SRCCOPY.
   void LoadPictureBlt(const Pixels& lhDC, std::int32_t lSrcLeft = 0, std::int32_t lSrcTop = 0,
                       std::int32_t lSrcWidth = -1, std::int32_t lSrcHeight = -1,
                       std::int32_t eRop = SRCCOPY);
@@ -56,15 +56,16 @@ class cDIBSection {
                     std::int32_t lSrcLeft = 0, std::int32_t lSrcTop = 0,
                     std::int32_t eRop = SRCCOPY) const;
 
-  // Whether the clipboard took it. With bAsDIB it is not tried, and the user is told so.
+  // Returns whether the clipboard took the bitmap. With bAsDIB it only shows a message.
   bool CopyToClipboard(bool bAsDIB, forms::Clipboard& clipboard,
                        foundation::MessageBoxes& boxes) const;
 
-  // Fills the pixels by chance: with green and red, column by column; or with greys, row by row.
+  // Fills the pixels with random greens and reds, column by column, or with random greys, row by
+  // row.
   void RandomiseBits(bool bGray, foundation::RandomNumbers& random);
 
-  // A new bitmap of that size, height first; nothing where it cannot be had. The same size is a
-  // plain copy; for another one, Subscript where this is one pixel wide or high.
+  // A new bitmap of the given size, height first; null if it cannot be created. The same size gives
+  // a plain copy; for any other, Subscript if this bitmap is one pixel wide or high.
   std::unique_ptr<cDIBSection> Resample(std::int32_t lNewHeight, std::int32_t lNewWidth) const;
 
  private:

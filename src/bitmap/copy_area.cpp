@@ -5,7 +5,7 @@
 namespace bitmap {
 namespace {
 
-// The part of a length that lies inside both pictures: steps from `first` up to `end`.
+// The part of a length that lies inside both pictures, from `first` up to but excluding `end`.
 struct Part {
   std::int64_t first, end;
 };

@@ -1,7 +1,7 @@
 #include "bitmap/libjpeg_library.h"
 
 #include <cstdio>
-// Needs FILE.
+// Needs FILE from <cstdio>.
 #include <jpeglib.h>
 
 #include <csetjmp>
@@ -9,7 +9,7 @@
 
 namespace bitmap {
 
-// The codec reports a failure by a jump to `failed`; nothing with a destructor may live between.
+// The codec reports errors by jumping to `failed`; nothing with a destructor may live in between.
 struct LibjpegLibrary::Compressor {
   Compressor() {
     codec.err = jpeg_std_error(&errors);
@@ -85,7 +85,7 @@ int LibjpegLibrary::ijlWrite(const JpegProperties& record, JpegMode mode) {
   if (file == nullptr) return kNoFile;
   const bool written = compressor_->Write(record, file);
   if (std::fclose(file) == 0 && written) return 0;
-  std::remove(record.JPGFile);  // what there is of it
+  std::remove(record.JPGFile);  // a partial file
   return kFailed;
 }
 

@@ -1,4 +1,4 @@
-// The JPEG library of the distribution: baseline files, colour at half the resolution each way.
+// The system's JPEG library: baseline files with colour at half the resolution both ways.
 #pragma once
 
 #include <memory>
@@ -9,9 +9,9 @@ namespace bitmap {
 
 class LibjpegLibrary : public JpegLibrary {
  public:
-  static constexpr int kUnfit = -1;   // a record that is no picture, or one not begun
+  static constexpr int kUnfit = -1;   // not a picture, or not initialised
   static constexpr int kNoFile = -2;  // the file cannot be opened
-  static constexpr int kFailed = -3;  // the compressor gives up, or the disk is full
+  static constexpr int kFailed = -3;  // the compressor gave up, or the disk is full
 
   LibjpegLibrary();
   ~LibjpegLibrary() override;

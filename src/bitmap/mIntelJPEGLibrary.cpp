@@ -26,7 +26,7 @@ void Delete(const std::filesystem::path& file) {
   if (unlink(file.c_str()) != 0) throw Error(ErrorKind::FileAccess);
 }
 
-void PutBackTimesAndMode(const std::filesystem::path& file, const FindData& former) {
+void RestoreTimesAndMode(const std::filesystem::path& file, const FindData& former) {
   const int handle = open(file.c_str(), O_WRONLY | O_CLOEXEC);
   if (handle < 0) return;
   const timespec times[] = {former.st_atim, former.st_mtim};
@@ -71,7 +71,7 @@ bool SaveJPG(const cDIBSection& cDib, const std::filesystem::path& sFile, std::i
     boxes.Show(std::string(kProgramName) + "Failed to save to JPG " + std::to_string(result),
                foundation::MessageIcon::Exclamation);
   } else if (former) {
-    PutBackTimesAndMode(sFile, *former);
+    RestoreTimesAndMode(sFile, *former);
   }
   library.ijlFree(record);
   return result == 0;

@@ -14,7 +14,7 @@ namespace bitmap {
 
 inline constexpr auto kNoJpegLibrary = foundation::ErrorKind{26001};
 
-// A JPEG library that does not start: error 26001.
+// The JPEG library could not be initialised: error 26001.
 class JpegLibraryError : public foundation::Error {
  public:
   explicit JpegLibraryError(int result);
@@ -26,11 +26,10 @@ class JpegLibraryError : public foundation::Error {
   std::string text_;
 };
 
-// True when the file is written; false when the library cannot, and the user is told. A former file
-// goes before the new one is written; the new one gets its times of access and change and its mode,
-// but not that of its creation, which no program can set here.
-// InvalidCall for a quality outside 1 to 100, before anything is touched; JpegLibraryError;
-// FileAccess where the former file cannot be deleted.
+// Returns true if the file was written; false, after a message, if the library failed. An existing
+// file is deleted first; the new one gets its access and modification times and its mode, but not
+// its creation time, which cannot be set here. InvalidCall for a quality outside 1 to 100, before
+// anything is touched; JpegLibraryError; FileAccess if the existing file cannot be deleted.
 bool SaveJPG(const cDIBSection& cDib, const std::filesystem::path& sFile, std::int32_t lQuality,
              JpegLibrary& library, foundation::MessageBoxes& boxes);
 

@@ -11,12 +11,12 @@
 
 namespace bitmap {
 
-// Rows stand one after another, each padded to a multiple of 4 bytes. The default is no picture.
+// Rows follow each other, each padded to a multiple of 4 bytes. The default is an empty picture.
 class Pixels {
  public:
   Pixels() = default;
 
-  // A black picture. InvalidCall unless both are 1 or more, Overflow from 2 GiB up.
+  // A black picture. InvalidCall unless both are 1 or more, Overflow from 2 GiB.
   Pixels(std::int32_t width, std::int32_t height) : width_(width), height_(height) {
     if (width < 1 || height < 1) throw foundation::Error(foundation::ErrorKind::InvalidCall);
     const std::int64_t stride = StrideOf(width);
@@ -33,11 +33,11 @@ class Pixels {
   std::int32_t Stride() const { return stride_; }
   bool Empty() const { return bytes_.empty(); }
 
-  // All rows, padding included.
+  // All rows, including padding.
   std::span<std::uint8_t> Bytes() { return bytes_; }
   std::span<const std::uint8_t> Bytes() const { return bytes_; }
 
-  // Row 0 is the bottom one; padding included. Subscript outside.
+  // Row 0 is at the bottom; includes padding. Subscript outside.
   std::span<std::uint8_t> Row(std::int32_t row) { return RowOf(Bytes(), row); }
   std::span<const std::uint8_t> Row(std::int32_t row) const { return RowOf(Bytes(), row); }
 

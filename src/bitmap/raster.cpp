@@ -3,7 +3,7 @@
 namespace bitmap {
 namespace {
 
-// From one order of the three colours to the other.
+// Swaps between the two byte orders of a pixel.
 void Exchange(std::span<const std::uint8_t> from, std::span<std::uint8_t> to) {
   for (std::size_t i = 0; i < from.size(); i += 3) {
     to[i] = from[i + 2];

@@ -1,4 +1,4 @@
-// Between pixels and the dots of a picture.
+// Conversion between Pixels and forms::Raster.
 #pragma once
 
 #include "bitmap/pixels.h"
@@ -6,8 +6,8 @@
 
 namespace bitmap {
 
-// Each takes the picture as it is seen. InvalidCall for no dots, or for fewer of them than width
-// and height say; the other errors of Pixels.
+// Both keep the picture as seen. InvalidCall for an empty raster, or one with fewer pixels than
+// width and height imply; other errors of Pixels.
 Pixels ToPixels(const forms::Raster& dots);
 forms::Raster ToRaster(const Pixels& pixels);
 

@@ -6,7 +6,7 @@
 namespace bitmap {
 namespace {
 
-// A target row or column between two source ones: the first of them and the share of the second.
+// A target row or column between two source ones: the first of them and the weight of the second.
 struct Place {
   std::int32_t first = 0;
   float share = 0;
@@ -22,13 +22,13 @@ float ScaleOf(std::int32_t sourceSize, std::int32_t targetSize) {
   return static_cast<float>(foundation::Divide(sourceSize - 1.0, targetSize));
 }
 
-// A mean of two bytes is a byte, so nothing is left to clamp.
+// The mean of two bytes fits a byte, so no clamping is needed.
 float Mean(float share, float first, float second) {
   return (1 - share) * first + share * second;
 }
 
-// To a whole number, ties to even: above this number a float has no room for a fraction. Stands in
-// for RoundToInt16, which would take longer than all the rest.
+// Rounds to a whole number, ties to even: above this constant a float has no fraction bits. Used
+// instead of RoundToInt16, which would dominate the run time.
 float Whole(float mean) {
   constexpr float kNoFraction = 0x1p23F;
   return mean + kNoFraction - kNoFraction;
