@@ -24,14 +24,14 @@ class Argument {
   Argument(std::initializer_list<double> list) : value_(std::vector<double>(list)) {}
   Argument(std::vector<double> list) : value_(std::move(list)) {}
 
-  // Null where the argument is of another kind.
+  // Null if the argument is of another kind.
   const double* Number() const { return std::get_if<double>(&value_); }
   const std::string* Text() const { return std::get_if<std::string>(&value_); }
   const std::vector<double>* List() const { return std::get_if<std::vector<double>>(&value_); }
 
   bool IsEmptyText() const { return Text() != nullptr && Text()->empty(); }
 
-  // As a message shows it; a list shows as nothing.
+  // As shown in a message; a list is shown as empty text.
   std::string Shown() const {
     if (Number() != nullptr) return foundation::NumberText(*Number());
     return Text() == nullptr ? std::string() : *Text();

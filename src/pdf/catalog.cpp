@@ -1,4 +1,4 @@
-// The object with which a reader begins: how the document opens.
+// The catalog: where a reader starts, and how the document opens.
 
 #include "pdf/PDFPrinter.h"
 #include "pdf/tokens.h"
@@ -11,7 +11,7 @@ struct Preference {
   std::string_view name;
 };
 
-// In the order in which they are written.
+// In writing order.
 constexpr Preference kPreferences[] = {{'2', "HideMenubar"},  {'1', "HideToolbar"},
                                        {'3', "HideWindowUI"}, {'6', "DisplayDocTitle"},
                                        {'5', "CenterWindow"}, {'4', "FitWindow"}};
@@ -36,7 +36,7 @@ void PDFPrinter::PDFPutCatalog() {
   file_.Add({"<<"});
   file_.Add({"/Type /Catalog"});
   file_.Add({"/Pages ", std::to_string(objects_.pages), " 0 R"});
-  // Object 3 is the length of the first page's content, and stays named here.
+  // Object 3 is the length of the first page's content, not the page, but must stay here.
   file_.Add({"/OpenAction [3 0 R /", View(settings_.zoomMode.value_or(0)), "]"});
   AddLayoutMode();
   if (settings_.useThumbs) file_.Add({"/PageMode /UseThumbs"});

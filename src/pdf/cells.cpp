@@ -14,14 +14,14 @@ namespace {
 using foundation::ByteText;
 using foundation::RoundToInt32;
 
-// What PDFCell measures at; its limit is made for it.
+// PDFCell measures at this size and scales its limit to match.
 constexpr double kMeasuringSize = 10;
 
 bool Holds(std::string_view letters, char letter) {
   return letters.find(letter) != std::string_view::npos;
 }
 
-// A line end after the text loses its second half, in a text of three characters alone.
+// Drops the second half of a trailing line end, but only from a text of three characters.
 std::string WithoutTrailingHalf(std::string text) {
   if (text.size() == 3 && text.ends_with("\r\n")) text.pop_back();
   return text;
@@ -100,7 +100,7 @@ void PDFPrinter::CellLine(const ByteText& plainText, double x, double y, double 
   y_ = y + h;
 }
 
-// The box of a whole border or a filling, and the single borders.
+// The box for a full border or a fill, followed by single borders.
 std::string PDFPrinter::CellFrame(double x, double y, double w, double h) {
   const bool whole = cell_.border == "1";
   std::string frame;
@@ -125,7 +125,7 @@ std::string PDFPrinter::CellBorders(double x, double y, double w, double h) cons
   return borders;
 }
 
-// Points from the left edge to the text. A justified text has none, and gets its word spacing.
+// Points from the left edge to the text. Justified text has no offset; this sets its word spacing.
 double PDFPrinter::CellOffset(const ByteText& text, double w) {
   const double inner = w * page_.scale;
   const auto width = [&] { return StringWidth(text, font_.size); };

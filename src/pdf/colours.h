@@ -1,4 +1,4 @@
-// Colours as the operators that set them.
+// Colours and the operators that set them.
 #pragma once
 
 #include <cstdint>
@@ -13,17 +13,17 @@ struct Rgb {
   double red = 0, green = 0, blue = 0;
 };
 
-// Of the number blue * 65536 + green * 256 + red.
+// From blue * 65536 + green * 256 + red.
 Rgb PDFColorFromLong(std::int32_t number);
 
-// Of "#RRGGBB", black where the digits are none, fewer filled with 0 from the left; nothing for a
-// text that does not begin so.
+// From "#RRGGBB", padded with zeros from the left; black if the digits are invalid. Nothing for a
+// text without "#".
 std::optional<Rgb> PDFColorFromHtml(std::string_view text);
 
-// "1.000 0.000 0.000 rg"; the operator is "rg" for what is filled, "RG" for lines.
+// "1.000 0.000 0.000 rg"; the operator is "rg" for fills, "RG" for lines.
 std::string PDFColorString(const Rgb& colour, std::string_view colourOperator);
 
-// The operator that fills with a line's colour.
+// The fill operator for a line's colour.
 std::string FillOperatorOf(std::string_view lineOperator);
 
 }  // namespace pdf

@@ -1,4 +1,4 @@
-// From the first line of a document to its last.
+// Document and page boundaries.
 
 #include "foundation/numbers.h"
 #include "pdf/PDFPrinter.h"
@@ -6,7 +6,7 @@
 namespace pdf {
 namespace {
 
-// What closing one page's objects and opening the next leaves at the head of the new content.
+// What closing one page's objects and opening the next leaves at the start of the new content.
 constexpr std::string_view kPageTurn =
     "%FIN_OBJ/%\r\n%DEBUT_OBJ/%\r\n%FIN_OBJ/%\r\n%DEBUT_OBJ/%\r\n";
 

@@ -17,7 +17,7 @@ using foundation::ErrorKind;
 
 constexpr std::string_view kExtension = ".afm";
 
-// The names of the metric files, sorted with case taken away.
+// Names of the metric files, sorted ignoring case.
 std::vector<std::string> MetricFileNames(const fs::path& folder) {
   std::error_code failure;
   if (!fs::is_directory(folder, failure)) throw Error(ErrorKind::FileNotFound);
@@ -36,7 +36,7 @@ std::vector<std::string> MetricFileNames(const fs::path& folder) {
   return names;
 }
 
-// The file of that name, or else the one that differs from it in case alone.
+// The file of that name, or else one that differs only in case.
 fs::path FileOf(const fs::path& folder, const std::string& name) {
   std::error_code failure;
   if (fs::exists(folder / name, failure)) return folder / name;

@@ -1,4 +1,4 @@
-// The folder of metric files, each of which is a font of the document.
+// A folder of metric files; each defines a font of the document.
 #pragma once
 
 #include <cstdint>
@@ -14,23 +14,22 @@ namespace pdf {
 
 class FontFolder {
  public:
-  // The folder that widths are read from; the names stay.
+  // Sets the folder that widths are read from; keeps the names.
   void SetPath(std::filesystem::path folder);
 
-  // Names the fonts after the folder's files whose path holds ".afm", in the order of their names,
-  // case aside. Names that stood before are overwritten from the first one on; those beyond stay.
-  // Sets the path if there is any such file. FileNotFound without the folder, FileAccess where it
-  // cannot be listed.
+  // Names the fonts after the folder's files whose path contains ".afm", sorted by name ignoring
+  // case. Overwrites existing names from the first; any beyond stay. Sets the path if there is such
+  // a file. FileNotFound if the folder does not exist, FileAccess if it cannot be listed.
   void PDFLoadAfm(const std::filesystem::path& folder);
 
   const std::vector<std::string>& Names() const { return names_; }
 
-  // A font's number, from 1; 1 for the empty name, 0 for one that is not here.
+  // A font's number, from 1; 1 for the empty name, 0 for an unknown one.
   int NumberOf(std::string_view name) const;
 
-  // Widths of the font's characters, those of the first font for the empty name. FileNotFound
-  // without its file, Subscript without any font, and the errors of ReadWidths. Files are kept
-  // until LookAgain, and then looked at for a new size or time.
+  // Widths of the font's characters; the empty name means the first font. FileNotFound if its file
+  // is missing, Subscript if there are no fonts, errors of ReadWidths. Files are cached; LookAgain
+  // has each checked for a new size or time.
   const WidthTable& Widths(std::string_view name);
   void LookAgain();
 

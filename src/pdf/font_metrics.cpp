@@ -45,7 +45,7 @@ bool EndsMetrics(std::string_view line) {
   return Holds(line, "EndCharMetrics") || Holds(line, "-1 ;");
 }
 
-// Leaves `text` after the line that opens the section.
+// Leaves `text` after the line that starts the section.
 bool FindMetrics(std::string_view& text) {
   while (!text.empty()) {
     if (!Holds(foundation::TakeLine(text), "StartCharMetrics")) continue;

@@ -14,7 +14,7 @@ bool HasDigit(std::int32_t flags, char digit) {
   return std::to_string(flags).find(digit) != std::string::npos;
 }
 
-// The metric files of the faces are named so, Times' italic one without a hyphen.
+// The names of the metric files; Times italic has no hyphen.
 std::string FaceName(std::string_view family, bool italic, bool bold) {
   const bool isTimes = family == "Times";
   std::string_view style;

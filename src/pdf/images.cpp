@@ -12,7 +12,7 @@ using foundation::Divide;
 
 constexpr std::string_view kSubject = "Fichier Image";
 
-// What is wrong with a file's name; nothing if it can be one of a JPEG file.
+// What is wrong with a file name; empty if it can be a JPEG file.
 std::string NameFault(std::string_view name) {
   constexpr std::string_view kOutcome = "\r\nImpossible d'inclure l'image dans le fichier PDF.";
   if (name.find('.') == std::string_view::npos) {
@@ -25,7 +25,7 @@ std::string NameFault(std::string_view name) {
       .append(kOutcome);
 }
 
-// A file that is not there has no bytes.
+// A missing file reads as empty.
 std::string BytesOf(const std::string& path) {
   try {
     return foundation::ReadFile(path);
@@ -73,7 +73,7 @@ void PDFPrinter::PDFImage(std::string_view file, double x, double y, double w, d
   linked_.imageWidth = w;
   linked_.imageHeight = h;
   PDFAttachLink(link, LinkKind::Image, x, y);
-  // Both in points: a picture does not go by the unit.
+  // Deliberately in points, not user units.
   x_ = page_.Across(x + w);
   y_ = page_.Across(y + h);
 }

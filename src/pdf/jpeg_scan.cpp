@@ -10,7 +10,7 @@
 namespace pdf {
 namespace {
 
-constexpr std::size_t kSmallestFile = 250;
+constexpr std::size_t kMinFileSize = 250;
 constexpr int kStartOfImage = 0xFFD8, kEndOfImage = 0xFFD9;
 constexpr int kFillBytes = 0xFFFF;
 constexpr int kJfifHeader = 0xFFE0;
@@ -19,7 +19,7 @@ constexpr std::array<std::string_view, 3> kResolutionUnits = {"Dots", "Dots/inch
 
 constexpr std::string_view kNotIncluded = "\r\nImpossible d'inclure l'image dans le fichier PDF.";
 
-// Bytes by their position, the first being 1.
+// Bytes by position, counted from 1.
 class JpegBytes {
  public:
   explicit JpegBytes(std::string_view bytes) : bytes_(bytes) {}
@@ -90,7 +90,7 @@ std::string ScanMarkers(const JpegBytes& bytes, PDFImageRecord& record) {
 
 std::string PDFParseJpeg(std::string file, PDFImageRecord& record) {
   const JpegBytes bytes(file);
-  if (bytes.Size() < kSmallestFile) return Refusal("Fichier image non JPEG.");
+  if (bytes.Size() < kMinFileSize) return Refusal("Fichier image non JPEG.");
   if (bytes.PDFByteWord(1) != kStartOfImage || bytes.PDFByteWord(bytes.Size() - 1) != kEndOfImage) {
     return Refusal("Marqueur de début JPEG ou marqueur de fin JPEG non valide.");
   }

@@ -22,7 +22,7 @@ class LinkTable {
   static constexpr int kLinksOfPage = 1000;
 
   void Clear();
-  // The links that follow count from 1 again.
+  // Restarts the count of links for a new page.
   void BeginPage() { count_ = 0; }
   // Subscript for a page that is not 1 to 1000, or beyond the thousandth link of a page.
   void Add(int page, LinkRecord link);

@@ -1,4 +1,4 @@
-// Places of the page that lead to an address.
+// Areas of the page that link to an address.
 
 #include "foundation/numbers.h"
 #include "pdf/PDFPrinter.h"

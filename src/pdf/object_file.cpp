@@ -22,12 +22,12 @@ void ObjectFile::Open(const std::string& path, ReaderWindows& readers) {
   OpenStream(path);
 }
 
-// With room for some pages, so that the system is not asked for each.
+// Buffers several pages to save system calls.
 void ObjectFile::OpenStream(const std::string& path) {
-  constexpr std::size_t kRoom = 1 << 18;
+  constexpr std::size_t kBufferSize = 1 << 18;
   stream_ = std::ofstream();
-  streamRoom_.resize(kRoom);
-  stream_.rdbuf()->pubsetbuf(streamRoom_.data(), static_cast<std::streamsize>(kRoom));
+  streamBuffer_.resize(kBufferSize);
+  stream_.rdbuf()->pubsetbuf(streamBuffer_.data(), static_cast<std::streamsize>(kBufferSize));
   stream_.open(path, std::ios::binary | std::ios::trunc);
 }
 

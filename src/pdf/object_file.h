@@ -1,4 +1,4 @@
-// A document's file: numbered objects one after the other, and the table of where they stand.
+// A document's file: consecutive numbered objects and the table of their offsets.
 #pragma once
 
 #include <cstddef>
@@ -13,15 +13,15 @@
 
 namespace pdf {
 
-// An object is composed in a buffer and written whole; the write adds an empty line that the
-// offsets do not count, so that entry n of the table stands 2 * n bytes below the true position.
+// Composes an object in a buffer and writes it in one go. The write adds an empty line that the
+// offsets do not count, so entry n of the table is 2 * n bytes too low.
 class ObjectFile {
  public:
-  // Creates the file anew. When it cannot, every write fails.
+  // Creates or truncates the file. If that fails, so does every write.
   void Open(const std::string& path, ReaderWindows& readers);
-  void Close();  // FileAccess where the last bytes cannot be written
+  void Close();  // FileAccess if the last bytes cannot be written
 
-  // Back to no objects and no offsets.
+  // Discards all objects and offsets.
   void Restart();
 
   // Starts the next object in the buffer and returns its number.
@@ -30,12 +30,11 @@ class ObjectFile {
   void AddBytes(std::string_view bytes) { buffer_ += bytes; }
   void EndObject();
 
-  // Writes a text and a line end. ObjectNotSet without an open file, FileAccess where the write
-  // fails.
+  // Writes a text and a line end. ObjectNotSet without an open file, FileAccess if the write fails.
   void WriteLine(std::string_view text);
   // Overflow beyond 32766 offsets, or 32 bits.
   void PDFAddOffset(std::size_t length);
-  // The table and all after it up to the last offset.
+  // Writes the table and everything after it up to the last offset.
   void PDFPutXref(int catalog);
 
   int LastObject() const { return counter_; }
@@ -43,7 +42,7 @@ class ObjectFile {
  private:
   void OpenStream(const std::string& path);
 
-  std::vector<char> streamRoom_;
+  std::vector<char> streamBuffer_;
   std::ofstream stream_;
   std::string buffer_;
   std::int16_t counter_ = 0;

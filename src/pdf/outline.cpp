@@ -7,7 +7,7 @@
 namespace pdf {
 namespace {
 
-// The last bookmark seen at each level; one never seen reads as the first bookmark.
+// The last bookmark seen at each level; a level never seen reads as the first bookmark.
 class LastSeen {
  public:
   int At(int level) const {
@@ -31,7 +31,7 @@ class LastSeen {
 
 }  // namespace
 
-int TieBookmarks(std::vector<PDFBookmarkRecord>& bookmarks) {
+int LinkBookmarks(std::vector<PDFBookmarkRecord>& bookmarks) {
   const auto at = [&](int index) -> PDFBookmarkRecord& {
     return bookmarks[static_cast<std::size_t>(index)];
   };

@@ -1,4 +1,4 @@
-// The bookmarks of a document and how they hang together.
+// Bookmarks of a document and the links between them.
 #pragma once
 
 #include <cstdint>
@@ -15,13 +15,13 @@ struct PDFBookmarkRecord {
   double y = 0;  // user units
   int page = 0;
 
-  // Indices of other bookmarks; the parent of those at the top is one beyond the last.
+  // Indices of other bookmarks; top-level ones have a parent one past the last.
   int parent = 0;
   std::optional<int> previous, next, first, last;
 };
 
-// Fills in the indices from the levels and returns the last bookmark at level 1, 0 if there is
+// Fills in the indices from the levels. Returns the last bookmark at level 1, or 0 if there is
 // none. Subscript for a level below 0.
-int TieBookmarks(std::vector<PDFBookmarkRecord>& bookmarks);
+int LinkBookmarks(std::vector<PDFBookmarkRecord>& bookmarks);
 
 }  // namespace pdf

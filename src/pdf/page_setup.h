@@ -17,20 +17,19 @@ struct PageFormat {
   double height = 0;
 };
 
-// By their codes: A4, A3, A5, Letter, Legal.
+// By code: A4, A3, A5, Letter, Legal.
 inline constexpr PageFormat kPageFormats[] = {
     {595.28, 841.89}, {841.89, 1190.55}, {420.94, 595.28}, {612, 792}, {612, 1008}};
 
-// A user point has its origin at the top left of the page; points of the file have it at the
-// bottom left.
+// User coordinates start at the top left of the page, points in the file at the bottom left.
 struct PageSetup {
   double scale = kCentimetres;  // points per user unit
 
-  // Whole user units; the cell margin stands in the units of the values that cells add it to.
+  // Whole user units, except for the cell margin, which takes the unit of whatever it is added to.
   std::int16_t leftMargin = 1, topMargin = 1, rightMargin = 1, bottomMargin = 1;
   std::int16_t cellMargin = 3;
 
-  // A page each, the one being drawn or set up last.
+  // One per page; the last is the page being drawn or set up.
   std::vector<PageFormat> formats = {kPageFormats[0]};
 
   PageFormat& Format() { return formats.back(); }

@@ -1,4 +1,4 @@
-// A document as a drawing target: the members of a printer, as far as it has them.
+// A document as a drawing target, as far as it supports one.
 
 #include <cmath>
 
@@ -20,7 +20,7 @@ using foundation::RoundToInt16;
 constexpr int kBlue = 16711680, kRed = 255;
 constexpr std::int32_t kJpegQuality = 90;
 
-// A file of the temp folder, for as long as this lives.
+// A file in the temp folder that is deleted with this object.
 struct TemporaryFile {
   explicit TemporaryFile(std::string_view name) : path(foundation::TempFolder() / name) {
     std::error_code failure;
@@ -68,7 +68,7 @@ void PDFPrinter::PaintPicture(const forms::PicturePtr& Picture, double x, double
            Width1, Height1, "");
 }
 
-// A picture without dots reaches the library all the same, which refuses it: the user is told.
+// Passes even an empty picture to the library, whose refusal the user sees.
 void PDFPrinter::PictureToJpegFile(const forms::Picture& Picture, const fs::path& path) {
   bitmap::cDIBSection dib;
   dib.CreateFromPicture(Picture, means_->rasteriser);

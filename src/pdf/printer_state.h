@@ -1,4 +1,4 @@
-// What a document writer remembers between two operations.
+// State that a document writer keeps between operations.
 #pragma once
 
 #include <cstdint>
@@ -10,48 +10,48 @@
 
 namespace pdf {
 
-// The information strings, as they were given.
+// The information texts as passed.
 struct DocumentInfo {
   foundation::ByteText producer, author, creator, keywords, subject, title;
 };
 
-// How a reader opens the document, and what the user hears of it.
+// How a reader opens the document, and whether the user gets a message.
 struct DocumentSettings {
   std::optional<std::int32_t> zoomMode, layoutMode;
   bool useThumbs = false;
   bool useOutlines = false;
   std::optional<std::int32_t> viewerPreferences;
   bool confirm = false;
-  bool view = false;  // nothing reads it
+  bool view = false;  // unused
 };
 
-// What is known of the pages by the end of the document; page 1 first.
+// Page data known at the end of the document; page 1 comes first.
 struct PageTables {
   std::vector<int> contents;     // object numbers
-  std::vector<int> pageObjects;  // filled while page objects are written
+  std::vector<int> pageObjects;  // filled as page objects are written
   std::vector<double> widths, heights;
 };
 
-// Numbers of objects to which others refer.
+// Object numbers that other objects refer to.
 struct RootObjects {
   int pages = 0, resources = 0, outlines = 0, catalog = 0;
 };
 
 enum class DrawMode { Outline, Fill, Both };
 
-// Colours and the line style are whole operators.
+// Colours and the line style are complete operators.
 struct Pen {
   std::string textColour = "0 g";
   std::string lineColour = "0 G";
   std::string fillColour = "0 g";
-  std::string lineStyle;     // empty until it is set, and then an empty line of the content
+  std::string lineStyle;     // until set, writes an empty line
   double lineWidth = 0.567;  // user units
   DrawMode drawMode = DrawMode::Outline;
-  double rotation = 0;  // degrees, clockwise, for the next text alone
+  double rotation = 0;  // degrees, clockwise; applies to the next text only
 };
 
 struct FontChoice {
-  std::string name;  // empty until one is chosen: the first font
+  std::string name;  // empty means the first font
   std::int16_t size = 0;
   bool underline = false;
 };
@@ -67,7 +67,7 @@ struct CellStyle {
 
 enum class LinkKind { None, Cell, Image, Rectangle, Ellipse };
 
-// The object that the next link is laid over.
+// The object that the next link covers.
 struct LinkedObject {
   LinkKind kind = LinkKind::None;
   foundation::ByteText text;

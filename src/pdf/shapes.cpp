@@ -1,5 +1,5 @@
-// Lines, rectangles, ellipses and polygons. The order of the operators is what counts, also where
-// a width comes after the painting that it no longer affects.
+// Lines, rectangles, ellipses and polygons. Operators must keep their order, even where a width
+// follows the painting that it can no longer affect.
 
 #include <algorithm>
 #include <cmath>
@@ -16,7 +16,7 @@ using foundation::FloorToInt32;
 
 constexpr double kWhite = 16777215;
 
-// How far the control points of a quarter of an ellipse lie from its middle, along an axis.
+// Distance of a quarter ellipse's control points from its centre, along an axis.
 double Control(double axis) {
   return axis / 2 * 11 / 20;
 }
@@ -86,7 +86,7 @@ std::string PDFPrinter::PDFDashString(std::int32_t style) {
   }
 }
 
-// The message for a wrong code names another mode than the one that is then used.
+// The message for a wrong code names a different mode from the one used.
 void PDFPrinter::PDFSetDrawMode(std::int32_t mode) {
   constexpr DrawMode kModes[] = {DrawMode::Outline, DrawMode::Fill, DrawMode::Both};
   if (mode >= 0 && mode < std::int32_t{std::size(kModes)}) {

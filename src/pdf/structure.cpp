@@ -1,4 +1,4 @@
-// The objects round the pages' contents.
+// The objects around the pages' contents.
 
 #include "foundation/error.h"
 #include "foundation/zzVorin.h"
@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view kVersion = "1.3";
 
-// Element `number`, counted from 1.
+// Element `number`, counted from 1; Subscript outside.
 template <typename List>
 auto& Nth(List& list, int number) {
   if (number < 1 || static_cast<std::size_t>(number) > list.size()) {
@@ -182,7 +182,7 @@ void PDFPrinter::PDFPutPage(int page) {
 
 void PDFPrinter::PDFPutOutlines() {
   if (bookmarks_.size() < 2) return;
-  const int lastOfLevel1 = TieBookmarks(bookmarks_);
+  const int lastOfLevel1 = LinkBookmarks(bookmarks_);
   const int first = file_.LastObject() + 1;
   for (const PDFBookmarkRecord& bookmark : bookmarks_) PDFPutBookmark(bookmark, first);
   objects_.outlines = file_.BeginObject();

@@ -1,4 +1,4 @@
-// Texts placed on the page.
+// Text on the page.
 
 #include <algorithm>
 #include <cmath>
@@ -16,7 +16,7 @@ void PDFPrinter::AddLine(std::initializer_list<std::string_view> parts) {
   PDFAddLine(content_, parts);
 }
 
-// User coordinates as two numbers of the file.
+// User coordinates as two numbers in points.
 std::string PDFPrinter::Point(double x, double y) const {
   return JoinedNumbers({page_.Across(x), page_.Up(y)});
 }
@@ -55,8 +55,8 @@ void PDFPrinter::TextOut(const ByteText& text, double x, double y) {
   y_ = y + font_.size;
 }
 
-// A filled rectangle below a text at a point of the page, in points; y from the top of the page,
-// for a cell from the bottom.
+// A filled rectangle under a text whose position is in points, with y from the top of the page, or
+// from the bottom for a cell.
 std::string PDFPrinter::PDFUnderlineOp(bool forCell, const ByteText& text, double x, double y) {
   const std::int32_t up = RoundToInt32(StringWidth(ByteText("up"), font_.size));
   const double blank = StringWidth(ByteText(" "), font_.size);
@@ -88,8 +88,8 @@ void PDFPrinter::PDFFiligran(std::string_view watermark) {
   watermark_ = {true, Encoded(watermark)};
 }
 
-// The place comes from the sine and cosine of 45 radians and from points taken as user units: it
-// is right only as it stands.
+// The position deliberately uses the sine and cosine of 45 radians, and points as if they were user
+// units.
 void PDFPrinter::PDFDrawWatermark() {
   if (!watermark_.isOn) return;
   PDFSetFont(2, 50, 0);

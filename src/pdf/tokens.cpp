@@ -16,8 +16,8 @@ namespace {
 
 constexpr std::array<int, 6> kPowersOfTen = {1, 10, 100, 1000, 10000, 100000};
 
-// Appends ordinary numbers, of which a page has hundreds; not one that is large, or so near the
-// middle between two texts that only its exact value decides.
+// Fast path for ordinary numbers, of which a page has hundreds. Refuses large ones and those so
+// close to a rounding tie that only the exact value decides.
 bool AppendQuickly(std::string& buffer, double value, int decimals) {
   if (decimals < 1 || decimals >= int{kPowersOfTen.size()}) return false;
   const double scaled = std::abs(value) * kPowersOfTen[static_cast<std::size_t>(decimals)];
@@ -43,7 +43,7 @@ bool AppendQuickly(std::string& buffer, double value, int decimals) {
 }
 
 void AppendNumber(std::string& buffer, double value, int decimals) {
-  if (value == 0) value = 0;  // no sign
+  if (value == 0) value = 0;  // drop the sign of -0
   if (!AppendQuickly(buffer, value, decimals)) buffer += foundation::FixedText(value, decimals);
 }
 
@@ -79,7 +79,7 @@ std::string PDFPadOffset(std::string_view offset) {
 
 ByteText Encoded(std::string_view utf8) {
   const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
-  // ASCII, which most texts are, stands for itself.
+  // ASCII, the usual case, encodes to itself.
   if (std::all_of(utf8.begin(), utf8.end(), isAscii)) return ByteText(std::string(utf8));
   return foundation::ToBytes(utf8);
 }

@@ -1,4 +1,4 @@
-// The lines of a text that is broken at its blanks.
+// Breaks a text into lines at its blanks.
 #pragma once
 
 #include <cstdint>
@@ -15,12 +15,12 @@ struct WrappedLine {
 
 class Wrapping {
  public:
-  // `widthOf` measures a character; a line is full when the sum, rounded at each character, is
-  // beyond the limit. Line ends in the text count as characters.
+  // `widthOf` measures a character. A line is full when the sum, rounded at each character, exceeds
+  // the limit. Line ends in the text count as characters.
   Wrapping(std::string bytes, double limit, std::function<double(char)> widthOf);
 
-  // The next full line, without the blank that ends it: a line without a blank ends before the
-  // character that is too much, but holds one at least. Nothing when the rest fits.
+  // The next full line, without the blank that ends it. A line without a blank ends before the
+  // first character that does not fit, but holds at least one. Nothing if the rest fits.
   std::optional<WrappedLine> Next();
   std::string Rest() const { return bytes_.substr(start_); }
 
