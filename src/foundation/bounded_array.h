@@ -1,4 +1,4 @@
-// An array with fixed bounds whose index is checked before an element is touched.
+// An array with fixed bounds and checked indices.
 #pragma once
 
 #include <array>

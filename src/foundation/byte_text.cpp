@@ -10,8 +10,8 @@ namespace {
 
 constexpr unsigned kTableStart = 0x80;
 
-// Characters of the bytes 0x80 to 0x9F; all others have the number of their byte. After the
-// mapping table of the Unicode Consortium for code page 1252.
+// Characters of the bytes 0x80 to 0x9F, from the Unicode Consortium's mapping table for code page
+// 1252; any other byte is the character of the same number.
 constexpr std::array<std::string_view, 32> kCharacters = {
     "€", "\u0081", "‚",      "ƒ", "„",      "…",      "†", "‡",      "ˆ", "‰", "Š",
     "‹", "Œ",      "\u008D", "Ž", "\u008F", "\u0090", "‘", "’",      "“", "”", "•",

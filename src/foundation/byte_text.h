@@ -1,5 +1,5 @@
-// Text of files that hold one byte a character: city files, legacy Hindi heads, documents. A type
-// of its own, so that it never mixes unseen with the UTF-8 of the program.
+// Text with one byte per character: city files, legacy Hindi heads, PDF documents. A separate type,
+// so that it is never mistaken for the program's UTF-8.
 #pragma once
 
 #include <string>
@@ -20,9 +20,9 @@ class ByteText {
   std::string bytes_;
 };
 
-// Between UTF-8 and the bytes of Windows code page 1252; its five bytes without a character stand
-// for the control characters of the same number, so that every byte text comes back whole. A
-// character that the code page lacks becomes "?".
+// Convert between UTF-8 and Windows code page 1252. Its five undefined bytes map to the control
+// characters of the same number, so every byte text survives the round trip. Characters outside the
+// code page become "?".
 ByteText ToBytes(std::string_view utf8);
 std::string FromBytes(const ByteText& text);
 

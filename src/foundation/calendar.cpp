@@ -26,7 +26,7 @@ sys_days InRange(sys_days day) {
   return day;
 }
 
-// The nearest second, as whole days and the rest.
+// A moment rounded to the nearest second, split into day and second of the day.
 struct DaySeconds {
   sys_days day;
   int second;

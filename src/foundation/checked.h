@@ -1,4 +1,4 @@
-// Arithmetic whose floating-point traps are errors: no infinity and no NaN travels on.
+// Checked floating-point arithmetic: infinity and NaN raise errors instead of spreading.
 #pragma once
 
 #include <cfloat>
@@ -17,7 +17,7 @@ namespace foundation {
 static_assert(std::numeric_limits<double>::is_iec559 && FLT_EVAL_METHOD == 0,
               "a step of 64-bit arithmetic must round once, to 64 bits");
 
-// x itself. Overflow where it is infinite, InvalidCall where it is not a number.
+// Returns x. Overflow if it is infinite, InvalidCall if it is not a number.
 inline double Finite(double x) {
   if (std::isnan(x)) throw Error(ErrorKind::InvalidCall);
   if (std::isinf(x)) throw Error(ErrorKind::Overflow);
@@ -35,7 +35,7 @@ inline double SquareRoot(double x) {
   return std::sqrt(Finite(x));
 }
 
-// Integer division and remainder, truncating toward zero.
+// Integer division, truncating toward zero.
 inline std::int64_t IntegerDivide(std::int64_t dividend, std::int64_t divisor) {
   if (divisor == 0) throw Error(ErrorKind::DivisionByZero);
   if (divisor == -1) {

@@ -1,4 +1,4 @@
-// Files read whole.
+// Reading files and lines.
 #pragma once
 
 #include <filesystem>
@@ -7,10 +7,10 @@
 
 namespace foundation {
 
-// The bytes of a file. FileNotFound where there is none, FileAccess where it cannot be read.
+// The contents of a file. FileNotFound if it does not exist, FileAccess if it cannot be read.
 std::string ReadFile(const std::filesystem::path& file);
 
-// Takes the next line off the front of a text, without its end: CR LF, CR or LF.
+// Removes the first line from a text and returns it without its line end (CR LF, CR or LF).
 std::string_view TakeLine(std::string_view& text);
 
 }  // namespace foundation

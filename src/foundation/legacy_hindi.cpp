@@ -7,9 +7,9 @@
 namespace foundation {
 namespace {
 
-using Row = std::pair<std::string_view, std::string_view>;  // of the encoding, in Unicode
+using Row = std::pair<std::string_view, std::string_view>;  // legacy code, Unicode
 
-// Two characters that are one letter; looked for first.
+// Pairs that form one letter; matched first.
 constexpr Row kPairs[] = {{"Hk", "भ"}, {"'k", "श"}, {"\"k", "ष"}, {"/k", "ध"}, {"?k", "घ"},
                           {"Fk", "थ"}, {"bZ", "ई"}, {"vk", "आ"},  {"ks", "ो"}, {"kS", "ौ"}};
 
@@ -18,7 +18,7 @@ constexpr Row kFullLetters[] = {
     {"o", "व"}, {"p", "च"}, {"r", "त"}, {"t", "ज"}, {"u", "न"}, {"x", "ग"}, {"y", "ल"}, {";", "य"},
     {"Q", "फ"}, {"V", "ट"}, {"v", "अ"}, {"b", "इ"}, {"#", "रु"}, {"Ø", "क्र"}};
 
-// A letter and its virama: the first of a cluster.
+// Consonants with virama, which open a cluster.
 constexpr Row kHalfLetters[] = {{"D", "क्"},  {"X", "ग्"}, {"?", "घ्"}, {"P", "च्"}, {"R", "त्"},
                                 {"F", "थ्"},  {"/", "ध्"}, {"U", "न्"}, {"I", "प्"}, {"C", "ब्"},
                                 {"H", "भ्"},  {"E", "म्"}, {"Y", "ल्"}, {"O", "व्"}, {"'", "श्"},
@@ -62,7 +62,7 @@ class Transcoder {
       PutReph();
     } else if (code == kShortI) {
       EndCluster();
-      shortI_ = true;  // written before its cluster, spoken after it
+      shortI_ = true;  // written before its cluster, pronounced after it
     } else if (code == kSubjoinedR) {
       unicode_ += kSubjoinedRText;
     } else if (const std::string_view half = Find(kHalfLetters, code); !half.empty()) {
@@ -81,7 +81,7 @@ class Transcoder {
     }
   }
 
-  // A whole letter, or the sign of a pair.
+  // A full letter, or a pair.
   void Take(std::string_view code, std::string_view text) {
     if (code == "ks" || code == "kS") {
       EndCluster();
@@ -94,7 +94,7 @@ class Transcoder {
     complete_ = true;
   }
 
-  // A letter after a complete one begins a cluster of its own.
+  // A letter after a complete one begins a new cluster.
   void BeginLetter() {
     if (!open_ && complete_) EndCluster();
     if (!open_) cluster_ = unicode_.size();
@@ -105,16 +105,16 @@ class Transcoder {
     open_ = complete_ = false;
   }
 
-  // Before the cluster that it was written after, signs and all.
+  // Goes before the cluster that it follows in the legacy text, including its signs.
   void PutReph() {
     EndCluster();
     unicode_.insert(cluster_, kRephText);
   }
 
   std::string unicode_;
-  std::size_t cluster_ = 0;  // where the present cluster begins
+  std::size_t cluster_ = 0;  // where the current cluster begins
   bool open_ = false;        // after a half letter
-  bool complete_ = false;    // its whole letter has come
+  bool complete_ = false;    // has its full letter
   bool shortI_ = false;
 };
 

@@ -1,4 +1,4 @@
-// Hindi in the encoding of fonts that draw Devanagari over Latin code points.
+// Hindi encoded for fonts that draw Devanagari at Latin code points.
 #pragma once
 
 #include <string>
@@ -6,11 +6,11 @@
 
 namespace foundation {
 
-// The face that texts in this encoding name.
+// The face that is used for text in this encoding.
 inline constexpr std::string_view kLegacyHindiFace = "PITARA B96  HINDI";
 
-// The text in Unicode. Covers the letters, half letters and signs that the texts of this program
-// use; any other character stands for itself.
+// Converts to Unicode. Covers the letters, half letters and signs that occur in this program; any
+// other character is kept.
 std::string FromLegacyHindi(std::string_view text);
 
 }  // namespace foundation

@@ -1,4 +1,4 @@
-// What a screen program needs of the machine, behind interfaces small enough to be faked.
+// Services of the machine, behind interfaces small enough to fake.
 #pragma once
 
 #include <string_view>
@@ -20,8 +20,8 @@ enum class MessageAnswer { Ok, Yes, No };
 class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;
-  // Shows a modal box and waits; without a title it has the program's name. Closing a box of Yes
-  // and No without an answer is No.
+  // Shows a modal box and waits. An empty title means the program's name. Closing a Yes/No box
+  // without an answer returns No.
   virtual MessageAnswer Show(std::string_view text, MessageIcon icon,
                              MessageButtons buttons = MessageButtons::Ok,
                              std::string_view title = {}) = 0;
@@ -30,7 +30,7 @@ class MessageBoxes {
 class Yielder {
  public:
   virtual ~Yielder() = default;
-  // Lets pending events, timers among them, run before the caller goes on.
+  // Runs pending events, including timers, before returning.
   virtual void Yield() = 0;
 };
 

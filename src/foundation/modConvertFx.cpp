@@ -21,7 +21,7 @@ std::string ZoneToMeridianText(std::string_view zone) {
   const double hours = std::floor(LeadingNumber(zone.substr(0, point)));
   const double minutes =
       point == std::string_view::npos ? 0 : LeadingNumber(zone.substr(point + 1));
-  const double degrees = (hours * 60 + minutes) / 4;  // four minutes of time to the degree
+  const double degrees = (hours * 60 + minutes) / 4;  // four minutes of time per degree
   return NumberText(std::floor(degrees)) + "." + NumberText(std::floor(60 * FracPart(degrees))) +
          (east ? "E" : "W");
 }
@@ -31,8 +31,7 @@ std::string DecimalToSignDMS(double x) {
   double degrees = std::floor(x - 30 * sign);
   double minutes = std::floor(60 * x - 1800 * sign - 60 * degrees);
   const double seconds = std::floor(3600 * x - 108000 * sign - 3600 * degrees - 60 * minutes + 0.5);
-  // The raised field alone changes; "60" stays to be seen in the lower one, and so does a 30 that
-  // has reached the next sign.
+  // Only the next field changes: the lower one keeps showing "60", and degrees may reach 30.
   if (seconds == 60) minutes += 1;
   if (minutes == 60) degrees += 1;
   return PadDigits(degrees, 2) + ":" + PadDigits(minutes, 2) + ":" + PadDigits(seconds, 2);

@@ -21,10 +21,10 @@ fs::path& Folder() {
 constexpr std::array<std::string_view, 5> kLanguageFiles = {
     "eenglish.txt", "ehindi.txt", "emarathi.txt", "emalayalam.txt", "ekannad.txt"};
 
-// The one byte between key and phrase; the bytes of a phrase may hold it again.
+// Separates key and phrase; may occur again in the phrase.
 constexpr char kSeparator = '\xA7';
 
-// Without a file of its own a number leaves the path at the folder, which cannot be read.
+// For an unknown language, the folder itself, which cannot be read as a file.
 fs::path LanguageFile(std::int32_t language) {
   const fs::path folder = AppFolder() / "Language" / "";
   if (language == -1) language = 0;

@@ -1,4 +1,4 @@
-// Where the program's data lie, and the phrases of its languages.
+// The program's data folders, and the phrases of its languages.
 #pragma once
 
 #include <cstdint>
@@ -10,23 +10,22 @@
 
 namespace foundation {
 
-// The program's own folder, from the start; or the one that was set. This and all others end in a
-// separator.
+// The folder of the executable, unless another was set. All folders here end in a separator.
 std::filesystem::path AppFolder();
 void SetAppFolder(std::filesystem::path folder);
 
-// Folders under it, whether they exist or not.
+// Folders under it; they need not exist.
 std::filesystem::path AtlasFolder();       // city files
 std::filesystem::path BackgroundFolder();  // page backgrounds
 
-// Where the pages of a report are kept: under the program's folder; or, where the program was
-// installed for several users, which the file "shared" beside it says, under the user's cache
-// folder: $XDG_CACHE_HOME, else $HOME/.cache, else the system's folder for such files.
+// The folder for report pages: under the program's folder or, if a file "shared" in that folder
+// marks an installation for several users, in the user's cache folder: $XDG_CACHE_HOME, else
+// $HOME/.cache, else the system's temporary folder.
 std::filesystem::path TempFolder();
 
-// The phrase for a key, case aside, in a language: 0 (or -1) English, 1 Hindi, 2 Marathi,
-// 3 Malayalam, 4 Kannada. The key itself where the language's file has no such entry.
-// FileNotFound or FileAccess without such a file, as for any other number.
+// The phrase for a key, ignoring case, in a language: 0 (or -1) English, 1 Hindi, 2 Marathi, 3
+// Malayalam, 4 Kannada. Returns the key if the language's file lacks it. FileNotFound or FileAccess
+// if the file is missing, or for any other number.
 std::string LanguagePhrase(std::string_view key, std::int32_t language);
 // In the current language.
 std::string LanguagePhrase(std::string_view key, const SessionTable& session);

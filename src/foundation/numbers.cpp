@@ -43,7 +43,7 @@ std::size_t DigitsFrom(std::string_view text, std::size_t at) {
   return end - at;
 }
 
-// Where the number at the start of `text` ends; 0 when there is none.
+// Length of the number at the start of `text`; 0 if there is none.
 std::size_t NumberLength(std::string_view text) {
   std::size_t at = 0;
   if (at < text.size() && (text[at] == '+' || text[at] == '-')) ++at;
@@ -68,7 +68,7 @@ std::string_view WithoutLeadingBlanks(std::string_view text) {
   return text;
 }
 
-// Of the first digit that counts; for numbers far outside the range, so that the sign is enough.
+// Exponent of the first nonzero digit. Only for numbers far out of range, so only its sign matters.
 long PowerOfTen(std::string_view number) {
   const std::size_t e = std::min(number.find_first_of("Ee"), number.size());
   const std::size_t point = std::min(number.find('.'), e);
@@ -86,14 +86,14 @@ long PowerOfTen(std::string_view number) {
   return exponent + static_cast<long>(point) - static_cast<long>(digit);
 }
 
-// `number` is what NumberLength has measured.
+// `number` must be a number as NumberLength finds it.
 double ReadNumber(std::string_view number) {
   if (number.front() == '+') number.remove_prefix(1);
   double x = 0;
   const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), x);
   if (error == std::errc::result_out_of_range) {
     if (PowerOfTen(number) > 0) throw Error(ErrorKind::Overflow);
-    return 0;  // too small to be told from it
+    return 0;  // underflow
   }
   return x;
 }

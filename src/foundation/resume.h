@@ -1,4 +1,4 @@
-// Resume-on-error: a routine under it goes on with the next statement when one fails.
+// Resume on error: a failed statement is skipped and the routine goes on with the next.
 #pragma once
 
 #include <optional>
@@ -8,8 +8,8 @@
 
 namespace foundation {
 
-// Runs one statement and swallows its Error, so that what the statement would have set stays as
-// it was. Tells whether the statement went through.
+// Runs a statement and swallows its Error, leaving what it would have set unchanged. Returns
+// whether it succeeded.
 template <typename Statement>
 bool Resume(Statement&& statement) {
   try {
@@ -20,7 +20,7 @@ bool Resume(Statement&& statement) {
   }
 }
 
-// The value of a result that an earlier, failed statement may have left unset; Subscript if so.
+// The value of a result that an earlier statement may have failed to set; Subscript if so.
 template <typename T>
 const T& Filled(const std::optional<T>& result) {
   if (!result) throw Error(ErrorKind::Subscript);

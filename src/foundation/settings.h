@@ -1,4 +1,4 @@
-// The user's settings, kept between runs, and the keys of the default place in them.
+// The user's persistent settings, and the keys of the default place.
 #pragma once
 
 #include <array>
@@ -12,15 +12,15 @@ struct Setting {
   std::string_view key, value;
 };
 
-// Text values under an application, a section and a key; sections that differ in case differ.
+// Text values by application, section and key. Section names are case-sensitive.
 class Settings {
  public:
   virtual ~Settings() = default;
 
-  // The value as the store holds it now, other processes' changes included; or the default.
+  // The stored value, including changes by other processes; or the fallback.
   virtual std::string GetSetting(std::string_view application, std::string_view section,
                                  std::string_view key, std::string_view fallback) = 0;
-  // All of them, or none: FileAccess where the store cannot be written.
+  // Saves all or none: FileAccess if the store cannot be written.
   virtual void SaveSettings(std::string_view application, std::string_view section,
                             std::span<const Setting> settings) = 0;
 
@@ -32,15 +32,15 @@ class Settings {
 };
 
 inline constexpr std::string_view kPlaceSection = "settings";
-inline constexpr std::string_view kFooterSection = "Setting";  // lines of a report's foot
+inline constexpr std::string_view kFooterSection = "Setting";  // footer lines of a report
 
 struct PlaceSetting {
   std::string_view key;
   std::string_view fallback;
 };
 
-// In the order in which the place labels take them: country, city, latitude, longitude, standard
-// meridian, zone offset.
+// In the order of the place labels: country, city, latitude, longitude, standard meridian, zone
+// offset.
 inline constexpr std::array<PlaceSetting, 6> kPlaceSettings = {{
     {"country", "India"},
     {"city", "Delhi"},

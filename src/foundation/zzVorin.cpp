@@ -18,8 +18,7 @@ std::string_view TimeField(std::string_view text, std::size_t number) {
   return fields[number];
 }
 
-// Subtracts the limit from hours above it and adds it to hours below zero, until neither holds.
-// Hours equal to the limit stay.
+// Subtracts or adds the limit until hours lie within 0 to the limit; both ends are kept.
 double HoursWithin(double hours, double limit) {
   if (hours >= 0 && hours <= limit) return hours;
   if (!(limit > 0)) throw Error(ErrorKind::InvalidCall);
