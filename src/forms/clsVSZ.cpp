@@ -47,7 +47,7 @@ void clsVSZ::ResizeControls(Form& form, const foundation::Boolean16& keepSizes) 
   const Ratios ratios = {form.scaleWidth / formWidth_, form.scaleHeight / formHeight_};
   std::size_t i = 0;
   for (Control& control : form.Controls()) {
-    if (i == sizes_.size()) break;  // made after the sizes were saved
+    if (i == sizes_.size()) break;  // added after the sizes were saved
     const ControlSize& size = sizes_[i++];
     if (control.tag == "nr") continue;
     if (control.kind == Kind::Line) {

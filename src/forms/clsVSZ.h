@@ -1,4 +1,4 @@
-// clsVSZ keeps a form's layout in proportion to its window.
+// clsVSZ: keeps a form's layout in proportion to its window.
 #pragma once
 
 #include <vector>
@@ -8,24 +8,24 @@
 
 namespace forms {
 
-// Each form owns one.
+// Each form owns one of these.
 class clsVSZ {
  public:
-  // Records every control's place and font size, and the form's inside size.
+  // Records the position and font size of every control, and the form's inner size.
   void SaveSizes(Form& form);
 
-  // The same for a form that may be loaded again: it begins at its first size each time.
+  // The same for a form that may be loaded again; restores its first size each time.
   void SaveFirstSizes(Form& form);
 
-  // Puts every control where the form's present size asks for it, always from the records, so
-  // that no rounding creeps in. Fonts follow the height and are never below 7.5 points. A tag "nr"
-  // leaves a control out, "nf" leaves its font. With keepSizes true, only left and top move.
-  // A minimised form is left alone.
+  // Moves and sizes every control for the form's current size, always from the saved records so
+  // that rounding errors do not accumulate. Fonts scale with the height, to no less than 7.5
+  // points. Tag "nr" excludes a control, "nf" its font. With keepSizes true, only left and top
+  // change. Does nothing if the form is minimised.
   void ResizeControls(Form& form, const foundation::Boolean16& keepSizes);
 
  private:
   struct ControlSize {
-    float Left = 0, Top = 0, Width = 0, Height = 0;  // a line's first end and its extent
+    float Left = 0, Top = 0, Width = 0, Height = 0;  // for a line, its first end and extent
     float FontSize = 0;
   };
   struct Ratios {

@@ -7,7 +7,7 @@ namespace forms {
 
 struct Colour {
   std::uint8_t red = 0, green = 0, blue = 0;
-  std::uint8_t alpha = 255;  // 0 is not seen at all
+  std::uint8_t alpha = 255;  // 0 is invisible
 
   friend bool operator==(const Colour&, const Colour&) = default;
 

@@ -1,4 +1,4 @@
-// What page drawing writes on: a picture box, a printer, a document writer.
+// A surface for page drawing: a picture box, a printer, a PDF document.
 #pragma once
 
 #include <string_view>
@@ -11,8 +11,8 @@ namespace forms {
 
 enum class LineStyle { Straight, Box, FilledBox };
 
-// Lengths are twips. A member that a target lacks raises NoSuchMember, which is what each of them
-// does until a target gives it a body; who draws goes on with the next statement.
+// Lengths are twips. Members raise NoSuchMember unless a target implements them; callers then skip
+// that step.
 class DrawingTarget {
  public:
   virtual ~DrawingTarget() = default;
@@ -44,7 +44,7 @@ class DrawingTarget {
   }
   virtual void Print(std::string_view) { Lacking(); }
 
-  // Of a text in the present font.
+  // Size of a text in the current font.
   virtual double TextWidth(std::string_view) const { Lacking(); }
   virtual double TextHeight(std::string_view) const { Lacking(); }
 

@@ -6,12 +6,12 @@
 
 namespace forms {
 
-// The interface's own.
+// The default face.
 inline constexpr std::string_view kBaseFace = "Noto Sans";
 
 struct Font {
   std::string name{kBaseFace};
-  float size = 9.375F;  // points of 20 twips, whatever the screen
+  float size = 9.375F;  // points of 20 twips, on any screen
   bool bold = false;
   bool italic = false;
   bool underline = false;

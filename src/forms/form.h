@@ -1,4 +1,4 @@
-// A form without a toolkit: its controls in the order of their creation, and its events.
+// A form, independent of a toolkit: its controls in creation order, and its events.
 #pragma once
 
 #include <deque>
@@ -13,7 +13,7 @@ namespace forms {
 
 enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
 
-// Controls of one name, told apart by an index from 0. Subscript outside.
+// Controls that share a name, indexed from 0. Subscript outside.
 class ControlArray {
  public:
   explicit ControlArray(std::vector<Control*> controls) : controls_(std::move(controls)) {}
@@ -35,36 +35,36 @@ class Form {
 
   const std::string name;
   std::string caption;
-  float scaleWidth;  // inside, in twips
+  float scaleWidth;  // inner size, in twips
   float scaleHeight;
-  float left = 0, top = 0;  // of the window on the screen; where the screen tells it
-  float minimumWidth = 0;   // inside; no smaller by hand
+  float left = 0, top = 0;  // position of the window, if the screen reports it
+  float minimumWidth = 0;   // inner size; smallest the user can set
   float minimumHeight = 0;
   WindowState windowState = WindowState::Normal;
   Colour backColour;
   PicturePtr picture;  // background
   bool autoRedraw = false;
-  Place paintedPicture;  // where the background stands
+  Place paintedPicture;  // where the background is drawn
 
-  // Controls in the order of their creation.
+  // Controls in creation order.
   std::deque<Control>& Controls() { return controls_; }
-  // The first of that name. NoSuchMember where there is none.
+  // The first control with that name. NoSuchMember if there is none.
   Control& ControlNamed(std::string_view controlName);
 
-  Control* activeControl = nullptr;  // has, or gets, the keyboard's focus
+  Control* activeControl = nullptr;  // has, or will get, the keyboard focus
 
-  // Printing of its own; NoSuchMember for a form that has none.
+  // Custom printing; NoSuchMember for a form without it.
   virtual void PrintForm();
 
   // Events, raised by the host.
-  virtual void Form_Load() {}    // once for each window, before it shows
+  virtual void Form_Load() {}    // once per window, before it shows
   virtual void Form_Resize() {}  // scaleWidth, scaleHeight or the window's state has changed
-  // The user closes the window, as Unload does not. Cancel keeps the form.
+  // The user, not Unload, is closing the window. Set cancel to keep it open.
   virtual void Form_QueryUnload([[maybe_unused]] bool& cancel) {}
-  virtual void Form_MouseMove() {}  // where no control is that answers
+  virtual void Form_MouseMove() {}  // outside any control that handles it
   virtual void Form_MouseLeave() {}
   virtual void Form_KeyDown([[maybe_unused]] KeyPress& press) {}  // before the control's own
-  virtual void Form_Deactivate() {}  // another window has become the active one
+  virtual void Form_Deactivate() {}                               // another window became active
 
  protected:
   Control& AddControl(Kind kind, std::string_view controlName, Properties properties);
@@ -72,11 +72,10 @@ class Form {
                            const std::vector<Properties>& rows);
 
  private:
-  std::deque<Control> controls_;  // references to its elements stay good as it grows
+  std::deque<Control> controls_;  // a deque, so references stay valid as it grows
 };
 
-// A row of a form's table of controls: declares the member and enters the control under the
-// member's name.
+// A row of a form's control table: declares the member and adds a control of the same name.
 #define CONTROL(kind, name, ...) \
   ::forms::Control& name = AddControl(::forms::Kind::kind, #name, __VA_ARGS__)
 #define CONTROL_ARRAY(kind, name, ...) \

@@ -9,7 +9,7 @@
 namespace forms {
 namespace {
 
-// A comma comes before all else, so that "Delhi, India" stands before "Delhi Gate, India".
+// A comma sorts before everything else, so "Delhi, India" precedes "Delhi Gate, India".
 std::string SortKey(std::string_view text) {
   std::string key = foundation::FoldCase(text);
   std::replace(key.begin(), key.end(), ',', '\x01');
@@ -22,7 +22,7 @@ void ItemList::Clear() {
   entries_.clear();
   order_.clear();
   selected_ = -1;
-  TellOfChange();
+  NotifyChange();
 }
 
 int ItemList::AddItem(std::string_view text) {
@@ -31,7 +31,7 @@ int ItemList::AddItem(std::string_view text) {
   order_.insert(order_.begin() + place, static_cast<std::uint32_t>(entries_.size()));
   entries_.push_back(std::move(entry));
   if (selected_ >= place) ++selected_;  // the same entry stays selected
-  TellOfChange();
+  NotifyChange();
   return place;
 }
 
@@ -59,7 +59,7 @@ std::size_t ItemList::EntryOf(int index) const {
   return order_[static_cast<std::size_t>(index)];
 }
 
-void ItemList::TellOfChange() const {
+void ItemList::NotifyChange() const {
   if (onEntriesChanged) onEntriesChanged();
 }
 

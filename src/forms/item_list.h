@@ -1,4 +1,4 @@
-// The entries of a list box or a drop-down.
+// The entries of a list box or combo box.
 #pragma once
 
 #include <functional>
@@ -11,8 +11,8 @@ namespace forms {
 
 class ItemList : public ListControl {
  public:
-  // A sorted list puts a new entry after those not above it, case aside and commas before all
-  // else; another list at its end.
+  // A sorted list inserts a new entry after those that are not greater, ignoring case and with
+  // commas first; an unsorted one appends it.
   explicit ItemList(bool sorted) : sorted_(sorted) {}
 
   void Clear() override;
@@ -24,24 +24,24 @@ class ItemList : public ListControl {
   int ListIndex() const override { return selected_; }
   void SetListIndex(int index) override;
 
-  // Told of every change of the entries, but not of the selection.
+  // Called when entries change, but not when the selection does.
   std::function<void()> onEntriesChanged;
 
  private:
   struct Entry {
     std::string text;
-    std::string sortedBy;  // empty in a list without order
+    std::string sortedBy;  // empty in an unsorted list
     std::int32_t number = 0;
   };
 
   std::size_t EntryOf(int index) const;
   const Entry& At(int index) const { return entries_[EntryOf(index)]; }
   int PlaceFor(const Entry& entry) const;
-  void TellOfChange() const;
+  void NotifyChange() const;
 
   bool sorted_;
-  std::vector<Entry> entries_;        // as they came
-  std::vector<std::uint32_t> order_;  // by place: small, so that insertions cost little
+  std::vector<Entry> entries_;        // in order of insertion
+  std::vector<std::uint32_t> order_;  // displayed order; indices keep insertions cheap
   int selected_ = -1;
 };
 

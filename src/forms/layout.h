@@ -1,4 +1,4 @@
-// What the rows of all forms' tables of controls are written in: logical pixels, of twips.
+// Helpers for the forms' control tables, in logical pixels.
 #pragma once
 
 #include "forms/control.h"

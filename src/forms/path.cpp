@@ -8,7 +8,7 @@ namespace forms {
 namespace {
 
 constexpr double kRadians = std::numbers::pi / 180;
-constexpr double kWidestPiece = 90;  // degrees that one cubic follows to within 0.03 per cent
+constexpr double kWidestPiece = 90;  // degrees; one cubic is exact to 0.03 per cent
 
 }  // namespace
 

@@ -19,18 +19,18 @@ class Path {
   Path& CubicTo(Point control1, Point control2, Point to);
   Path& Close();
 
-  // Angles are degrees, counterclockwise from three o'clock; y grows downward. Arc begins a new
-  // outline, ArcTo goes on from the present point with a line to where the arc starts.
+  // Angles are degrees, counterclockwise from three o'clock; y grows downward. Arc starts a new
+  // outline; ArcTo draws a line from the current point to the start of the arc first.
   Path& Arc(Point centre, double radius, double from, double to);
   Path& ArcTo(Point centre, double radius, double from, double to);
 
-  // Whole outlines.
+  // Closed outlines.
   static Path Circle(Point centre, double radius);
   static Path Box(Point corner, double width, double height, double cornerRadius = 0);
-  // A piece of a ring between two angles.
+  // A segment of a ring between two angles.
   static Path RingPiece(Point centre, double inner, double outer, double from, double to);
 
-  // The same outline with its heights, measured from a level, multiplied.
+  // The same outline with heights above or below a level scaled.
   Path Raised(double level, double factor) const;
 
   const std::vector<Verb>& Verbs() const { return verbs_; }

@@ -8,8 +8,8 @@
 namespace forms {
 namespace {
 
-// Texts of a table's row, in whatever face, have baselines less than this apart.
-constexpr double kSameLine = 0.5;  // of the letters' size
+// Texts in a table row have baselines closer than this, even in different faces.
+constexpr double kSameLine = 0.5;  // of the text size
 
 std::string Readable(const Lettering& lettering) {
   const bool legacy = lettering.face == foundation::kLegacyHindiFace;

@@ -1,4 +1,4 @@
-// A picture of outlines and texts, crisp at any size, and of pictures made of dots.
+// A picture made of outlines and texts, sharp at any size, and of raster images.
 #pragma once
 
 #include <cstdint>
@@ -54,10 +54,10 @@ struct Lettering {
   std::string text;  // UTF-8
   Point at;          // on the baseline, at the left end, right end or middle
   Alignment alignment = Alignment::Left;
-  double size = 12;  // in units of the picture
+  double size = 12;  // in picture units
   bool bold = false;
   Colour colour;
-  std::string face = {};  // the interface's own where it is empty
+  std::string face = {};  // empty means the default face
   bool italic = false;
   bool underline = false;
   bool strikethrough = false;
@@ -67,7 +67,7 @@ struct Lettering {
 struct Picture;
 using PicturePtr = std::shared_ptr<const Picture>;
 
-// Another picture, stretched.
+// Another picture, scaled to a box.
 struct Inset {
   PicturePtr picture;
   Point at;
@@ -75,7 +75,7 @@ struct Inset {
   friend bool operator==(const Inset&, const Inset&) = default;
 };
 
-// Dots from the top left, three bytes each: red, green, blue.
+// Pixels from the top left, three bytes each: red, green, blue.
 struct Raster {
   int width = 0, height = 0;
   std::vector<std::uint8_t> rgb;
@@ -83,34 +83,35 @@ struct Raster {
 };
 using RasterPtr = std::shared_ptr<const Raster>;
 
-// Dots that fill the whole picture.
+// An image that fills the picture.
 struct Dots {
   RasterPtr raster;
   friend bool operator==(const Dots&, const Dots&) = default;
 };
 
-// Drawn first to last. Units are the picture's own; whoever shows it stretches width and height.
+// Items are drawn first to last. Units are the picture's own; whatever shows it scales width and
+// height.
 struct Picture {
   double width = 0, height = 0;
   std::vector<std::variant<Outline, Lettering, Inset, Dots>> items;
   friend bool operator==(const Picture&, const Picture&) = default;
 };
 
-// An empty one, to be drawn on.
+// An empty picture to draw on.
 inline std::shared_ptr<Picture> NewPicture(double width, double height) {
   return std::make_shared<Picture>(Picture{width, height, {}});
 }
 
-// The dots of a picture that consists of nothing else; null for any other.
+// The raster of a picture that consists of nothing else; null for any other.
 inline RasterPtr DotsOf(const Picture& picture) {
   const auto* dots = picture.items.size() == 1 ? std::get_if<Dots>(&picture.items[0]) : nullptr;
   return dots == nullptr ? nullptr : dots->raster;
 }
 
-// Its lettering as it was drawn: a blank between texts on the same line, else a new line.
+// Texts in drawing order, separated by a blank on the same line and a line break otherwise.
 std::string WordsOf(const Picture& picture);
 
-// Its lettering as one reads a page: a line below the other, each from left to right.
+// Texts in reading order: line by line, each from left to right.
 std::string LinesOf(const Picture& page);
 
 }  // namespace forms

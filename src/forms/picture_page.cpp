@@ -13,8 +13,8 @@ PicturePage::PicturePage(Control& pictureBox, const TextMeasure& measure)
       font_(pictureBox.font),
       colour_(pictureBox.foreColour) {}
 
-// A picture that somebody has taken to show it is not changed any more: the page goes on with a
-// copy, and who compares pictures sees that it is another.
+// Once something else holds the picture, it no longer changes: the page continues on a copy, so
+// that comparing pointers reveals the change.
 Picture& PicturePage::Editable() {
   const bool taken = picture_.use_count() > (box_.picture == picture_ ? 2 : 1);
   if (taken) picture_ = std::make_shared<Picture>(*picture_);

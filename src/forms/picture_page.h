@@ -1,4 +1,4 @@
-// Drawing on a picture box: what is drawn becomes the picture of the box.
+// Drawing on a picture box: the drawing becomes the box's picture.
 #pragma once
 
 #include <memory>
@@ -9,11 +9,11 @@
 
 namespace forms {
 
-// A page of a size that stays, in twips; what is drawn below its foot is lost. The box may show it
-// larger or smaller.
+// A page of fixed size, in twips; drawing below its bottom edge is lost. The box may show it at
+// another size.
 class PicturePage : public DrawingTarget {
  public:
-  // Box and measure outlive the page.
+  // Box and measure must outlive the page.
   PicturePage(Control& pictureBox, const TextMeasure& measure);
 
   void SetForeColor(Colour colour) override { colour_ = colour; }
@@ -25,7 +25,7 @@ class PicturePage : public DrawingTarget {
   void SetFontItalic(bool on) override { font_.italic = on; }
   void SetFontStrikethru(bool on) override { font_.strikethrough = on; }
   void SetFontUnderLine(bool on) override { font_.underline = on; }
-  void SetRightToLeft(bool) override {}  // a text's own letters decide
+  void SetRightToLeft(bool) override {}  // the characters decide
   void SetCurrentX(double x) override { x_ = x; }
   double CurrentX() const override { return x_; }
   void SetCurrentY(double y) override { y_ = y; }

@@ -1,4 +1,4 @@
-// How large texts come out on the screen.
+// Measures text as the screen draws it.
 #pragma once
 
 #include <string_view>
@@ -13,7 +13,7 @@ class TextMeasure {
   virtual ~TextMeasure() = default;
   virtual double TextWidth(std::string_view text, const Font& font) const = 0;
   virtual double LineHeight(const Font& font) const = 0;
-  virtual double Ascent(const Font& font) const = 0;  // of a line's height, above its baseline
+  virtual double Ascent(const Font& font) const = 0;  // line height above the baseline
 };
 
 }  // namespace forms
