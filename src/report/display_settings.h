@@ -1,4 +1,4 @@
-// How forms are displayed where nothing else says so.
+// Default display settings of forms.
 #pragma once
 
 #include <array>
@@ -10,10 +10,10 @@
 
 namespace report::display {
 
-inline constexpr bool kColourOption = false;      // labels in the colours of their planets
-inline constexpr bool kLegacyHindiNames = false;  // planets also by their names in that encoding
+inline constexpr bool kColourOption = false;      // colour labels by planet
+inline constexpr bool kLegacyHindiNames = false;  // also match planets by their legacy names
 
-// By language number: the face, and what is added to a size in points.
+// By language number: the face, and the points added to a font size.
 struct LanguageFont {
   std::string_view face;
   int sizeStep;
@@ -25,13 +25,13 @@ inline constexpr foundation::BoundedArray<LanguageFont, 0, 4> kLanguageFonts{
       {"Lohit Malayalam", 3},
       {"Lohit Kannada", 3}}}};
 
-// A planet by its name, and by its full and short name in the legacy Hindi encoding.
+// A planet's name, and its full and short names in the legacy Hindi encoding.
 struct PlanetColour {
   std::string_view name, legacyName, legacyShort;
   forms::Colour colour;
 };
 
-// The colours that tradition gives the planets, dark enough to be read on paper.
+// The traditional colours of the planets, dark enough to read on paper.
 inline constexpr std::array<PlanetColour, 13> kPlanetColours = {{
     {"Asc", "yXu", "y", forms::Rgb(0x2A2238)},
     {"Sun", "lw;Z", "lw", forms::Rgb(0xB83A17)},

@@ -1,4 +1,4 @@
-// Makes the report: a page for each month of a range of days, ready in the preview.
+// Makes the report, one page per month of a date range, and opens it in the preview.
 #pragma once
 
 #include <string>
@@ -11,13 +11,14 @@
 namespace report {
 
 struct ReportInput {
-  foundation::DateTime DT1, DT2;  // midnights of the first and the last day
-  foundation::DateTime dtTime;    // time of day at which every day is reckoned
+  foundation::DateTime DT1, DT2;  // midnights of the first and last day
+  foundation::DateTime dtTime;    // time of day at which each day is calculated
   std::string latitude, longitude, zoneMeridian, zoneTime, city, country;
-  forms::Control& lblStatus;  // tells how far it has got
+  forms::Control& lblStatus;  // shows the progress
 };
 
-// Yields after each row. The errors of the calculations; the last day counts, whatever the time.
+// Includes the last day, whatever the time of day. Yields after each row. Errors of the
+// calculations.
 void MakeReport(const ReportInput& input, frmSPkun& preview, const Services& services);
 
 }  // namespace report

@@ -38,7 +38,7 @@ class LanguageDress {
   }
 
  private:
-  // Subscript for a language that has no face.
+  // Subscript for a language without a face.
   void ChangeFont(forms::Font& font) const {
     const display::LanguageFont& face = display::kLanguageFonts[language_ == -1 ? 0 : language_];
     font.bold = font.italic = false;

@@ -1,4 +1,4 @@
-// What is applied to forms when they are shown, steered by the tags of their controls.
+// Display styles of forms, controlled by the tags of their controls.
 #pragma once
 
 #include <cstdint>
@@ -8,23 +8,23 @@
 
 namespace report {
 
-// The colour of the planet that a caption names, whole or by three letters, case aside; black for
-// any other.
+// The colour of the planet that a caption names in full or by three letters, ignoring case; black
+// for any other caption.
 forms::Colour PlanetColourOf(std::string_view caption);
 
-// Where the colour option is on: labels in the colours of their planets, and black with the tag
-// "ch"; shapes with the tag "cs" black with a gold border, with "cs2" black.
+// If the colour option is on, colours labels by planet, or black if tagged "ch". Makes shapes
+// tagged "cs" black with a gold border, and those tagged "cs2" all black.
 void ColourForm(forms::Form& form, bool colourOption);
 
-// Captions and texts in a language: the phrase of its file, in its face, larger by its step and
-// `extraSize` points unless the page keeps its sizes. Only labels and text boxes that are not in
-// the base font take part, and of these only those that have a phrase. Tag "n" leaves a control
-// alone, "hhh" takes one in whatever its face, "hcon" changes the face without a phrase. Language 0
-// without an extra size does nothing. Failures are ignored.
+// Translates captions and texts: uses the phrase and face of the language, enlarged by its size
+// step and `extraSize` points unless the page keeps its sizes. Applies to labels and text boxes
+// that have a phrase and are not in the base font. Tag "n" excludes a control, "hhh" includes it
+// whatever its face, "hcon" changes the face even without a phrase. Does nothing for language 0
+// without an extra size. Ignores failures.
 void ApplyLanguageFonts(forms::Form& form, std::int32_t language, int extraSize,
                         bool blnDontChangePageFontSize);
 
-// Both, as a form that loads has them.
+// Applies both with the default settings, as forms do when they load.
 void ApplyDisplayStyles(forms::Form& form, std::int32_t language);
 
 }  // namespace report

@@ -16,7 +16,7 @@ using forms::LineStyle;
 using foundation::Resume;
 
 constexpr std::string_view kNotPrinted = "np";
-constexpr double kSmallestPrinted = 7;  // points, where sizes are changed
+constexpr double kSmallestPrinted = 7;  // points, the minimum for texts
 constexpr auto kBlack = forms::Rgb(0);
 
 forms::PicturePtr Ground(forms::Colour colour, double width, double height) {
@@ -86,7 +86,7 @@ class FormDrawing {
     });
   }
 
-  // A size of 32 bits is what its decimal text says, as a document's numbers go through texts.
+  // Sizes go by their shortest decimal text, as a document writes its numbers as text.
   void Paint(const Control& control, const forms::PicturePtr& picture) {
     Resume([&] {
       target_.PaintPicture(
@@ -95,7 +95,7 @@ class FormDrawing {
     });
   }
 
-  // Piece by piece between CR LF, one below the other as printing moves down.
+  // Prints the pieces between CR LF one below the other.
   void DrawText(const Control& control) {
     std::string_view rest = control.caption;
     if (rest.empty()) return;

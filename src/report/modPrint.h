@@ -1,4 +1,4 @@
-// Draws the controls of a form onto a target with the calls of a printer.
+// Draws the controls of a form on a target.
 #pragma once
 
 #include <cstdint>
@@ -9,14 +9,14 @@
 
 namespace report {
 
-// What a form or a picture box shows: its picture, or its ground alone.
+// What a form or picture box shows: its picture, or just its background colour.
 forms::PicturePtr ImageOf(const forms::Form& form);
 forms::PicturePtr ImageOf(const forms::Control& box);
 
-// Fills first, then the controls in their order; X and Y move the form, DX and DY its texts as well
-// (twice inside a box), SizeDelta is points. A label's text begins at its left edge, neither
-// clipped nor wrapped. Every statement that fails, as one does for a member that the target lacks,
-// is passed over. With a printer the form goes there, whatever the target.
+// Draws fills first, then the controls in order. X and Y move the form, DX and DY also move its
+// texts (twice inside a box); SizeDelta is in points. A label's text starts at its left edge and is
+// neither clipped nor wrapped. Statements that fail, for example on a member that the target lacks,
+// are skipped. If ToPrinter is not null it replaces the target.
 void DrawFormOnTarget(forms::Form& form, forms::DrawingTarget& Target, double X, double Y,
                       forms::Printer* ToPrinter = nullptr, std::int16_t SizeDelta = 0,
                       std::int16_t DX = 0, std::int16_t DY = 0);

@@ -1,4 +1,4 @@
-// The bands that a page of the direct path carries: header, footer, and where they stand.
+// Header and footer of pages drawn directly, and their layout.
 #pragma once
 
 #include "forms/form.h"
@@ -8,7 +8,7 @@ namespace report {
 
 class frmHeader : public forms::Form {
  public:
-  // Loads with the person, moment and place of the current record.
+  // Shows the person, moment and place of the current record.
   explicit frmHeader(const foundation::SessionTable& session);
 
   CONTROL(Label, lblName, {.place = {300, 120, 6000, 300}, .font = {.size = 12, .bold = true}});
@@ -17,7 +17,7 @@ class frmHeader : public forms::Form {
 
 class frmFooter : public forms::Form {
  public:
-  // Loads with the lines "company", "tag" and "address" of the settings' section "Setting".
+  // Shows "company", "tag" and "address" from the settings section "Setting".
   frmFooter(foundation::Settings& settings, std::int32_t language);
 
   CONTROL(Label, lblCompany, {.place = {300, 60, 2400, 240}, .font = {.size = 9, .bold = true}});
@@ -26,7 +26,7 @@ class frmFooter : public forms::Form {
   CONTROL(Label, lblProduct, {.place = {9600, 60, 1500, 240}, .font = {.size = 8.25F}});
 
   void Form_Resize() override { lblCompany_Change(); }
-  void lblCompany_Change();  // the tag follows
+  void lblCompany_Change();  // moves the tag
 };
 
 class frmPrintLayout : public forms::Form {
@@ -46,7 +46,7 @@ class frmPrintLayoutDesi : public forms::Form {
   CONTROL(Label, lblCurrentPageNum, {.place = {13300, 9780, 600, 240}});
 };
 
-// The header on page 0 alone, the footer on every page.
+// Draws the header on page 0 only, the footer on every page.
 void DrawBands(const frmPrintLayout& layout, int PageNum, const Services& services,
                forms::DrawingTarget& target);
 

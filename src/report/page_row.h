@@ -1,4 +1,4 @@
-// What a page of the report says of one day.
+// One day on a page of the report.
 #pragma once
 
 #include "forms/drawing_target.h"
@@ -8,13 +8,13 @@
 
 namespace report {
 
-// The title with the month and year of the moment, and the place of the current record; the line of
-// the place ends at its right edge, by the measure of the target it will be drawn on.
+// Sets the title from the month and year of the moment, and the place line from the current record.
+// The place line is right-aligned as measured by the target that it will be drawn on.
 void FillHead(pk_Durvela& page, foundation::DateTime moment,
               const foundation::SessionTable& session, forms::DrawingTarget& target);
 
-// Row `row` of 0 to 30, Subscript outside: date, sun and the three periods at the place of the
-// current record. The errors of the calculations.
+// Fills row 0 to 30 (Subscript outside) with the date, the sun and the three periods at the place
+// of the current record. Errors of the calculations.
 void FillRow(pk_Durvela& page, int row, foundation::DateTime moment,
              const foundation::SessionTable& session);
 

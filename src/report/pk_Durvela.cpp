@@ -2,7 +2,7 @@
 
 namespace report {
 
-// Row 0 is always written; the others begin empty.
+// Every report writes row 0; the other rows start empty.
 pk_Durvela::pk_Durvela() : Form("pk_Durvela", "", page_layout::kWidth, page_layout::kHeight) {
   backColour = forms::Rgb(0xFFFFFF);
   for (const forms::ControlArray* column : Columns()) {

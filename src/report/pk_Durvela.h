@@ -1,4 +1,4 @@
-// pk_Durvela, a page of the report: the figures of a month, a row a day.
+// pk_Durvela, a page of the report: one month, one row per day.
 #pragma once
 
 #include <array>
@@ -12,7 +12,7 @@ class pk_Durvela : public forms::Form {
  public:
   pk_Durvela();
 
-  // The table of controls, lowest first.
+  // The table of controls, bottom first.
   CONTROL(Label, lblHHH, page_layout::Title());
   CONTROL(Label, lblHead3, page_layout::PlaceLine());
   CONTROL(Label, Label12, page_layout::GroupHead(6315, 930, "nqosZyk "));
@@ -42,7 +42,7 @@ class pk_Durvela : public forms::Form {
   CONTROL_ARRAY(Label, lblyumIN, page_layout::Times(10320));
   CONTROL_ARRAY(Label, lblyumOut, page_layout::Times(11460));
 
-  // The ten columns, in that order.
+  // The ten columns from left to right.
   std::array<forms::ControlArray*, 10> Columns();
 };
 

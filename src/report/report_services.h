@@ -1,4 +1,4 @@
-// What the report is given to work with.
+// The services that the report uses.
 #pragma once
 
 #include "forms/screen_services.h"

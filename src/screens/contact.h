@@ -1,5 +1,4 @@
-// The maker's contact lines. An empty one shows nothing; a click on any opens the website, if there
-// is one.
+// The maker's contact lines. Empty lines are hidden; a click on any line opens the website, if set.
 #pragma once
 
 #include <string_view>

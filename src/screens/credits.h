@@ -1,11 +1,11 @@
-// Whose work Durvela is made with.
+// Credits for the work that Durvela builds on.
 #pragma once
 
 #include "forms/picture.h"
 
 namespace screens {
 
-// A strip 472 wide, a line of text below the other.
+// A strip of text lines, 472 wide.
 forms::PicturePtr CreditsPicture();
 
 }  // namespace screens

@@ -30,7 +30,7 @@ void ShowMoment(foundation::DateTime now, frmMain& labels) {
   });
 }
 
-// The moment of the tick, read back out of the captions that show it.
+// The moment of the tick, read back from the captions that show it.
 DateTimeFields ShownMoment(const frmMain& labels) {
   DateTimeFields moment{};
   Resume([&] {

@@ -1,4 +1,4 @@
-// What the dashboard works out once a second.
+// What the dashboard calculates once a second.
 #pragma once
 
 #include "foundation/calendar.h"
@@ -9,9 +9,9 @@ namespace screens {
 
 class frmMain;
 
-// Brings the texts of the dashboard's labels up to `now`, from the default place in the settings,
-// which also goes into the current session record. A step that fails leaves the labels that it
-// would have set as they were; no error comes out.
+// Updates the dashboard's labels to `now` at the default place of the settings, and copies that
+// place to the current session record. A failing step leaves its labels unchanged; no error is
+// raised.
 void Tick(foundation::DateTime now, foundation::Settings& settings,
           foundation::SessionTable& session, frmMain& labels);
 

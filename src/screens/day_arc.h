@@ -1,4 +1,4 @@
-// The arc of a day: from sunrise at its left foot to sunset at its right one, in degrees.
+// The arc of a day: from sunrise at its left end, 180 degrees, to sunset at its right end, 0.
 #pragma once
 
 #include "dayperiods/weekday_segments.h"
@@ -9,7 +9,7 @@ inline double AngleAt(double partOfDay) {
   return 180 * (1 - partOfDay);
 }
 
-// Where segment 1 to 8 begins, and for 9 where the last one ends.
+// The start of segment 1 to 8, or for 9 the end of the last.
 inline double SegmentAngle(int segment) {
   return AngleAt((segment - 1.0) / dayperiods::kSegmentsOfDaylight);
 }

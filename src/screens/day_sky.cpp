@@ -22,16 +22,16 @@ constexpr double kArcCentre = 290;
 constexpr double kOuterRadius = 246;
 constexpr double kInnerRadius = 206;
 constexpr double kSmallLettering = 11.5;
-constexpr double kGap = 0.35;  // degrees left free at either end of a part
+constexpr double kGap = 0.35;  // degrees left empty at each end of a part
 
-// Stars: x, y and radius on the design's sky.
+// Stars: x, y and radius in the design's units.
 constexpr double kStars[][3] = {
     {36, 40, 1.1},  {92, 88, 0.8},   {150, 30, 1.0}, {214, 62, 0.7},  {268, 24, 1.2},
     {330, 52, 0.8}, {402, 34, 1.0},  {452, 78, 0.7}, {520, 26, 1.1},  {560, 96, 0.8},
     {28, 150, 0.7}, {556, 168, 0.7}, {832, 20, 0.9}, {826, 120, 0.8}, {74, 196, 0.6},
 };
 
-// Draws the scene onto a picture of a given size.
+// Draws a scene as a picture of a given size.
 class SkyPainter {
  public:
   SkyPainter(const DayScene& scene, double width, double height)
@@ -73,11 +73,11 @@ class SkyPainter {
         forms::Lettering{text, at, alignment, size * TextScale(), bold, colour});
   }
 
-  // The smallest lettering is never below the smallest font.
+  // Keeps the smallest lettering at least at the smallest font size.
   double TextScale() const { return std::max(scale_, forms::kSmallestText / kSmallLettering); }
 
-  // A point of the arc's own measures. In a window higher than wide the arc rises with it, so that
-  // it stays round the clock.
+  // A point on the arc. In a tall window the arc is stretched upwards, so that it stays around the
+  // clock.
   Point OnArc(double radius, double angle) const {
     const Point at = forms::OnCircle(centre_, radius * scale_, angle);
     return {at.x, centre_.y + rise_ * (at.y - centre_.y)};
@@ -113,7 +113,7 @@ class SkyPainter {
         palette::kHill.WithOpacity(0.88));
   }
 
-  // The inside of the arc is shaded, so that the clock reads well against the bright horizon.
+  // The area inside the arc is darkened so that the clock is readable against the bright horizon.
   void Arc() {
     Add(Path().Arc(centre_, kInnerRadius * scale_, 180, 0).Close().Raised(centre_.y, rise_),
         forms::RadialGradient{centre_,
@@ -133,7 +133,8 @@ class SkyPainter {
     Add(Path::Box({0, centre_.y}, picture_.width, picture_.height - centre_.y), palette::kEarth);
   }
 
-  // It rises from below the horizon, and its glow stays clear of the names along the arc.
+  // Drawn before the earth, so that it rises from behind the horizon. The glow is kept small enough
+  // not to reach the names along the arc.
   void Sun() {
     if (scene_.sun > 1) return;
     constexpr double kGlow = 38;
@@ -147,7 +148,7 @@ class SkyPainter {
     Add(Path::Circle(at, 13 * scale_), palette::kSun, {palette::kCream, 2 * scale_});
   }
 
-  // By night a ring goes back below the horizon, between the times of sunset and sunrise.
+  // At night a ring moves back below the horizon, from the time of sunset to that of sunrise.
   void SunBelow(double partOfNight) {
     const double reach = (kInnerRadius - 30) * scale_;
     const double y = centre_.y + 16 * y_;
@@ -169,9 +170,9 @@ class SkyPainter {
     Name("Yum", scene_.yum);
   }
 
-  // The lowest part of either side is named inside the arc, the others outside; the second and the
-  // seventh at their upper end, where there is room beside them. (No weekday tints a neighbour of
-  // these two.)
+  // Labels the lowest part on each side inside the arc, the others outside; the second and seventh
+  // at their upper end, where there is room beside them. (On no weekday is a neighbour of these two
+  // labelled as well.)
   void Name(const std::string& name, const DayScene::PeriodTimes& period) {
     const double shift = period.segment == 2 ? 0.35 : period.segment == 7 ? -0.35 : 0;
     const double angle = AngleAt((period.segment - 0.5 + shift) / dayperiods::kSegmentsOfDaylight);
@@ -195,8 +196,8 @@ class SkyPainter {
   }
 
   const DayScene& scene_;
-  double x_, y_, scale_;  // of the design's width, height and lengths
-  double rise_;           // of the arc: 1 is round
+  double x_, y_, scale_;  // factors for widths, heights and lengths of the design
+  double rise_;           // vertical stretch of the arc; 1 is round
   Point centre_;
   forms::Picture picture_;
 };

@@ -6,8 +6,8 @@
 
 namespace screens {
 
-// The sky from night to dawn over the earth, with the day as an arc of eight; the arc is round
-// but in windows higher than wide. Width and height are logical pixels.
+// A sky from night to dawn above the earth, with the day as an arc of eight parts, stretched
+// upwards in tall windows. Width and height are in logical pixels.
 forms::PicturePtr SkyPicture(const DayScene& scene, double width, double height);
 
 }  // namespace screens

@@ -1,4 +1,4 @@
-// Finding an entry of a list by how it begins.
+// Finds list entries by prefix.
 #pragma once
 
 #include <string_view>
@@ -7,9 +7,9 @@
 
 namespace screens {
 
-// Select the first entry, in the list's order, that begins with the text, case aside; an empty
-// text finds the first. Where none does, the selection stays.
+// Select the first entry, in list order, that begins with the text, ignoring case; empty text
+// selects the first entry. If none matches, the selection stays.
 void FindInList(std::string_view text, forms::Control& listBox);
-void FindInCombo(std::string_view text, forms::Control& comboBox);  // failures are ignored
+void FindInCombo(std::string_view text, forms::Control& comboBox);  // ignores failures
 
 }  // namespace screens

@@ -1,4 +1,4 @@
-// frmAbout: the program's version, and the credits that pass by.
+// frmAbout: the program's version and scrolling credits.
 #pragma once
 
 #include "screens/frmAbout_layout.h"
@@ -11,7 +11,7 @@ class frmAbout : public ScaledForm {
  public:
   explicit frmAbout(Services services);
 
-  // The table of controls, lowest first.
+  // The table of controls, bottom first.
   CONTROL(Shape, Head, about_layout::Head());
   CONTROL(PictureBox, Picture2, about_layout::HeadPicture());
   CONTROL(Label, lblTitle, about_layout::Title());
@@ -27,7 +27,7 @@ class frmAbout : public ScaledForm {
   void Form_KeyDown(forms::KeyPress& press) override;
   void Form_MouseMove() override;
 
-  void Timer1_Timer();  // the credits, a step up
+  void Timer1_Timer();  // scrolls the credits by a step
   void picS_MouseMove();
   void cmdOK_Click();
   void cmdSysInfo_Click();

@@ -1,4 +1,4 @@
-// frmCity, the city picker: a country, a search text, and the country's places below.
+// frmCity, the city picker: a country, a search text, and the country's places.
 #pragma once
 
 #include <string_view>
@@ -13,10 +13,10 @@ namespace screens {
 
 class frmCity : public forms::Form {
  public:
-  // Reads the countries; host and atlas outlive the form.
+  // Reads the list of countries. Host and atlas must outlive the form.
   frmCity(forms::FormHost& host, atlas::clsAtlas& atlas);
 
-  // The table of controls, lowest first.
+  // The table of controls, bottom first.
   CONTROL(Shape, Head, city_layout::Head());
   CONTROL(ComboBox, cmbCountry, city_layout::Country());
   CONTROL(Label, Label15, city_layout::CountryCaption());
@@ -24,8 +24,8 @@ class frmCity : public forms::Form {
   CONTROL(Label, Label14, city_layout::CityCaption());
   CONTROL(ListBox, lstCity, city_layout::Cities());
 
-  // Before the form is shown: where the search begins, and the form whose labels lblCity,
-  // lblCountry, lblLat, lblLong, lblZoneTime and lblZone get the place that is accepted.
+  // Call before showing the form. Sets where the search starts, and the form whose labels lblCity,
+  // lblCountry, lblLat, lblLong, lblZoneTime and lblZone receive the accepted place.
   void Load(std::string_view Country, std::string_view City, forms::Form& RetForm);
 
   void Form_Load() override;
@@ -49,7 +49,7 @@ class frmCity : public forms::Form {
   atlas::clsAtlas& atlas_;
   forms::clsVSZ sizes_;
   forms::Form* RetForm_ = nullptr;
-  int loading_ = 0;  // loads that run, one inside another
+  int loading_ = 0;  // running loads; they nest
   bool searched_ = false;
 };
 

@@ -1,5 +1,5 @@
-// Rows of the dashboard's table of controls: where things stand on a window of 840 by 560 logical
-// pixels, and how they look there. It grows and shrinks from these figures.
+// Rows of the dashboard's table of controls: positions and looks in a window of 840 by 560 logical
+// pixels, from which it is scaled.
 #pragma once
 
 #include <string>
@@ -18,7 +18,7 @@ using namespace layout;
 inline constexpr float kWidth = 840;  // logical pixels
 inline constexpr float kHeight = 560;
 
-// Places and sizes below are logical pixels, font sizes points.
+// Positions and sizes below are in logical pixels, font sizes in points.
 inline Properties Background() {
   return {.place = At(0, 0, kWidth, kHeight), .spokenName = "Today in eight parts"};
 }

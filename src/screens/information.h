@@ -1,4 +1,4 @@
-// The pages that explain the periods, and the two that only bear a title.
+// The pages that explain the periods, and the two that have only a title.
 #pragma once
 
 #include <string_view>
@@ -13,12 +13,12 @@ namespace screens {
 struct InformationPage {
   std::string_view name;   // of the form
   std::string_view title;  // of the window and the page
-  int sign;                // place in MenuSigns
+  int sign;                // index into MenuSigns
   std::vector<std::string_view> paragraphs;
-  std::vector<Period> periods;  // shown on the sample day and by weekday; none without pictures
+  std::vector<Period> periods;  // shown on the sample day and by weekday; empty for no pictures
 };
 
-// A page with its pictures and OK; Esc closes it too.
+// A page with its pictures and an OK button; Escape closes it too.
 class InformationScreen : public ScaledForm {
  public:
   InformationScreen(const InformationPage& page, forms::FormHost& host);

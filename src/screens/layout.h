@@ -1,4 +1,4 @@
-// What the rows of the screens' tables of controls are written in.
+// Helpers for the rows of the screens' tables of controls.
 #pragma once
 
 #include "forms/layout.h"

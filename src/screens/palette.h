@@ -1,4 +1,4 @@
-// The colours of every form, under the screens' own roof.
+// The colours of all forms, as screens::palette.
 #pragma once
 
 #include "forms/palette.h"

@@ -9,12 +9,12 @@ namespace screens {
 
 enum class Period { Durvela, Gulik, Yum };
 
-// The daylight of 5 March 2011 in Delhi as an arc of eight, the part of each period in its colour
-// with its times. 328 by 208.
+// The daylight of 5 March 2011 in Delhi as an arc of eight parts, each period in its colour with
+// its times. 328 by 208.
 forms::PicturePtr SampleDay(const std::vector<Period>& periods);
 
-// Which of the eight parts each period takes from Sunday to Saturday. 328 wide, 30 a row and as
-// much for the weekdays.
+// The part that each period takes from Sunday to Saturday. 328 wide; 30 per row, with one row for
+// the weekdays.
 forms::PicturePtr WeekdayTable(const std::vector<Period>& periods);
 
 }  // namespace screens

@@ -1,4 +1,4 @@
-// The six labels in which a screen holds its place, and their ways to settings and session.
+// The six labels in which a screen keeps its place, and their exchange with settings and session.
 #pragma once
 
 #include <array>
@@ -13,20 +13,20 @@ namespace screens {
 // offset.
 using PlaceLabels = std::array<forms::Control*, foundation::kPlaceSettings.size()>;
 
-// Of a form that has the labels under their usual names.
+// The labels of a form that has them under their usual names.
 template <typename Form>
 PlaceLabels PlaceLabelsOf(Form& form) {
   return {&form.lblCountry, &form.lblCity, &form.lblLat,
           &form.lblLong,    &form.lblZone, &form.lblZoneTime};
 }
 
-// Shows the default place; a setting that cannot be read leaves its label.
+// Shows the default place; a setting that cannot be read leaves its label unchanged.
 void ShowDefaultPlace(foundation::Settings& settings, const PlaceLabels& labels);
 
-// Makes the labels' place the default. FileAccess where it cannot be saved.
+// Saves the labels' place as the default. FileAccess if it cannot be saved.
 void SaveDefaultPlace(foundation::Settings& settings, const PlaceLabels& labels);
 
-// Makes the labels' place that of a record.
+// Copies the labels' place to a record.
 void CopyPlace(const PlaceLabels& labels, foundation::SessionRecord& record);
 
 }  // namespace screens

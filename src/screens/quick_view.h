@@ -1,4 +1,4 @@
-// The list of the timetable: a row a day with its date, weekday and Durvela.
+// The timetable's list: one row per day with date, weekday and Durvela.
 #pragma once
 
 #include "forms/drawing_target.h"
@@ -7,9 +7,9 @@
 
 namespace screens {
 
-// Clears the page and draws a row for each day from `start`, at its time of day, up to `end`; a
-// last day whose time has passed `end` has none. Positions are twips. The errors of the
-// calculations and of the page come through; rows drawn until then stay.
+// Clears the page and draws a row for each day from `start`, at its time of day, as long as that is
+// not after `end`. Positions are in twips. Passes on errors of the calculations and the page; rows
+// drawn before stay.
 void DrawQuickView(forms::DrawingTarget& page, foundation::DateTime start, foundation::DateTime end,
                    const foundation::SessionTable& session);
 

@@ -1,4 +1,4 @@
-// A form whose controls keep in proportion to its window, down to three quarters of its first size.
+// A form whose controls scale with its window, down to three quarters of its initial size.
 #pragma once
 
 #include <string_view>
@@ -11,7 +11,7 @@ namespace screens {
 
 class ScaledForm : public forms::Form {
  public:
-  // Width and height in logical pixels.
+  // Width and height are in logical pixels.
   ScaledForm(std::string_view formName, std::string_view title, float width, float height)
       : Form(formName, title, width * layout::kTwipsPerPixel, height * layout::kTwipsPerPixel) {
     minimumWidth = 0.75F * scaleWidth;

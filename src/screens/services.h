@@ -1,4 +1,4 @@
-// What the screens are given to work with.
+// The services that the screens use.
 #pragma once
 
 #include "forms/screen_services.h"

@@ -23,7 +23,7 @@ constexpr auto kStraw = forms::Rgb(0xF7D070);
 constexpr auto kGreen = forms::Rgb(0x7BD3A7);
 constexpr auto kViolet = forms::Rgb(0xC792EA);
 
-// Paths drawn as lines in one colour.
+// Paths drawn as lines in a single colour.
 forms::PicturePtr Drawing(Colour colour, std::initializer_list<Path> lines,
                           std::initializer_list<Path> filled = {}) {
   auto picture = forms::NewPicture(kField, kField);
@@ -34,7 +34,7 @@ forms::PicturePtr Drawing(Colour colour, std::initializer_list<Path> lines,
   return picture;
 }
 
-// The arc of the day with one of its eighths filled.
+// The arc of the day with one eighth filled.
 forms::PicturePtr EighthOfArc(Colour colour, int segment) {
   const Point foot = {28, 42};
   return Drawing(

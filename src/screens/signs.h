@@ -1,4 +1,4 @@
-// The signs of the program: a picture for each item of the menu, and the program's own.
+// The program's signs: one for each menu item, and the program icon.
 #pragma once
 
 #include <array>
@@ -14,7 +14,7 @@ struct MenuSign {
   forms::PicturePtr picture;  // on a field of 56 by 56
 };
 
-// In the order of the menu.
+// In menu order.
 const std::array<MenuSign, 8>& MenuSigns();
 
 // The arc with one eighth in the Durvela colour and the sun beside it, on a field of 64 by 64.
@@ -23,7 +23,7 @@ forms::PicturePtr ProgramSign();
 // A sun with its rays, on a field of 56 by 56.
 forms::PicturePtr SunSign();
 
-// What a message box is about, on a field of 56 by 56; null for nothing.
+// The sign of a message box, on a field of 56 by 56; null for none.
 forms::PicturePtr BoxSign(foundation::MessageIcon icon);
 
 }  // namespace screens

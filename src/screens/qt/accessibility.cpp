@@ -13,7 +13,7 @@ bool HasChildren(const QWidget& widget) {
   return widget.findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
 }
 
-// There to be seen alone: a shape, a line, a picture without words.
+// Purely visual: a shape, a line, a picture without words.
 bool IsDecoration(QWidget& widget) {
   const auto* painted = qobject_cast<ControlWidget*>(&widget);
   return painted != nullptr && painted->Model().kind != forms::Kind::Label &&
@@ -21,7 +21,7 @@ bool IsDecoration(QWidget& widget) {
          QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name).isEmpty();
 }
 
-// A widget whose decorations are not told.
+// A widget that hides its decorations from assistive programs.
 class AccessibleContainer : public QAccessibleWidget {
  public:
   using QAccessibleWidget::QAccessibleWidget;
@@ -55,8 +55,8 @@ class AccessibleForm : public AccessibleContainer {
   }
 };
 
-// Takes its name from the widget, which follows the caption; a picture tells its words, a tile can
-// be pressed.
+// Takes its name from the widget, which follows the caption. A picture exposes its words; a tile
+// can be pressed.
 class AccessibleControl : public AccessibleContainer {
  public:
   using AccessibleContainer::AccessibleContainer;
@@ -69,7 +69,7 @@ class AccessibleControl : public AccessibleContainer {
     return HasChildren(*painted) ? QAccessible::Grouping : QAccessible::Graphic;
   }
 
-  // The words of a picture describe it, or name it where it has no name.
+  // The words of a picture are its description, or its name if it has no other.
   QString text(QAccessible::Text kind) const override {
     const QString told = AccessibleContainer::text(kind);
     const ControlWidget* painted = Painted();
@@ -86,7 +86,7 @@ class AccessibleControl : public AccessibleContainer {
     return names;
   }
 
-  // Who asks for a press does not wait until the window that it opens is closed.
+  // Queued, so that the caller does not wait until the window that it opens is closed.
   void doAction(const QString& name) override {
     if (name == pressAction() && actionNames().contains(name)) {
       QMetaObject::invokeMethod(
@@ -97,7 +97,7 @@ class AccessibleControl : public AccessibleContainer {
   }
 
  private:
-  // Null while it is being destroyed, which is told as well.
+  // Null while the widget is being destroyed, when this is still called.
   ControlWidget* Painted() const { return qobject_cast<ControlWidget*>(object()); }
 };
 

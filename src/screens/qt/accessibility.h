@@ -1,9 +1,9 @@
-// Tells assistive programs what the painted controls are.
+// Describes the painted controls to assistive programs.
 #pragma once
 
 namespace screens::qt {
 
-// Once, before the first window.
+// Call once, before the first window.
 void InstallAccessibility();
 
 }  // namespace screens::qt

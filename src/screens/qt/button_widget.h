@@ -1,4 +1,4 @@
-// A button.
+// A push button.
 #pragma once
 
 #include <QPushButton>
@@ -17,7 +17,7 @@ class ButtonWidget : public QPushButton, public ControlView {
   void Mirror() override;
 };
 
-// The style sheet of all buttons, by their look.
+// The style sheet of all buttons, by look.
 QString ButtonStyle();
 
 }  // namespace screens::qt

@@ -1,4 +1,4 @@
-// What shows one control of a form.
+// The widget that shows one control of a form.
 #pragma once
 
 #include <QRect>
@@ -11,7 +11,7 @@
 
 namespace screens::qt {
 
-// Runs one handler of the form and mirrors what it changed.
+// Runs a handler of the form, then shows what it changed.
 using Dispatch = std::function<void(const std::function<void()>& handler)>;
 
 // Owned by its parent widget.
@@ -23,13 +23,13 @@ class ControlView {
 
   virtual QWidget& Widget() = 0;
 
-  // Takes over what has changed in the control since the last time.
+  // Shows what has changed in the control since the last call.
   virtual void Mirror() = 0;
 
   forms::Control& Model() const { return control_; }
 
  protected:
-  // Whether the control's properties differ from those taken last; takes them.
+  // Takes the control's properties; returns whether they differ from those taken last.
   bool TakeProperties();
 
   forms::Control& control_;
@@ -37,13 +37,13 @@ class ControlView {
   std::optional<forms::Properties> shown_;
 };
 
-// For any kind but a timer.
+// For any kind except a timer.
 ControlView* MakeView(forms::Control& control, const Dispatch& dispatch, QWidget* parent);
 
-// Where a control stands in its parent, in logical pixels, without what its look adds around it.
+// A control's place in its parent in logical pixels, without anything that its look adds around it.
 QRect PlaceInPixels(const forms::Control& control);
 
-// Place, tool tip, state and names, the same for every kind.
+// Sets place, tool tip, state and names, which all kinds share.
 void Dress(QWidget& widget, const forms::Control& control, const QRect& place);
 
 }  // namespace screens::qt

@@ -7,7 +7,7 @@ namespace screens::qt {
 namespace {
 
 constexpr int kSecond = 1000;    // milliseconds
-constexpr int kPastTheTurn = 5;  // so that the clock has surely turned when the handler reads it
+constexpr int kPastTheTurn = 5;  // so that the clock has turned when the handler reads it
 
 }  // namespace
 

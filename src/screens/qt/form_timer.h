@@ -1,5 +1,5 @@
-// A timer of a form. Whole seconds keep step with the clock, so that a clock shown by it never
-// leaves a second out; a handler that runs long is not entered a second time.
+// A timer of a form. Intervals of whole seconds are aligned with the clock, so that a displayed
+// clock never skips a second. A handler that is still running is not called again.
 #pragma once
 
 #include <QTimer>
@@ -18,7 +18,7 @@ class FormTimer : public QObject {
   // Follows the control's interval and enabled state.
   void Mirror();
 
-  // For good.
+  // Cannot be started again.
   void Stop();
 
  private:

@@ -16,7 +16,7 @@ bool QtClipboard::SetPicture(const forms::PicturePtr& picture) {
   const QImage image = ImageOf(own ? *own : QtRasteriser().Render(*picture)).copy();
   if (image.isNull()) return false;
   QClipboard& clipboard = *QGuiApplication::clipboard();
-  auto* const data = new QMimeData;  // the clipboard's, also where it is refused
+  auto* const data = new QMimeData;  // owned by the clipboard even if it refuses
   data->setImageData(image);
   clipboard.setMimeData(data);
   return clipboard.mimeData() == data;

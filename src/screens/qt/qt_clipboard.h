@@ -1,4 +1,4 @@
-// The clipboard of the screen.
+// The system clipboard.
 #pragma once
 
 #include "forms/screen_services.h"
@@ -7,7 +7,7 @@ namespace screens::qt {
 
 class QtClipboard : public forms::Clipboard {
  public:
-  // As dots; false for no picture too.
+  // Stores pixels. Returns false for a null picture too.
   bool SetPicture(const forms::PicturePtr& picture) override;
 };
 

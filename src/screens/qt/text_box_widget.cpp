@@ -12,7 +12,7 @@
 namespace screens::qt {
 namespace {
 
-constexpr int kRemarkMargin = 8;  // pixels on both sides of a remark
+constexpr int kRemarkMargin = 8;  // pixels on each side of a remark
 
 }  // namespace
 
@@ -54,8 +54,8 @@ void TextBoxWidget::paintEvent(QPaintEvent* event) {
                    ToQt(control_.trailing));
 }
 
-// All of the text is selected whichever way the focus comes; a click would put the cursor into it
-// again when its button is released.
+// Selects the whole text on any focus. After a click this must wait for the release, which places
+// the cursor.
 void TextBoxWidget::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
   clickedInto_ = event->reason() == Qt::MouseFocusReason;
