@@ -1,5 +1,5 @@
-// Fills the tables and figures of docs/accuracy.md into its template: how far the system's figures
-// lie from those of the Swiss Ephemeris.
+// Fills in the template of docs/accuracy.md: differences between this program's results and those
+// of the Swiss Ephemeris.
 
 #include <algorithm>
 #include <cmath>
@@ -24,7 +24,7 @@ using foundation::FixedText;
 
 constexpr std::int32_t kAsSeen = SEFLG_MOSEPH;
 
-// Ours less theirs.
+// Differences, ours minus theirs.
 class Differences {
  public:
   void Add(double x) {
@@ -36,7 +36,7 @@ class Differences {
   int Count() const { return count_; }
   double Mean() const { return sum_ / count_; }
 
-  // A new line "| name | mean | mean size | worst |", each times `scale`.
+  // A new line "| name | mean | mean size | worst |", with values times `scale`.
   std::string Row(const std::string& name, double scale, int decimals) const {
     std::string row = "\n| " + name;
     for (const double x : {Mean(), sizes_ / count_, worst_}) {
@@ -54,14 +54,14 @@ std::string Head(const std::string& title) {
   return "| " + title + " | mean | mean size | worst |\n|---|---|---|---|";
 }
 
-// The way from b to a on a circle.
+// The signed distance from b to a on a circle.
 double Apart(double a, double b, double circle) {
   return std::remainder(a - b, circle);
 }
 
 constexpr double kStep = 5.37;  // days
 
-// `measure` of a chart and its Julian Day.
+// Applies `measure` to charts and their Julian Days.
 template <typename Measure>
 Differences Over1950To2050(const Measure& measure) {
   Differences differences;
@@ -80,7 +80,7 @@ Differences Over1950To2050(const Measure& measure) {
 struct Compared {
   std::string table;
   int moments = 0;
-  double constant = 0;  // degrees: the Sun's mean difference, taken off all
+  double constant = 0;  // degrees: the Sun's mean difference, subtracted from all
 };
 
 Compared Positions() {
@@ -119,12 +119,12 @@ std::string SiderealTime() {
   return Head("seconds") + Over1950To2050(difference).Row("Sidereal time", 3600, 3);
 }
 
-// What is watched grows by `step` degrees until the element ends.
+// An element ends when the angle it depends on has grown by `step` degrees.
 struct Element {
   const char* name;
   decltype(&clsBirthDetails::GetTITHIending) ending;
   double step;
-  bool isOfMoonAlone;
+  bool usesOnlyMoon;
 };
 constexpr Element kElements[] = {
     {"Tithi", &clsBirthDetails::GetTITHIending, 12, false},
@@ -134,11 +134,11 @@ constexpr Element kElements[] = {
 
 constexpr double kDelhiZone = 5.5 / 24;  // days
 
-// The engine's own ayanamsa decides where the nakshatras begin.
+// Uses the engine's ayanamsa, which decides where the nakshatras begin.
 double Watched(const Element& element, DateTime clock) {
   const double julianDay = peer::JulianDay(clock - kDelhiZone);
   const double moon = peer::Longitude(julianDay, SE_MOON, kAsSeen);
-  if (!element.isOfMoonAlone) return moon - peer::Longitude(julianDay, SE_SUN, kAsSeen);
+  if (!element.usesOnlyMoon) return moon - peer::Longitude(julianDay, SE_SUN, kAsSeen);
   engine::clsPP pp;
   const auto at = foundation::FieldsOf(clock);
   pp.GenHoro(at.day, at.month, at.year, 0, 0, 0, "77.13E", "28.40N", "82.30E", 0,
@@ -146,7 +146,7 @@ double Watched(const Element& element, DateTime clock) {
   return moon - pp.pp_AYAN;
 }
 
-// By halving.
+// By bisection.
 DateTime TheirEnd(const Element& element, DateTime from) {
   const auto number = [&](DateTime clock) {
     return std::floor(swe_degnorm(Watched(element, clock)) / element.step);
@@ -161,7 +161,7 @@ DateTime TheirEnd(const Element& element, DateTime from) {
   return after;
 }
 
-// All that end in 2011, each sought from an hour after the one before it.
+// All elements ending in 2011; each search starts an hour after the previous end.
 std::string Endings() {
   const foundation::SessionTable session = support::Delhi();
   std::string table = Head("seconds of time, Delhi 2011");
@@ -196,7 +196,7 @@ constexpr Place kPlaces[] = {
     {"Maxwell Bay, 62.2° S", -62.2, -58.97, -3},
 };
 
-// Hours of the place's clock at which the sun's upper edge rises or sets, next after midnight.
+// The next rise or set of the sun's upper limb after midnight, in hours of local clock time.
 double TheirHours(const Place& place, DateTime midnight, int riseOrSet) {
   double at[3] = {place.longitude, place.latitude, 0};
   double found = 0;
@@ -230,7 +230,7 @@ std::string Sunrises() {
   return table + "\n\n" + sets;
 }
 
-// Each "@name@" of the text becomes its value.
+// Replaces each "@name@" in the text by its value.
 void FillIn(std::string& text, const std::string& name, const std::string& value) {
   const std::string mark = "@" + name + "@";
   for (std::size_t at = 0; (at = text.find(mark, at)) != text.npos; at += value.size()) {

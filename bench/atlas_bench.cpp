@@ -1,5 +1,5 @@
-// The search of one keystroke in the country with the most places, and beside it, where SQLite is
-// installed, the same question to a prefix table of its full-text index over the same names.
+// Searching the country with the most places for one keystroke. If SQLite is installed, compared
+// with the same query on a prefix table of its full-text index over the same names.
 
 #include <string>
 
@@ -26,7 +26,7 @@ struct ListForm : forms::Form {
   CONTROL(ListBox, List, {.sorted = true});
 };
 
-// The country's names in their list.
+// The country's names in a list.
 struct Loaded {
   NoEvents events;
   atlas::clsAtlas atlas{events};
@@ -51,7 +51,7 @@ FIGURE(SearchMiss, MISS, "Durvela");
 
 #ifdef HAVE_SQLITE
 
-// A table with the names in the list's order, and one prepared question for the first of them.
+// A table of the names in list order, and a prepared query for the first match.
 class FullTextTable {
  public:
   FullTextTable() {

@@ -1,5 +1,4 @@
-// Charts, and what follows from them, beside the Swiss Ephemeris and libnova where these are
-// installed.
+// Charts and what is derived from them, compared with the Swiss Ephemeris and libnova if installed.
 
 #include "bench/figure.h"
 #include "dayperiods/clsBirthDetails.h"
@@ -26,8 +25,8 @@ using foundation::DateTime;
 #define YEAR "a year's sunrises and sunsets"
 #define PERIODS "a year's three periods, a chart for each call"
 
-// Every chart has a moment of its own, some days and hours on, so that nobody meets what has just
-// been worked out.
+// Each chart gets another moment, some days and hours later, so that nothing can be served from a
+// cache.
 class Moments {
  public:
   DateTime Next() {
@@ -49,7 +48,7 @@ std::int16_t Field(int x) {
   return static_cast<std::int16_t>(x);
 }
 
-// Every day of a year of its own.
+// Works on every day of a year; each iteration takes the next year.
 template <typename Work>
 void EachDayOfAYear(benchmark::State& state, const Work& work) {
   int year = 1950;
@@ -74,7 +73,7 @@ FIGURE(GenHoro, CHART, "Durvela");
 
 #ifdef HAVE_SWISSEPH
 
-// Eleven bodies, Ketu from the node, and houses by trisected quadrants.
+// Eleven bodies, with Ketu derived from the node, and houses from trisected quadrants.
 void ChartBySwissEphemeris(benchmark::State& state) {
   constexpr std::int32_t kFlags = SEFLG_MOSEPH | SEFLG_SIDEREAL;
   swe_set_sid_mode(SE_SIDM_LAHIRI, 0, 0);
@@ -101,7 +100,7 @@ FIGURE(ChartBySwissEphemeris, CHART, "Swiss Ephemeris, analytic");
 #endif
 #ifdef HAVE_NOVA
 
-// The ten bodies that it has, by their equatorial places; it knows no houses.
+// The ten bodies that libnova has, the planets in equatorial coordinates; it has no houses.
 void ChartByNova(benchmark::State& state) {
   Moments moments;
   for (auto _ : state) {
@@ -142,7 +141,7 @@ FIGURE(YearOfSunrises, YEAR, "Durvela")->Unit(benchmark::kMillisecond);
 
 #ifdef HAVE_SWISSEPH
 
-// Julian days.
+// A Julian Day.
 double RiseOrSetBySwissEphemeris(DateTime day, int which) {
   double at[3] = {kLongitude, kLatitude, 0};
   double found = 0;
@@ -193,7 +192,7 @@ void PeriodsBySwissEphemeris(benchmark::State& state) {
   EachDayOfAYear(state, [](DateTime day) {
     const double rise = RiseOrSetBySwissEphemeris(day, SE_CALC_RISE);
     const double eighth = (RiseOrSetBySwissEphemeris(day, SE_CALC_SET) - rise) / 8;
-    for (const int part : {2, 7, 5}) {  // those of a Saturday
+    for (const int part : {2, 7, 5}) {  // as on a Saturday
       double start = rise + part * eighth;
       benchmark::DoNotOptimize(start);
     }
@@ -204,8 +203,8 @@ FIGURE(PeriodsBySwissEphemeris, PERIODS, "Swiss Ephemeris, analytic, no chart")
 
 #endif
 
-// 21 charts by hours, 60 by minutes and 59 by seconds, since this tithi ends at 19:24:19 of the
-// next day: nearly the most that an element takes.
+// Calculates 21 charts by hours, 60 by minutes and 59 by seconds, since this tithi ends at 19:24:19
+// on the next day: close to the worst case.
 void TithiEnding(benchmark::State& state) {
   const foundation::SessionTable session = support::Delhi();
   for (auto _ : state) {
@@ -213,9 +212,9 @@ void TithiEnding(benchmark::State& state) {
         dayperiods::clsBirthDetails().GetTITHIending(14, 4, 2011, 23, 23, 20, session));
   }
 }
-FIGURE(TithiEnding, "the end of a tithi, to the second, at worst", "Durvela");
+FIGURE(TithiEnding, "the end of a tithi, to the second, worst case", "Durvela");
 
-// The texts of all labels.
+// Updates the texts of all labels.
 void OneTick(benchmark::State& state) {
   screens::Dashboard dashboard;
   const DateTime noon = DateFromParts(2011, 3, 5) + 0.5;

@@ -1,4 +1,4 @@
-// The Swiss Ephemeris (Astrodienst AG) with its built-in analytic theory, as a peer of the engine.
+// The Swiss Ephemeris (Astrodienst AG) with its built-in analytic theory, for comparison.
 #pragma once
 
 #include <swephexp.h>
@@ -16,8 +16,8 @@ inline double JulianDay(foundation::DateTime universalTime) {
   return universalTime + 2415018.5;
 }
 
-// What is compared is the direction at the moment, on the mean ecliptic and equinox of date: of the
-// planets as light left them, without aberration.
+// Compared are directions on the mean ecliptic and equinox of date; for planets with light time but
+// without aberration.
 inline constexpr std::int32_t kMeanOfDate = SEFLG_MOSEPH | SEFLG_NONUT;
 inline constexpr std::int32_t kGeometric = kMeanOfDate | SEFLG_TRUEPOS;
 inline constexpr std::int32_t kAstrometric = kMeanOfDate | SEFLG_NOABERR | SEFLG_NOGDEFL;
@@ -49,7 +49,7 @@ inline constexpr Body kBodies[] = {
   std::exit(EXIT_FAILURE);
 }
 
-// Degrees.
+// In degrees.
 inline double Longitude(double julianDay, int body, std::int32_t flags) {
   double place[6];
   char error[AS_MAXCH];

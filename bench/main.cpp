@@ -1,5 +1,5 @@
-// Prints README's table of costs. With a number: the figures of a dashboard by itself, see
-// window_bench.h.
+// Prints README's cost table. With a number as argument, measures a dashboard in its own process;
+// see window_bench.h.
 
 #include <benchmark/benchmark.h>
 
@@ -21,7 +21,7 @@ std::string TimeText(double seconds) {
   return FixedText(seconds * 1e3, seconds < 1e-2 ? 2 : 0) + " ms";
 }
 
-// The entry of that name, at the end of the list if it is new.
+// The entry with that name; appended if it is new.
 template <typename T>
 T& Entry(std::vector<T>& list, std::string T::*key, const std::string& name) {
   const auto found =
@@ -32,7 +32,7 @@ T& Entry(std::vector<T>& list, std::string T::*key, const std::string& name) {
   return fresh;
 }
 
-// Gathers the least time of each name "line|who", and puts peers beside their line.
+// Keeps the best time of each "line|program", and lists peers next to their row.
 class Table : public benchmark::BenchmarkReporter {
  public:
   bool ReportContext(const Context&) override { return true; }
@@ -48,15 +48,16 @@ class Table : public benchmark::BenchmarkReporter {
   }
 
   void Print() const {
-    std::puts("| | Durvela | beside it (times as long) |\n|---|---|---|");
+    std::puts("| | Durvela | peers (times as long) |\n|---|---|---|");
     for (const Line& line : lines_) {
       const double own = line.times.front().seconds;
       std::string peers;
       for (std::size_t i = 1; i < line.times.size(); ++i) {
-        const auto& [who, seconds] = line.times[i];
+        const auto& [program, seconds] = line.times[i];
         if (i > 1) peers += ", ";
         const double times = seconds / own;
-        peers += who + " " + TimeText(seconds) + " (" + FixedText(times, times < 1 ? 2 : 1) + ")";
+        peers +=
+            program + " " + TimeText(seconds) + " (" + FixedText(times, times < 1 ? 2 : 1) + ")";
       }
       std::puts(("| " + line.name + " | " + TimeText(own) + " | " + peers + " |").c_str());
     }
@@ -64,7 +65,7 @@ class Table : public benchmark::BenchmarkReporter {
 
  private:
   struct Time {
-    std::string who;
+    std::string program;
     double seconds = std::numeric_limits<double>::infinity();
   };
   struct Line {
@@ -72,8 +73,8 @@ class Table : public benchmark::BenchmarkReporter {
     std::vector<Time> times;
   };
 
-  void Note(const std::string& name, const std::string& who, double seconds) {
-    Time& time = Entry(Entry(lines_, &Line::name, name).times, &Time::who, who);
+  void Note(const std::string& name, const std::string& program, double seconds) {
+    Time& time = Entry(Entry(lines_, &Line::name, name).times, &Time::program, program);
     time.seconds = std::min(time.seconds, seconds);
   }
 
@@ -83,13 +84,13 @@ class Table : public benchmark::BenchmarkReporter {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc == 2 && bench::IsAlone(argv[1])) return bench::RunAlone(argc, argv);
+  if (argc == 2 && bench::IsChild(argv[1])) return bench::RunChild(argc, argv);
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return EXIT_FAILURE;
   Table table;
   benchmark::RunSpecifiedBenchmarks(&table);
   table.Print();
-  bench::PrintAlone();
+  bench::PrintChild();
   benchmark::Shutdown();
   return EXIT_SUCCESS;
 }

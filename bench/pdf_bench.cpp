@@ -1,5 +1,5 @@
-// Pages of text in a PDF file, and beside them the same text by libharu, where it is installed, in
-// a base font and uncompressed, and by the toolkit, which embeds its font and compresses.
+// Writing pages of text to a PDF file, compared with libharu (if installed), which uses a base font
+// uncompressed, and with the toolkit, which embeds its font and compresses.
 
 #include <QFont>
 #include <QPainter>

@@ -43,7 +43,7 @@ double ResidentMegabytes() {
   return 0;
 }
 
-// Notes the moment at which a window has been painted for the first time.
+// Records when a window is first painted.
 class FirstPaint : public QObject {
  public:
   double at = 0;
@@ -58,23 +58,23 @@ class FirstPaint : public QObject {
 };
 
 void RunFor(double seconds) {
-  // Not quit(), which would ask the windows, and the dashboard its user.
+  // Not quit(), which would ask the windows first, and the dashboard would ask its user.
   QTimer::singleShot(static_cast<int>(seconds * 1000), [] { QCoreApplication::exit(); });
   QApplication::exec();
 }
 
-// One program for all that is measured in windows.
+// The program that all window benchmarks share.
 screens::qt::Program& OneProgram() {
   NeedToolkit();
   static auto* const program = [] {
-    auto* fresh = new screens::qt::Program;  // lives until the process ends, as its windows do
+    auto* fresh = new screens::qt::Program;  // lives until the process ends, like its windows
     fresh->Start();
     return fresh;
   }();
   return *program;
 }
 
-// Each run begins with a country of a few places.
+// Each run starts from a country with few places.
 void LargestCountry(benchmark::State& state) {
   screens::qt::Program& program = OneProgram();
   screens::frmCity& picker = program.Picker();
@@ -90,7 +90,8 @@ void LargestCountry(benchmark::State& state) {
   }
   program.host.Hide(picker);
 }
-FIGURE(LargestCountry, "the largest country (21,133 places) into the open picker", "Durvela")
+FIGURE(LargestCountry, "loading the largest country (21,133 places) into the open picker",
+       "Durvela")
     ->Iterations(5);
 
 void YearsReport(benchmark::State& state) {
@@ -127,11 +128,11 @@ void NeedToolkit() {
   screens::qt::DressApplication();
 }
 
-bool IsAlone(std::string_view argument) {
+bool IsChild(std::string_view argument) {
   return foundation::WholeNumber(argument).has_value();
 }
 
-int RunAlone(int argc, char** argv) {
+int RunChild(int argc, char** argv) {
   const double made = *foundation::WholeNumber(argv[1]);
   screens::qt::LeaveThemeAside();
   QApplication application(argc, argv);
@@ -151,7 +152,7 @@ int RunAlone(int argc, char** argv) {
   return 0;
 }
 
-void PrintAlone() {
+void PrintChild() {
   NeedToolkit();
   QProcess child;
   child.start(QCoreApplication::applicationFilePath(),
@@ -163,9 +164,9 @@ void PrintAlone() {
     std::puts(("| " + std::string(what) + " | " + figure.trimmed().toStdString() + unit + " | |")
                   .c_str());
   };
-  line("start to the first painted window", figures[0], " ms");
-  line("processor while the dashboard stands open", figures[1], " %");
-  line("memory that it holds", figures[2], " MB");
+  line("start to first painted window", figures[0], " ms");
+  line("processor use of an open dashboard", figures[1], " %");
+  line("memory of an open dashboard", figures[2], " MB");
 }
 
 }  // namespace bench

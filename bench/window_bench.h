@@ -1,22 +1,22 @@
-// What the dashboard costs in a process of its own.
+// Costs of the dashboard in its own process.
 #pragma once
 
 #include <string_view>
 
 namespace bench {
 
-// Makes the toolkit's application at the first call. Not before: what it leaves in the vector
-// registers slows plain arithmetic down to a fifth until some library call clears them, which a
-// loop of charts alone does not make.
+// Creates the toolkit's application on the first call. Call it only when needed: what it leaves in
+// the vector registers slows plain arithmetic to a fifth of its speed until some library call
+// clears them, and a loop of charts makes no such call.
 void NeedToolkit();
 
-// The part of the child: its argument is the moment at which its parent made it, in seconds since
-// the machine's start. It prints milliseconds to the first painted window, per cent of a processor
-// while nobody touches it, and resident megabytes.
-bool IsAlone(std::string_view argument);
-int RunAlone(int argc, char** argv);
+// The child process. The argument is the time at which the parent started it, in seconds since
+// boot. Prints the milliseconds to the first painted window, per cent of a processor while idle,
+// and resident megabytes.
+bool IsChild(std::string_view argument);
+int RunChild(int argc, char** argv);
 
-// The part of the parent: starts a child, and prints the three as lines of the table.
-void PrintAlone();
+// The parent: starts a child and prints its three figures as rows of the table.
+void PrintChild();
 
 }  // namespace bench
