@@ -1,18 +1,18 @@
-// Makes data/atlas/places/*.tsv from the gazetteers that `npm ci` fetches; docs/atlas.md tells how.
+// Makes data/atlas/places/*.tsv from the gazetteers that `npm ci` fetches; see docs/atlas.md.
 import { mkdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
 
 import { countryMap, groupBy, here, placesFolder } from './tables.mjs';
 
 const readJson = (path) => JSON.parse(readFileSync(here(`node_modules/${path}`), 'utf8'));
 
-// Letters that are no plain letter with marks.
+// Letters that do not decompose into a plain letter with marks.
 const likeness = {
   ı: 'i', ø: 'o', Ø: 'O', đ: 'd', Đ: 'D', ð: 'd', Ð: 'D', ł: 'l', Ł: 'L', ħ: 'h', Ħ: 'H',
   æ: 'ae', Æ: 'Ae', œ: 'oe', Œ: 'Oe', þ: 'th', Þ: 'Th', ß: 'ss', ǝ: 'a', ə: 'a', Ə: 'A',
   '‘': "'", '’': "'", ʼ: "'", ʻ: "'", '´': "'", '”': '"', '–': '-',
 };
 
-// A name in printable ASCII without commas; an error if a letter is left that has no likeness.
+// A name in printable ASCII without commas. Throws if a letter has no ASCII equivalent.
 function plainName(name) {
   const ascii = [...name].map((letter) => likeness[letter] ?? letter).join('')
     .normalize('NFKD').replace(/\p{Mark}/gu, '')
@@ -37,8 +37,8 @@ function placesOfTheWorld() {
   });
 }
 
-// The places of India that the world's list lacks. One at the same spot is the same place, and so
-// is one of the same name and state within some kilometres, its position mended in between.
+// The places of India that the world list lacks. Places at the same spot are the same, as are those
+// of the same name and state within some kilometres, whose position was corrected meanwhile.
 function furtherPlacesOfIndia(world) {
   const spot = ({ latitude, longitude }) => `${latitude}\t${longitude}`;
   const nameInState = ({ name, admin1 }) => `${name.toLowerCase()}\t${admin1}`;
@@ -58,8 +58,8 @@ function furtherPlacesOfIndia(world) {
     .filter((place) => !knownNames.get(nameInState(place))?.some((other) => isNear(place, other)));
 }
 
-// Names of divisions by code, "IN.36" and "IN.36.197". The names of the older release fit the codes
-// of the world's list; the newer fills its gaps and names the states of India, whose places it has.
+// Names of divisions by code, "IN.36" and "IN.36.197". The older release's names match the codes of
+// the world list; the newer one fills gaps and names the states of India, whose places it supplies.
 function divisionNames(table) {
   const ofIndia = ({ code }) => code.startsWith('IN.');
   const newer = readJson(`cities-india/${table}.json`);
@@ -71,18 +71,18 @@ const firstLevel = divisionNames('admin1');
 const secondLevel = divisionNames('admin2');
 const countries = new Map(countryMap.map((country) => [country.iso, country]));
 
-// A country's own name behind the state where it stands in another country's file.
+// The name appended to the state if the country is listed in another country's file.
 const ownName = ({ note }) => note.match(/state ends in " - (.+)"/)?.[1];
 
-// The name of the place's file, without ".tsv".
+// The file that a place goes into, without ".tsv".
 function fileName({ iso, admin1 }) {
   const { file_name: name } = countries.get(iso);
   if (iso !== 'GB') return name;
   return { ENG: 'England', SCT: 'Scotland', NIR: 'Northern Ireland' }[admin1] ?? 'U.K.';
 }
 
-// First level, second level if asked for, own name; none twice. A place of no known division has
-// its country for a state.
+// First level, second level if requested, country's own name, without duplicates. A place without a
+// known division gets its country as the state.
 function stateOf(place, withSecondLevel) {
   const { iso, admin1, admin2 } = place;
   const country = countries.get(iso);
@@ -104,7 +104,7 @@ const largest = (places) =>
 const several = (places) =>
   [...groupBy(places, inFile).values()].filter(({ length }) => length > 1);
 
-// A question mark stands for letters that were lost on the way into the gazetteer.
+// Question marks replace letters that were lost before they reached the gazetteer.
 const isDamaged = ({ name }) => name.includes('?');
 
 function gather() {

@@ -1,5 +1,5 @@
-// Writes the city files of the atlas: the places of a country's table become the scrambled records
-// of <country>.city.
+// Writes the city files of the atlas: converts each country's table of places to the scrambled
+// records of <country>.city.
 
 #include <algorithm>
 #include <cmath>
@@ -22,7 +22,7 @@ namespace fs = std::filesystem;
 
 double Degrees(std::string_view text) {
   const auto number = foundation::WholeNumber(text);
-  if (!number) throw std::runtime_error("no number of degrees: " + std::string(text));
+  if (!number) throw std::runtime_error("not a number of degrees: " + std::string(text));
   return *number;
 }
 
@@ -30,8 +30,8 @@ std::int32_t LatitudeMinutes(double latitude) {
   return foundation::RoundToInt32(std::abs(latitude) * 60);
 }
 
-// A longitude of whole degrees would be read as so many minutes: it moves by one, towards the side
-// on which the place lies.
+// A longitude of whole degrees would be read as minutes, so it is moved by one minute, toward the
+// exact position.
 std::int32_t LongitudeMinutes(double longitude) {
   const double exact = std::abs(longitude) * 60;
   const std::int32_t minutes = foundation::RoundToInt32(exact);
@@ -45,13 +45,13 @@ std::string DegreesAndMinutes(std::int32_t minutes) {
   return std::to_string(minutes / 60) + (pastDegrees.size() < 2 ? ".0" : ".") + pastDegrees;
 }
 
-// Under which name a place is searched: nobody types the mark before "'Aiea".
+// The name to search by: nobody types the mark that starts "'Aiea".
 std::string_view SearchName(std::string_view place) {
   return place.substr(std::min(place.find_first_not_of("'`"), place.size() - 1));
 }
 
-// The record of a table's line: place, state, latitude, longitude; what stands behind is not for
-// the city file.
+// The record for a table line: place, state, latitude, longitude. City files do not use the
+// remaining fields.
 std::string Record(std::string_view line, const std::string& country) {
   const auto fields = foundation::Split(line, '\t');
   if (fields.size() != 7) throw std::runtime_error("not seven fields");
@@ -60,7 +60,8 @@ std::string Record(std::string_view line, const std::string& country) {
   const double latitude = Degrees(fields[2]);
   const double longitude = Degrees(fields[3]);
   for (const char c : place + state) {
-    if (c < ' ' || c > '~' || c == ',') throw std::runtime_error("a name with a comma or no ASCII");
+    if (c < ' ' || c > '~' || c == ',')
+      throw std::runtime_error("a name with a comma or a character outside ASCII");
   }
   return std::string(SearchName(place)) + ',' + place + ',' + state + ',' + country + ',' +
          DegreesAndMinutes(LatitudeMinutes(latitude)) + (latitude < 0 ? ",S," : ",N,") +
@@ -72,7 +73,7 @@ void WriteCityFile(const fs::path& table, const fs::path& folder) {
   std::ifstream places(table, std::ios::binary);
   std::ofstream cities(folder / (country + ".city"), std::ios::binary);
   std::string line;
-  std::getline(places, line);  // the names of the columns
+  std::getline(places, line);  // column names
   while (std::getline(places, line)) {
     try {
       const foundation::ByteText record(Record(line, country));
@@ -81,7 +82,7 @@ void WriteCityFile(const fs::path& table, const fs::path& folder) {
       throw std::runtime_error(table.string() + ": " + line + ": " + error.what());
     }
   }
-  if (!places.eof() || !cities.flush()) throw std::runtime_error(country + ": not read or written");
+  if (!places.eof() || !cities.flush()) throw std::runtime_error(country + ": read or write error");
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
-// What the scripts of this folder share: the project's tab-separated tables, and grouping.
+// Shared by the scripts in this folder: the project's tab-separated tables, and grouping.
 import { readFileSync } from 'node:fs';
 
-// The rows of a table under the names of its header line.
+// The rows of a table as objects with the names of its header line.
 export function readTable(path) {
   const [header, ...lines] = readFileSync(path, 'utf8').trimEnd().split('\n');
   const names = header.split('\t');
@@ -11,7 +11,7 @@ export function readTable(path) {
   });
 }
 
-// The items by key, each group in the order of the items.
+// Groups items by key, keeping their order.
 export function groupBy(items, keyOf) {
   const groups = new Map();
   for (const item of items) {

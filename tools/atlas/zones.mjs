@@ -1,5 +1,5 @@
-// How many places the built-in country table gives another zone than their own: standard time at
-// the end of 2023, daylight saving left aside. Makes the table of docs/atlas.md.
+// Counts the places whose zone differs from the one in the built-in country table: standard time at
+// the end of 2023, without daylight saving. Updates the table in docs/atlas.md.
 import { readdirSync, readFileSync, writeFileSync } from 'node:fs';
 
 import { countryMap, groupBy, here, placesFolder, readTable } from './tables.mjs';
@@ -15,13 +15,13 @@ const reasons = {
   Eire: 'the row is summer time',
 };
 
-// Minutes east of Greenwich of a zone text: hours, point, minutes; minus is east.
+// Minutes east of Greenwich for a zone text (hours.minutes, minus is east).
 function tableOffset(text) {
   const [, sign, hours, minutes = '0'] = text.match(/^([+-]?)(\d+)(?:\.(\d+))?$/);
   return (sign === '-' ? 1 : -1) * (60 * Number(hours) + Number(minutes));
 }
 
-// Minutes east of Greenwich that the clocks of an IANA zone show at a moment.
+// Minutes east of Greenwich in an IANA zone at a moment.
 function clockOffset(zone, moment) {
   const format = new Intl.DateTimeFormat('en', { timeZone: zone, timeZoneName: 'longOffset' });
   const name = format.formatToParts(moment).find(({ type }) => type === 'timeZoneName').value;
@@ -29,7 +29,7 @@ function clockOffset(zone, moment) {
   return sign ? (sign === '+' ? 1 : -1) * (60 * Number(hours) + Number(minutes)) : 0;
 }
 
-// Daylight saving puts clocks forward: of July and December 2023 the lesser offset is standard.
+// Daylight saving puts clocks forward, so the lesser offset of July and December 2023 is standard.
 const standardOffset = (zone) =>
   Math.min(...['2023-07-01', '2023-12-31'].map((day) => clockOffset(zone, new Date(day))));
 

@@ -1,4 +1,4 @@
-// Drives the program's own windows and writes a picture of each screen into a folder.
+// Drives the program's windows and writes a picture of each screen to a folder.
 
 #include <QApplication>
 #include <QDir>
@@ -15,7 +15,7 @@ namespace {
 
 using screens::qt::FormWindow;
 
-// A moment that stands still, for the picture of a known day.
+// A stopped clock, for the picture of a known day.
 struct StandingClock : foundation::Clock {
   foundation::DateTime Now() const override {
     return foundation::DateFromParts(2011, 3, 5) + foundation::TimeFromParts(11, 12, 9);
@@ -45,7 +45,7 @@ class Tour {
     if (sizes) TakeSizes(window, name);
   }
 
-  // What the dashboard's menu opens, and the picker, each on its own.
+  // The screens of the dashboard's menu, and the picker.
   void TakeOthers() {
     const StandingClock clock;
     screens::qt::Program program(clock);
@@ -75,13 +75,13 @@ class Tour {
   void TakeForm(screens::qt::Program& program, forms::Form& form, const QString& name, bool sizes) {
     FormWindow& window = program.host.WindowOf(form);
     window.show();
-    Wait(sizes ? 1500 : 0);  // for what slides into its place
+    Wait(sizes ? 1500 : 0);  // wait for sliding parts
     Take(window, name);
     if (sizes) TakeSizes(window, name);
     program.host.Unload(form);
   }
 
-  // A report of two months, as the preview shows it, and its first page whole.
+  // A two-month report in the preview, and its first page in full.
   void TakeReport(screens::qt::Program& program) {
     screens::frmDurvela& timetable = program.Timetable();
     program.host.Show(timetable);
@@ -89,7 +89,7 @@ class Tour {
     report::frmSPkun& preview = program.Preview();
     FormWindow& window = program.host.WindowOf(preview);
     window.Mirror();
-    Wait(1000);  // for the side panel
+    Wait(1000);  // wait for the side panel
     Take(window, QStringLiteral("preview"));
     forms::PicturePtr page = preview.PIC.picture;
     const QString path = folder_.filePath(QStringLiteral("page-1.png"));
@@ -120,14 +120,14 @@ int main(int argc, char** argv) {
     return EXIT_FAILURE;
   }
   screens::qt::DressApplication();
-  // The same pictures whatever the user's language.
+  // The same pictures in any language.
   foundation::SetUserNames(foundation::EnglishNames());
   const QDir folder(QString::fromLocal8Bit(argv[1]));
   if (!folder.mkpath(QStringLiteral("."))) {
-    std::fprintf(stderr, "%s cannot be made\n", argv[1]);
+    std::fprintf(stderr, "%s cannot be created\n", argv[1]);
     return EXIT_FAILURE;
   }
-  // A settings store of its own: the pictures show the place of a first start.
+  // Separate settings, so that the pictures show the default place.
   const QTemporaryDir settings;
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
 
