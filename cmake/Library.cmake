@@ -1,5 +1,5 @@
 # durvela_library(NAME SOURCES file... LINKS library...)
-# A room of the house: a static library durvela_NAME whose only arrows are its LINKS.
+# A static library durvela_NAME; LINKS are its only dependencies.
 function(durvela_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
   add_library(durvela_${name} STATIC ${arg_SOURCES})

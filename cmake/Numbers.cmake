@@ -1,5 +1,5 @@
-# The figures must come out the same on every machine: strict IEEE arithmetic, no contraction of
-# a product and a sum into one rounding, and no build at all with "fast" mathematics.
+# Results must be the same on every machine: strict IEEE arithmetic, no fusing of a product and a
+# sum into one rounding, and no build with "fast" mathematics.
 
 if(CMAKE_BUILD_TYPE)
   string(TOUPPER "${CMAKE_BUILD_TYPE}" buildType)
@@ -14,8 +14,8 @@ add_library(durvela_options INTERFACE)
 target_compile_features(durvela_options INTERFACE cxx_std_20)
 target_compile_options(durvela_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror
-  # A row of a table of controls names what differs from the usual and leaves the rest.
+  # Rows of control tables name only what differs from the defaults.
   -Wno-missing-field-initializers
-  # GCC 12 sees an overlap in std::string that is none (its bug 105651).
+  # GCC 12 warns of an overlap in std::string that does not exist (its bug 105651).
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
   -fno-fast-math -ffp-contract=off)
