@@ -1,4 +1,4 @@
-# What Durvela needs of a Debian 12 machine. Sourced by every script.
+# Packages that Durvela needs on Debian 12. Sourced by every script.
 
 run_packages=(cmake g++ ninja-build qt6-base-dev qt6-wayland libjpeg62-turbo-dev fonts-noto-core
   fonts-lohit-deva fonts-lohit-mlym fonts-lohit-knda)
@@ -10,7 +10,7 @@ package_packages=(dpkg-dev file lintian)
 format_packages=(clang-format-14)
 fuzz_packages=(clang-14 libclang-rt-14-dev)
 
-# install_missing PACKAGE...: one apt-get call for those that are not installed, none if all are.
+# install_missing PACKAGE...: installs those that are missing, in one apt-get call.
 install_missing() {
   local missing=() package
   for package in "$@"; do
@@ -32,7 +32,7 @@ install_missing() {
     apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }
 
-# build PRESET [OPTION...]: configures and builds, silent unless something fails.
+# build PRESET [OPTION...]: configures and builds, quietly unless something fails.
 build() {
   local preset=$1
   shift
