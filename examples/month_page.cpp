@@ -1,5 +1,5 @@
-// Writes the report's page of a month in Delhi into two PDF files: one by the program's own writer
-// of documents, one by the printer of the screen.
+// Writes the report page of a month in Delhi to two PDF files: one with the program's PDF writer,
+// one with the screen's printer.
 
 #include <QApplication>
 #include <QDir>
@@ -19,7 +19,7 @@ namespace {
 
 using foundation::DateTime;
 
-// Nobody sits before this program to answer.
+// Prints messages, since nobody is there to answer.
 struct Complaints : foundation::MessageBoxes {
   int count = 0;
   foundation::MessageAnswer Show(std::string_view text, foundation::MessageIcon,
@@ -43,7 +43,7 @@ foundation::SessionTable Delhi(DateTime day) {
   return session;
 }
 
-// Texts are placed by the widths they have on the screen.
+// Places texts by their width on the screen.
 void Fill(report::pk_Durvela& page, DateTime first) {
   constexpr DateTime kNoon = 0.5;
   const foundation::SessionTable session = Delhi(first);
@@ -58,8 +58,8 @@ void Fill(report::pk_Durvela& page, DateTime first) {
   }
 }
 
-// Helvetica on paper of the page's own size. A document enlarges texts and takes their top for
-// their baseline, for which this makes up. False where something had to be complained of.
+// Uses Helvetica on paper the size of the page. A document enlarges texts and takes their top as
+// the baseline, which this compensates. Returns false if there were complaints.
 bool WriteDocument(report::pk_Durvela& page, const QString& file) {
   constexpr double kPointsPerTwip = 1 / forms::kTwipsPerPoint;
   constexpr int kTwips = 3, kHelvetica = 0;
@@ -80,7 +80,7 @@ bool WriteDocument(report::pk_Durvela& page, const QString& file) {
   return complaints.count == 0;
 }
 
-// The page is wider than the paper is upright.
+// Landscape, since the page is wider than upright paper.
 void Print(report::pk_Durvela& page, const QString& file) {
   screens::qt::QtPrinter printer(file);
   printer.SetOrientation(forms::Orientation::Landscape);
@@ -109,7 +109,7 @@ int main(int argc, char** argv) {
   foundation::SetUserNames(foundation::EnglishNames());
   const QDir folder(QString::fromLocal8Bit(argv[3]));
   if (!folder.mkpath(QStringLiteral("."))) {
-    std::fprintf(stderr, "%s cannot be made\n", argv[3]);
+    std::fprintf(stderr, "%s cannot be created\n", argv[3]);
     return EXIT_FAILURE;
   }
   try {

@@ -1,4 +1,4 @@
-# Runs the program: each of its files has to be a PDF of one page.
+# Runs the program; each file must be a PDF with one page.
 file(REMOVE_RECURSE ${FOLDER})
 execute_process(COMMAND ${PROGRAM} 2011 3 ${FOLDER} COMMAND_ERROR_IS_FATAL ANY)
 foreach(name document printer)
