@@ -1,4 +1,4 @@
-// A chart from its place and moment: nodes, ayanamsa modes, and what is odd in them.
+// Charts from place and moment: decoding, nodes, ayanamsa modes and their peculiarities.
 
 #include <gtest/gtest.h>
 
@@ -32,23 +32,23 @@ clsPP Decoded(const char* longitude, const char* latitude, const char* zone) {
   return pp;
 }
 
-TEST(PlaceDecoding, TakesLatitudes) {
+TEST(PlaceDecoding, ReadsLatitudes) {
   const auto latitude = [](auto text) { return Decoded("77.13E", text, "82.30E").ppLatitude; };
   ExpectRows(latitude, Row("28.40S", -28.666666666666668), Row("28.00N", 28),
              Row("28.05N", 28 + 5 / 60.0), Row("0.13S", -13 / 60.0), Row("", 0));
-  // No letter at the end: the last digit comes again after it.
+  // Without a letter at the end, the last digit is repeated.
   ExpectRows(latitude, Row("28.40", 34.666666666666664));
 }
 
-TEST(PlaceDecoding, TakesLongitudes) {
+TEST(PlaceDecoding, ReadsLongitudes) {
   const auto longitude = [](auto text) { return Decoded(text, "28.40N", "82.30E").ppLongitude; };
   ExpectRows(longitude, Row("77.05E", 77.08333333333333), Row("77.10E", 77 + 10 / 60.0),
              Row("74.01W", -74.01666666666667), Row("77E13", 77.21666666666667));
-  // Whole degrees lose their point and their letter, and are read as minutes east.
+  // Whole degrees lose their point and letter, and are read as minutes east.
   ExpectRows(longitude, Row("77.00E", 1.2833333333333334), Row("77.00W", 1.2833333333333334));
 }
 
-TEST(PlaceDecoding, TakesZones) {
+TEST(PlaceDecoding, ReadsZones) {
   const auto zone = [](auto text) {
     const clsPP pp = Decoded("77.13E", "28.40N", text);
     return std::tuple(pp.ppZoneDegrees, pp.ppStdLongitude, pp.ppZoneHours);
@@ -70,12 +70,12 @@ TEST(CorrectedNode, FollowsItsTables) {
   const auto minutes = [](double sun, int month, int day) {
     return std::round((CalcNode(100, sun, DateFromParts(2011, month, day)) - 100) * 60e7) / 1e7;
   };
-  // Both tables at 0; the middle of the quadrant; between rows 0 and 1, and back from the end; the
-  // next quadrant; 80 degrees behind.
+  // Both tables at 0; the middle of the quadrant; between rows 0 and 1, and from the other end; the
+  // next quadrant; 80 degrees behind the node.
   ExpectRows(minutes, Row(100, 1, 3, 0), Row(145, 1, 3, 98), Row(146.5, 1, 3, 98),
              Row(101.5, 1, 3, 5), Row(188.5, 1, 3, 5), Row(191.5, 1, 3, -5),
              Row(20, 1, 3, -33.3333333));
-  // From the row of the year before, to that of the year after, midway.
+  // Midway from the row of the year before, and to that of the year after.
   ExpectRows(minutes, Row(100, 1, 1, 0.3333333), Row(100, 12, 31, 0.5), Row(100, 3, 11, -8.5));
   // A sum below 0 is folded, not wrapped.
   EXPECT_NEAR(CalcNode(0.05, 0.05, DateFromParts(2011, 3, 29)), 0.1, 1e-9);
@@ -84,7 +84,7 @@ TEST(CorrectedNode, FollowsItsTables) {
   EXPECT_ERROR(TypeMismatch, CalcNode(100, 100, DateFromParts(9999, 3, 5)));
 }
 
-// In seconds of arc; the whole charts have all bodies.
+// Shifts in seconds of arc; the known charts cover all bodies.
 TEST(AyanamsaModes, CorrectTheBodies) {
   const auto corrected = [](foundation::Boolean16 node, int place) {
     const Positions plain = ChartOf(5, 3, 2011, 6, 10, node).getPLNT();
@@ -103,31 +103,31 @@ TEST(AyanamsaModes, ReadTheirRows) {
   EXPECT_ERROR(Subscript, ChartOf(5, 3, 2011, 6, 9));
 }
 
-TEST(Houses, OfTheEquator) {
-  EXPECT_EQ(AscendantAt(0, 0, {23.45, 24}), 90);  // with no ayanamsa off
+TEST(Houses, StartAt90AtTheEquator) {
+  EXPECT_EQ(AscendantAt(0, 0, {23.45, 24}), 90);  // ayanamsa not subtracted
 }
 
-// What a mode adds to no body's slot gathers in an object that is used again.
-TEST(Positions, GatherShiftsInTheEmptySlot) {
+// Each call adds the mode's shift to the unused slot of a reused object.
+TEST(Positions, AccumulateShiftsInTheUnusedSlot) {
   clsPP pp;
-  const auto reckon = [&] {
+  const auto calculate = [&] {
     pp.GenHoro(5, 3, 2011, 6, 0, 0, "77.13E", "28.40N", "0.0E", 4, kFalse16, 0);
     return pp.pp_14;
   };
-  const double once = reckon();
+  const double once = calculate();
   EXPECT_NEAR(once, CalcAyanamsa(DateFromParts(2011, 3, 5)) - pp.pp_AYAN, 1e-12);
-  EXPECT_NEAR(reckon(), 2 * once, 1e-12);
+  EXPECT_NEAR(calculate(), 2 * once, 1e-12);
 }
 
-TEST(Motion, IsThatOfOneHourWithoutTheWrap) {
-  // The Sun stands at 359.71 at 0:30 and comes to 0 some seven hours later.
+TEST(Motion, ComparesOneHourWithoutWrapping) {
+  // The Sun is at 359.71 at 0:30 and reaches 0 some seven hours later.
   const auto motion = [](double hour) {
     return std::string(ChartOf(14, 4, 2011, hour, 0).getRET(1));
   };
   ExpectRows(motion, Row(5, " "), Row(7, "RET"), Row(9, " "));
 }
 
-TEST(Charts, NeedDates) {
+TEST(Charts, RejectInvalidDates) {
   EXPECT_ERROR(TypeMismatch, ChartOf(31, 4, 2011, 6, 0));
   EXPECT_ERROR(InvalidCall, ChartOf(1, 13, 2011, 6, 0));
   EXPECT_EQ(CivilDate(5, 3, 99), DateFromParts(1999, 3, 5));

@@ -1,5 +1,5 @@
-// Whole charts worked out independently of this code, in every ayanamsa mode that has a result, and
-// places of the sky from an independent ephemeris, within what low-precision theories reach.
+// Complete charts calculated independently of this code, in every ayanamsa mode that works, and
+// positions from an independent ephemeris, within the accuracy of low-precision theories.
 
 #include <gtest/gtest.h>
 
@@ -44,7 +44,7 @@ void ForEachChart(const Check& check) {
   }
 }
 
-// Elements from 1 on.
+// Elements from index 1.
 void ExpectDegrees(const auto& degrees, const auto& expected) {
   int i = 0;
   for (const double element : expected) {
@@ -90,7 +90,7 @@ TEST(KnownCharts, HaveDivisionsAndRelations) {
   });
 }
 
-TEST(PublicVariables, ShowThePositions) {
+TEST(PublicVariables, MatchThePositions) {
   clsPP pp;
   pp.GenHoro(5, 3, 2011, 6, 12, 9, "77.13E", "28.40N", "82.30E", 4, foundation::kTrue16, 0);
   const double numbered[] = {pp.pp_1,  pp.pp_2,  pp.pp_3,  pp.pp_4,  pp.pp_5,  pp.pp_6,  pp.pp_7,
@@ -115,7 +115,7 @@ const Sky kSkies[] = {
 #include "engine/known_sky.inc"
 };
 
-// Minutes of arc, once the zero point's constant distance has been taken off.
+// Minutes of arc, after subtracting the zero point's constant offset.
 constexpr std::pair<Body, double> kBodies[] = {
     {Sun, 0.5},    {Moon, 1},   {Mercury, 1.5}, {Venus, 1.5},  {Mars, 7.5}, {Jupiter, 7.5},
     {Saturn, 7.5}, {Rahu, 0.3}, {Uranus, 17},   {Neptune, 17}, {Pluto, 17},
@@ -129,7 +129,7 @@ clsPP ChartOf(const Sky& sky, const char* longitude, std::int32_t mode) {
   return pp;
 }
 
-TEST(KnownSky, HasBodiesNearTheirPlacesAndTropicalHouses) {
+TEST(KnownSky, MatchesBodiesAndTropicalHouses) {
   constexpr std::int32_t kSayan = 6;
   for (const Sky& sky : kSkies) {
     SCOPED_TRACE(sky.at[2]);

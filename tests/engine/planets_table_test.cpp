@@ -1,4 +1,4 @@
-// The tables of a chart: planets and the lords of their longitudes.
+// A chart's tables, and the lords of longitudes.
 
 #include "engine/planets_table.h"
 
@@ -37,7 +37,7 @@ const std::array<std::string, 3> kDelhi[] = {
 #include "engine/planets_delhi.inc"
 };
 
-TEST_F(PlanetsTables, HaveTheRowsWorkedOutElsewhere) {
+TEST_F(PlanetsTables, MatchIndependentResults) {
   support::FakeMessageBoxes boxes;
   const PlanetsTable table = pp.getPlanetsTable(boxes);
   const PlanetsTable2 table2 = pp.getPlanetsTable2();
@@ -50,19 +50,19 @@ TEST_F(PlanetsTables, HaveTheRowsWorkedOutElsewhere) {
   }
 }
 
-TEST_F(PlanetsTables, TellDignitiesByTheBodysOwnName) {
+TEST_F(PlanetsTables, GiveDignitiesByBody) {
   pp.pp_Saturn = 185;
   pp.pp_Venus = 170;
   const PlanetsTable2 table = pp.getPlanetsTable2();
   EXPECT_EQ(table[7].Dignity + table[6].Dignity, "EXLDEB");
 }
 
-TEST_F(PlanetsTables, FailAtTheVeryEndOfTheZodiac) {
+TEST_F(PlanetsTables, FailAt360Degrees) {
   pp.pp_Sun = 360;
   EXPECT_ERROR(Subscript, pp.getPlanetsTable2());
 }
 
-TEST(NamesOfAChart, ComeByNumberAndByLongitude) {
+TEST(NamesOfAChart, AreFoundByNumberAndByLongitude) {
   EXPECT_EQ(clsPP::getPlanetName(2.5), "Sun");
   ExpectRows(clsPP::getRashiName, Row(0, "Aries"), Row(11, "Pisces"));
   EXPECT_ERROR(Subscript, clsPP::getRashiName(-1));
@@ -80,7 +80,7 @@ TEST(AyanamsaText, IsInTheCurrentLanguage) {
   EXPECT_EQ(pp.getAyan(session), "word - 23 - 6 - 12");
 }
 
-TEST(SubLords, AgreeWithLordsWorkedOutElsewhere) {
+TEST(SubLords, MatchIndependentResults) {
   const struct {
     double seconds;
     const char *star, *sub, *subSub;
@@ -101,14 +101,14 @@ TEST(SubLords, ChangeAtTheirBoundaries) {
   const auto star = [&](double seconds) { return StarLordOf(seconds, boxes); };
   const auto sub = [&](double seconds) { return SubLordOf(seconds, boxes); };
   ExpectRows(star, Row(47999, "Ketu"), Row(48000, "Venus"));
-  // By the table's order, where the periods have Venus; and around the table's end.
+  // In table order, where the periods would have Venus; and past the table's end.
   ExpectRows(sub, Row(2799, "Ketu"), Row(2800, "Moon"), Row(48000 + 8000, "Sun"));
-  // The end of a sign is not brought into the next: the star of the Sun has no row that begins
+  // The end of a sign is not wrapped into the next; the star of the Sun has no row that starts
   // after it.
   EXPECT_EQ(SubSubLordOf(108000, boxes), "JUP");
 }
 
-TEST(SubLords, OutsideTheZodiacThereIsAMessageAndNoStar) {
+TEST(SubLords, ShowAMessageOutsideTheZodiac) {
   for (const double seconds : {1296000.0, -1.0, 1e300}) {
     support::FakeMessageBoxes boxes;
     EXPECT_EQ(StarLordOf(seconds, boxes), "");

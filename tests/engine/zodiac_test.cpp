@@ -23,7 +23,7 @@ TEST(Zodiac, SignsHaveNamesAndLords) {
   EXPECT_ERROR(Subscript, RashiNameLang(0, 1));
   EXPECT_ERROR(Subscript, RashiNameLang(13, 0));
   EXPECT_EQ(NakName(27), "Revati");
-  // The number and the code of a sign's lord are two lists of one thing.
+  // Numbers and codes of the sign lords are separate lists that must agree.
   for (std::int16_t sign = 1; sign <= 12; ++sign) {
     const std::string name = foundation::UpperAscii(BodyName(RashiLordNumber(sign)));
     EXPECT_EQ(RashiLordCodeAt(sign), name.substr(0, 3));
@@ -31,7 +31,7 @@ TEST(Zodiac, SignsHaveNamesAndLords) {
   ExpectRows(HouseOfSign, Row(45, 2, 1), Row(45, 1, 12), Row(45, 12, 11), Row(360, 1, 1));
 }
 
-TEST(Dignities, HoldInTheirRanges) {
+TEST(Dignities, ApplyWithinTheirRanges) {
   constexpr double kSecond = 1.0 / 3600;
   ExpectRows(ExaltTest, Row("Sun", 0, ""), Row("Sun", 1.1 * kSecond, "EXL"), Row("sun", 30, "EXL"),
              Row("Sun", 30 + kSecond, ""), Row("SAT", 180, ""), Row("Mercury", 150, "EXL"),
@@ -46,7 +46,7 @@ TEST(Dignities, BodiesNearTheSunAreCombust) {
              Row("Sun", 1, 1, ""), Row("Rahu", 1, 1, ""));
 }
 
-TEST(DegreeSplit, CarriesWhatItRounds) {
+TEST(DegreeSplit, CarriesAfterRounding) {
   const auto rounded = [](double longitude) {
     const DegreeSplit split = RoundedSplit(longitude);
     return std::tuple(split.Sign, split.Degrees, split.Minutes, split.Seconds);
@@ -56,7 +56,7 @@ TEST(DegreeSplit, CarriesWhatItRounds) {
              Row(390.5, std::tuple(1, 0, 30, 0)));
 }
 
-// By the names of DivName.
+// Named as in DivName.
 enum Column { Hora = 2, Thrisamsa = 13, Shatyamsa = 16, Panchamsa, Ashtamsa = 19 };
 
 int Sign(Column column, double longitude) {
@@ -70,19 +70,19 @@ TEST(WideDivisions, ChangeAtTheirBoundaries) {
              Row(Thrisamsa, 35, 6), Row(Thrisamsa, 42, 12), Row(Thrisamsa, 50, 10),
              Row(Thrisamsa, 55, 8), Row(Shatyamsa, 0.499, 1), Row(Shatyamsa, 0.5, 2),
              Row(Shatyamsa, 29.999, 12));
-  // Not brought below 13.
+  // Not reduced to 12.
   ExpectRows(Sign, Row(Panchamsa, 359, 16), Row(Ashtamsa, 46, 13), Row(Ashtamsa, 149, 16));
 }
 
-// Signs 1 to `last` in a row.
+// Signs 1 to `last` as text.
 std::string Text(int last, const auto& signAt) {
   std::string text;
   for (int i = 1; i <= last; ++i) text += std::to_string(signAt(i)) + " ";
   return text;
 }
 
-// The full circle is a thirteenth sign of the kind of the first.
-TEST(WideDivisions, TakeBothEndsOfTheCircle) {
+// 360 degrees is a thirteenth sign that behaves like the first.
+TEST(WideDivisions, AcceptBothEndsOfTheCircle) {
   const auto signs = [](double longitude) {
     return Text(20, [&](int column) { return WideDivisions(longitude)[column]; });
   };
