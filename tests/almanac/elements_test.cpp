@@ -1,4 +1,4 @@
-// The elements of a day and the attributes of a birth at the ends of their tables.
+// Elements of a day and attributes of a birth, at the limits of their tables.
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ using Text = std::string;
 using Words = std::set<Text>;
 using support::Row;
 
-clsBirthDetails details;  // which keeps nothing
+clsBirthDetails details;  // stateless
 
 TEST(LunarDay, TithisMeetAtNewAndFullMoon) {
   const auto name = [&](double moon) { return std::get<Text>(details.getTITHI(moon, 100, false)); };
@@ -36,15 +36,15 @@ TEST(LunarDay, YogasWrap) {
   ExpectRows(yoga, Row(180, 180, 1), Row(180, 179.99, 27), Row(360, 360, 1));
 }
 
-TEST(LunarDay, KaranasAreReckonedInWholeMinutes) {
+TEST(LunarDay, KaranasUseWholeMinutes) {
   const auto name = [&](double moon) { return std::get<Text>(details.GetKaran(moon, 100, false)); };
-  // 359.4 minutes and 359.7; within a minute of the whole circle.
+  // 359.4 and 359.7 minutes; within a minute of the full circle.
   ExpectRows(name, Row(100, "Kinstughna"), Row(99, "Nag"), Row(105.99, "Kinstughna"),
              Row(105.995, "Bava"), Row(99.995, "Kinstughna"));
   EXPECT_EQ(details.getKaranName(57) + details.getKaranName(58), "VISHTISHAKUNI");
 }
 
-TEST(BirthAttributes, TablesAreFull) {
+TEST(BirthAttributes, TablesAreComplete) {
   Words vargas, nadis, gans, signs;
   int syllables = 0;
   for (std::int16_t nak = 1; nak <= 27; ++nak) {
@@ -62,7 +62,7 @@ TEST(BirthAttributes, TablesAreFull) {
   EXPECT_EQ(nadis, (Words{"AADHYA", "ADHYA", "MADHYA", "ANTYA", "NTYA"}));
   EXPECT_EQ(gans, (Words{"DEV", "MANUSHYA", "RAKSHAS"}));
   EXPECT_EQ(vargas, (Words{"SIMHA", "MRIG", "GARUD", "MARJAR", "MESH", "SWAN", "UUDAR", "SARP"}));
-  EXPECT_EQ(syllables, 107);  // of 108: one is not there
+  EXPECT_EQ(syllables, 107);  // of 108: one is missing
   EXPECT_EQ(signs, (Words{"ARIES", "TAURUS", "GEMINI", "CANCER", "CANCD", "LEO", "VIRGO", "LIBRA",
                           "SCORPIO", "SAGGITARIUS", "CAPRICORN", "AQUARIUS", "PISCES"}));
 }
@@ -75,18 +75,18 @@ TEST(BirthAttributes, KeepTheirSpelling) {
   EXPECT_EQ(details.getGhat(11, 1)[14], "CANCD");
 }
 
-TEST(BirthAttributes, EndsOfTheirTables) {
+TEST(BirthAttributes, CoverTheLimitsOfTheirTables) {
   ExpectRows([&](double moon) { return details.getVashya(moon); }, Row(269.999, "MAANAV/CHAT"),
              Row(270, "CHAT/JAL"), Row(std::nextafter(60.0, 0), "CHATUSHPAD"));
   EXPECT_EQ(details.getVarna(0) + details.getGan(0), "KSHATRIYA");
   EXPECT_ERROR(Subscript, details.getHansak(360));
   EXPECT_EQ(details.getNaamAkshar(0, 1) + details.getVarga(28, 1), "");
-  EXPECT_EQ(details.getNaamAkshar(1, 11), details.getNaamAkshar(11, 1));  // one key
+  EXPECT_EQ(details.getNaamAkshar(1, 11), details.getNaamAkshar(11, 1));  // same key
   EXPECT_EQ(details.getGhat(0, 0)[1], "FALGUN");
 }
 
-TEST(BirthAttributes, MetalOfABirth) {
-  // A letter for each number from 0 on; "-" is none.
+TEST(BirthAttributes, GiveTheMetalOfABirth) {
+  // One letter per number from 0; "-" is none.
   const auto letter = [](const Text& metal) { return metal.empty() ? '-' : metal[0]; };
   Text bySign, byStar;
   for (std::int16_t sign = 0; sign <= 13; ++sign) bySign += letter(details.GetRashiPaya(sign));

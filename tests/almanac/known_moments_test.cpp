@@ -27,7 +27,7 @@ const KnownMoment kMoments[] = {
 #include "known_moments.inc"
 };
 
-// Calls `check` with each moment and an object to ask.
+// Calls `check` for each moment.
 template <typename Check>
 void ForEachMoment(const Check& check) {
   clsBirthDetails details;
@@ -89,17 +89,17 @@ TEST(KnownMoments, HaveTheirCalendarTermsAndBirthAttributes) {
 
 TEST(Endings, FollowTheRecordsWarTimeButNotItsAyanamsa) {
   foundation::SessionTable session = SessionAt(kMoments[0]);
-  session.Current().WarTimeCorrection = 1;  // the same sky, an hour earlier by the clock
+  session.Current().WarTimeCorrection = 1;  // the same sky, an hour earlier on the clock
   session.Current().AyanamsaChoice = 6;
   const auto end = [&] {
     return clsBirthDetails().GetNakshatraending(18, 11, 1990, 5, 11, 25, session);
   };
   EXPECT_EQ(end(), "18/November/1990 21:11:43");
-  session.DefaultAyanamsa = 6;  // tropical: almost two stars on
+  session.DefaultAyanamsa = 6;  // tropical: almost two stars further
   EXPECT_NE(end(), "18/November/1990 21:11:43");
 }
 
-// The corrected node has no year 99 to go by.
+// Fails with the corrected node, which would need the year 99.
 TEST(Endings, FollowTheDefaultNode) {
   clsBirthDetails details;
   foundation::SessionTable session = SessionAt(kMoments[0]);
@@ -114,14 +114,14 @@ Text MonthInDelhi(Number day, Number month, Number year, Number hour) {
 }
 
 // Full moons: 18 April and 10 December 2011, 14:36 Universal Time.
-TEST(LunarMonth, IsTheNextOneUntilThePassedFullMoon) {
+TEST(LunarMonth, IsTheNextOneUntilTheFullMoonHasPassed) {
   ExpectRows(MonthInDelhi, Row(19, 4, 2011, 6, "VAISAKHA"), Row(20, 4, 2011, 6, "CHAITRA"),
              Row(1, 12, 2011, 6, "PAUSA"), Row(12, 12, 2011, 6, "MARGSHIRSH"));
 }
 
 // Full moons: 30 January, 06:04, and 28 February 2029, 17:10 Universal Time.
-TEST(LunarMonth, IsTheSolarMonthsOwnWhereAFebruaryHasNoFullMoon) {
-  // And that of the last evening.
+TEST(LunarMonth, IsTheSolarMonthsIfFebruaryHasNoFullMoon) {
+  // And of the last evening.
   ExpectRows(MonthInDelhi, Row(1, 2, 2029, 12, "MAGHA"), Row(1, 2, 2029, 23, "PHALGUNA"));
 }
 
@@ -133,7 +133,7 @@ TEST(EraYears, BeginAtTheFirstTithiFrom2April) {
   // New moons of 2022: 1 April, 06:24, and 30 April, 20:28 Universal Time.
   ExpectRows(shaka, Row(3, 4, 2011, 6, "1932"), Row(4, 4, 2011, 6, "1933"),
              Row(10, 4, 2022, 23, "1943"), Row(1, 5, 2022, 23, "1944"));
-  // Of 2024: 8 April, 18:21. The first tithi is over before it is 22 hours again.
+  // In 2024: 8 April, 18:21. The first tithi ends before 22:00 the next day.
   ExpectRows(shaka, Row(15, 4, 2024, 22, "1945"), Row(15, 4, 2024, 12, "1946"));
 }
 
