@@ -1,4 +1,4 @@
-// Whole days worked out independently of this code: sunrise, sunset and the three periods.
+// Days calculated independently of this code: sunrise, sunset and the three periods.
 
 #include <gtest/gtest.h>
 
@@ -19,13 +19,14 @@ struct KnownDay {
   std::array<std::int16_t, 6> moment;  // day first
   Place place;
   SunriseRows rows;
-  std::int16_t dayAfter;           // what Sunrise makes of its day
-  std::array<std::string, 2> sun;  // SRS of the Hindu day's date
+  std::int16_t dayAfter;           // the day as Sunrise leaves it
+  std::array<std::string, 2> sun;  // SRS on the Hindu day's date
   std::array<std::string, 6> periods;
 };
 
-// Summer days whose rise and set come exchanged, moments before sunrise that keep them so, months'
-// and years' firsts, times on exact half seconds, "18:0", "24:0", and latitudes beyond 63 degrees.
+// Summer days whose rise and set come out swapped, moments before sunrise where that remains, first
+// days of months and years, times at exact half seconds, "18:0", "24:0", and latitudes beyond 63
+// degrees.
 const KnownDay kDays[] = {
 #include "dayperiods/known_days.inc"
 };
@@ -50,7 +51,7 @@ TEST(KnownDays, HaveTheirSunriseAndTimeTexts) {
     EXPECT_DOUBLE_EQ(rows.clockSet, known.rows.clockSet);
     EXPECT_EQ(rows.date, known.rows.date);
     EXPECT_EQ(day, known.dayAfter);
-    if (day == 0) continue;  // the Hindu day's date is in the month before
+    if (day == 0) continue;  // the Hindu day's date is in the previous month
     const auto [latitude, longitude, zone] =
         std::tuple(at.ppLatitude, at.ppLongitude, at.ppZoneHours);
     EXPECT_EQ((std::array{details.SRS(latitude, longitude, zone, "R", year, month, day),
@@ -73,8 +74,8 @@ TEST(KnownDays, HaveTheirPeriods) {
   }
 }
 
-// Ordinary days by the formulas of the NOAA solar calculator (noaa_times.py beside this file).
-TEST(OrdinaryDays, AgreeWithThePublishedFormulasToTheMinute) {
+// Ordinary days by the formulas of the NOAA solar calculator (see noaa_times.py).
+TEST(OrdinaryDays, MatchThePublishedFormulasToTheMinute) {
   const struct {
     int day, month, year;
     Place place;

@@ -29,7 +29,7 @@ TEST(MilitaryTime, JoinsHoursAndMinutes) {
   EXPECT_EQ(written, -4);
 }
 
-TEST(RiseSet, TakesDegreesAndMinutesWithTheirHemisphere) {
+TEST(RiseSet, ReadsDegreesAndMinutesWithHemisphere) {
   clsBirthDetails details;
   const auto text = [&](const char* latitude, const char* longitude, bool decimal) {
     return std::get<std::string>(
@@ -43,23 +43,23 @@ TEST(RiseSet, TakesDegreesAndMinutesWithTheirHemisphere) {
 }
 
 TEST(HinduDay, BeginsAtSunriseToTheSecond) {
-  // Sunrise of 5 March 2011 in Delhi is 06:43 by the NOAA formulas as well.
+  // The NOAA formulas also give 06:43 for 5 March 2011 in Delhi.
   const foundation::SessionTable session = support::Delhi();
   const auto sunriseAndWeekday = [&](double minute, double second) {
     const DaylightSegments day = clsUtilities(session).SegmentsOf(5, 3, 2011, 6, minute, second);
     return std::tuple(day.sunrise, day.weekday);
   };
-  // Before it the sun of the day before, and the weekday of the calendar.
+  // Before sunrise, the sun is that of the day before, but the weekday is today's.
   ExpectRows(sunriseAndWeekday, Row(43, 0, std::tuple(6 + 43 / 60.0, 7)),
              Row(42, 59, std::tuple(6 + 44 / 60.0, 7)));
 }
 
-TEST(HinduDay, FailsWhereTheSunDoesNotCrossTheHorizon) {
+TEST(HinduDay, FailsIfTheSunDoesNotCrossTheHorizon) {
   EXPECT_ERROR(InvalidCall, SunriseOf(70, 21, 6, 2011, 12, 0, 0));
   EXPECT_EQ(SunriseOf(64, 21, 6, 2011, 12, 0, 0).clockRise, 0);
 }
 
-TEST(Periods, RefuseWhatIsNoDateOrTime) {
+TEST(Periods, RejectInvalidDatesAndTimes) {
   foundation::SessionTable session = support::Delhi();
   clsUtilities periods(session);
   EXPECT_ERROR(TypeMismatch, periods.CalcDurvela(30, 2, 2011, 12, 0, 0));
