@@ -1,5 +1,4 @@
-// The city files as the build makes them, loaded by the atlas and held against the tables of
-// places.
+// The city files from the build, loaded by the atlas and compared with the tables of places.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -21,7 +20,7 @@ namespace fs = std::filesystem;
 struct AtlasData : testing::Test {
   AtlasData() { foundation::SetAppFolder(fs::path(ATLAS_FOLDER).parent_path()); }
 
-  // Decimal degrees, as every calculation reads the texts.
+  // Decimal degrees, as calculations read the texts.
   double Latitude(std::int16_t index) const {
     return engine::DecimalDegrees(engine::LatitudeParts(atlas.getLat(index)), "S");
   }
@@ -33,7 +32,7 @@ struct AtlasData : testing::Test {
   clsAtlas atlas{yielder};
 };
 
-TEST_F(AtlasData, HoldsEveryPlaceOfTheTables) {
+TEST_F(AtlasData, ContainsEveryPlaceInTheTables) {
   int records = 0;
   for (const fs::path& table : fs::directory_iterator(PLACES_FOLDER)) {
     const std::string country = table.stem().string();
@@ -41,7 +40,7 @@ TEST_F(AtlasData, HoldsEveryPlaceOfTheTables) {
     atlas.LoadCities(country, nullptr);
     const std::string text = foundation::ReadFile(table);
     std::string_view rows = text;
-    foundation::TakeLine(rows);  // the names of the columns
+    foundation::TakeLine(rows);  // column names
     std::int16_t i = 0;
     for (; !rows.empty(); ++records) {
       const std::string_view row = foundation::TakeLine(rows);
@@ -50,7 +49,7 @@ TEST_F(AtlasData, HoldsEveryPlaceOfTheTables) {
       ASSERT_EQ(std::tuple(city, atlas.getState(i), atlas.getCountry(i)),
                 std::tuple(given[0], given[1], country));
       ASSERT_TRUE(city.ends_with(place) && place.find_first_not_of("'`") == 0) << row;
-      // To the minute of arc; whole degrees of longitude are moved by one.
+      // To the minute of arc; whole degrees of longitude are moved by one minute.
       ASSERT_NEAR(Latitude(i), foundation::LeadingNumber(given[2]), 0.5001 / 60) << row;
       ASSERT_NEAR(Longitude(i), foundation::LeadingNumber(given[3]), 1.0001 / 60) << row;
     }
@@ -60,7 +59,7 @@ TEST_F(AtlasData, HoldsEveryPlaceOfTheTables) {
 }
 
 // Published coordinates, to a tenth of a degree.
-TEST_F(AtlasData, KnowsWhereTownsLie) {
+TEST_F(AtlasData, LocatesKnownTowns) {
   const struct {
     const char *country, *city, *state;
     double latitude, longitude;

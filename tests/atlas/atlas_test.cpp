@@ -1,4 +1,4 @@
-// City files through the atlas: loading, rewriting, and loads that come in between.
+// City files in the atlas: loading, rewriting, and loads that interrupt each other.
 
 #include <gtest/gtest.h>
 
@@ -33,7 +33,7 @@ std::string CityFile(const std::vector<std::string>& lines) {
   return bytes;
 }
 
-// What a list shows, with the numbers beside it.
+// The list's entries with their item data.
 std::string Shown(const forms::ItemList& list) {
   std::string shown;
   for (int i = 0; i < list.ListCount(); ++i) {
@@ -60,7 +60,7 @@ class Atlas : public testing::Test {
 TEST_F(Atlas, ListsCountriesWithTheShorterNameFirst) {
   forms::ItemList countries{false};
   countries.AddItem("left over");
-  atlas_.LoadCountry(countries);  // there is no folder
+  atlas_.LoadCountry(countries);  // no such folder
   EXPECT_EQ(Shown(countries), "");
   for (const char* file : {"Nigeria.city", "iran.city", "Niger.city", "India.city", ".city",
                            "India.txt", "Folder.city/x"}) {
@@ -70,7 +70,7 @@ TEST_F(Atlas, ListsCountriesWithTheShorterNameFirst) {
   EXPECT_EQ(Shown(countries), "0:; 0:India; 0:iran; 0:Niger; 0:Nigeria; ");
 }
 
-TEST_F(Atlas, LoadsRecordsIntoListsAndList) {
+TEST_F(Atlas, LoadsRecordsAndFillsTheList) {
   WriteIndia({kDelhiLine, kBombayLine, "a,b,c,d,1.00,N,2.00,E,more,still more"});
   atlas_.LoadCities("India", &list_);
   EXPECT_EQ(Shown(list_), "2:a, c, d; 1:Bombay, Maharashtra, India; 0:New Delhi, Delhi, India; ");
@@ -84,14 +84,14 @@ TEST_F(Atlas, LoadsRecordsIntoListsAndList) {
   EXPECT_EQ(Shown(list_) + atlas_.getPlace(1), "");
 }
 
-TEST_F(Atlas, EndsALoadAtAnItemThatIsNoRecord) {
+TEST_F(Atlas, StopsLoadingAtAnInvalidRecord) {
   const std::string delhi = Scrambled(kDelhiLine), agra = Scrambled(kAgraLine);
   const auto records = [&](const std::string& bytes) {
     folder_.Write("atlas/India.city", bytes);
     atlas_.LoadCities("India", nullptr);
     return atlas_.getLength();
   };
-  const std::string quote = Scrambled("\xD3rissa,x,y,India,1.00,N,2.00,E");  // begins with one
+  const std::string quote = Scrambled("\xD3rissa,x,y,India,1.00,N,2.00,E");  // starts with a quote
   const std::string seven = Scrambled("seven,fields,and,no,more,than,that");
   const std::string comma = Scrambled("Q\xD5rto,x,y,India,1.00,N,2.00,E");
   ExpectRows(records, Row(delhi + "\r\n" + agra, 2), Row(delhi + "\r" + agra + "\n", 2),
@@ -101,7 +101,7 @@ TEST_F(Atlas, EndsALoadAtAnItemThatIsNoRecord) {
              Row(delhi + "\r\n" + comma + "\r\n" + agra, 1), Row("", 0));
 }
 
-TEST_F(Atlas, EmptiesAListThatIsFull) {
+TEST_F(Atlas, ClearsAFullList) {
   std::vector<std::string> lines(31800, kAgraLine);
   lines.push_back(kDelhiLine);
   WriteIndia(lines);
@@ -118,7 +118,7 @@ TEST_F(Atlas, EditsEveryLineThatHoldsTheRecord) {
   ExpectIndia({kAgraLine, kDelhiLine, kAgraLine});
 }
 
-TEST_F(Atlas, CopiesTheLineBeforeOverADeletedOne) {
+TEST_F(Atlas, ReplacesADeletedLineWithTheOneBefore) {
   WriteIndia({kDelhiLine, kBombayLine, kAgraLine});
   atlas_.DeletePlace("India", kBombay);
   ExpectIndia({kDelhiLine, kDelhiLine, kAgraLine});
@@ -155,7 +155,7 @@ TEST_F(Atlas, MakesTheFileBeforeARecordFails) {
   EXPECT_EQ(foundation::ReadFile(folder_.path / "atlas/Nowhere.city"), "");
 }
 
-TEST_F(Atlas, LosesLinesThatAFullDiskDoesNotTake) {
+TEST_F(Atlas, LosesLinesThatDoNotFitOnTheDisk) {
   WriteIndia({kBombayLine, kDelhiLine});
   {
     const support::FullDiskScope full(kAgraLine.size() + 2);
@@ -164,27 +164,27 @@ TEST_F(Atlas, LosesLinesThatAFullDiskDoesNotTake) {
   ExpectIndia({kAgraLine});
 }
 
-TEST_F(Atlas, EditsWhatComesInBetween) {
+TEST_F(Atlas, EditsRecordsAddedMeanwhile) {
   WriteIndia({kDelhiLine, kBombayLine});
   yielder_.between = [&](int turn) {
     if (turn == 1) atlas_.AddPlace("India", kBombay);
   };
   atlas_.EditPlace("India", kBombay, kAgra);
   ExpectIndia({kDelhiLine, kAgraLine, kAgraLine});
-  // But a load ends it.
+  // A load, however, ends it.
   yielder_.between = [&](int) { atlas_.LoadCities("Nowhere", nullptr); };
   atlas_.EditPlace("India", kAgra, kBombay);
   ExpectIndia({kDelhiLine, kAgraLine, kAgraLine});
 }
 
 TEST(Scrambling, AddsTheKeyFromItsSecondCharacter) {
-  // Round the key: its first character meets the sixteenth byte.
+  // The key wraps around: its first character applies to the sixteenth byte.
   EXPECT_EQ(Scrambled("New Delhi,Delhi,"),
             "\x9D\xBC\xC5\x77\x93\xB7\xB8\xAC\xB6\x6D\x94\x9C\xA0\x99\x9E\x80");
   EXPECT_EQ(EncodeText(foundation::ByteText("ab"), ""), foundation::ByteText("ab"));
 }
 
-TEST(CountryZone, IsThatOfTheFirstRowOfTheName) {
+TEST(CountryZone, ComesFromTheFirstMatchingRow) {
   ExpectRows(getCountryZone, Row("", "-5.30"), Row("iNDia", "-5.30"), Row("Nepal", "-5.45"),
              Row("Kirkistan", "-4.5"), Row("Surinam", "3"), Row("Croatia", "+1"),
              Row("Western Samoa", "0"), Row("Saint Vincent - Gr", "+4"), Row("Atlantis", ""));
