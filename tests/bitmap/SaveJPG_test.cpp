@@ -1,5 +1,4 @@
-// Where the pixels of a saved picture stand is seen by the tests of the screens, whose toolkit
-// decodes it.
+// The screen tests check the pixels of a saved picture, since their toolkit decodes it.
 
 #include <gtest/gtest.h>
 
@@ -39,7 +38,7 @@ struct SavedJpeg : testing::Test {
   LibjpegLibrary libjpeg;
 };
 
-TEST_F(SavedJpeg, HasNothingOfThePadding) {
+TEST_F(SavedJpeg, ExcludesThePadding) {
   cDIBSection dib = PictureOf(9, 3);
   ASSERT_TRUE(Save(dib, 100));
   const std::string black = foundation::ReadFile(path);
@@ -48,8 +47,8 @@ TEST_F(SavedJpeg, HasNothingOfThePadding) {
   EXPECT_EQ(foundation::ReadFile(path), black);
 }
 
-TEST_F(SavedJpeg, HasTheQualityAskedFor) {
-  // The first step of the first table. The standard's, which begins with 16, is that of quality 50.
+TEST_F(SavedJpeg, HasTheRequestedQuality) {
+  // The first step of the first table; quality 50 is the standard's table, which starts with 16.
   for (const auto& [quality, step] :
        {std::pair{1, '\xFF'}, {50, '\x10'}, {90, '\3'}, {100, '\1'}}) {
     ASSERT_TRUE(Save(PictureOf(9, 9), quality));
@@ -60,7 +59,7 @@ TEST_F(SavedJpeg, HasTheQualityAskedFor) {
   EXPECT_ERROR(InvalidCall, Save(PictureOf(9, 9), 101));
 }
 
-TEST_F(SavedJpeg, KeepsTimeAndModeOfAFormerFile) {
+TEST_F(SavedJpeg, KeepsTimesAndModeOfAnExistingFile) {
   folder.Write("day.jpg", "former");
   const auto time = fs::last_write_time(path) - std::chrono::hours(1);
   fs::last_write_time(path, time);
@@ -70,7 +69,7 @@ TEST_F(SavedJpeg, KeepsTimeAndModeOfAFormerFile) {
   EXPECT_EQ(fs::status(path).permissions(), fs::perms{0604});
 }
 
-TEST_F(SavedJpeg, TellsTheUserOfAFailure) {
+TEST_F(SavedJpeg, ReportsFailures) {
   FakeJpegLibrary fake;
   folder.Write("day.jpg", "former");
   EXPECT_FALSE(SaveJPG(PictureOf(3, 3), path, 90, fake, boxes));

@@ -11,14 +11,14 @@ namespace {
 
 using namespace std::string_literals;
 
-// Three pixels by two at 96 dots per inch: red, green, blue over black, grey, white.
+// Three by two pixels at 96 dots per inch: red, green, blue over black, grey, white.
 const std::string kFile =
     "BM\x4E\0\0\0\0\0\0\0\x36\0\0\0"
     "\x28\0\0\0\3\0\0\0\2\0\0\0\1\0\x18\0\0\0\0\0\x18\0\0\0\xC4\x0E\0\0\xC4\x0E\0\0\0\0\0\0\0\0\0\0"
     "\0\0\0\x80\x80\x80\xFF\xFF\xFF\0\0\0"
     "\0\0\xFF\0\xFF\0\xFF\0\0\0\0\0"s;
 
-// The same, 32 bits a pixel with rows from the top down.
+// The same, with 32 bits per pixel and rows from the top.
 const std::string kTopDown =
     "BM\x4E\0\0\0\0\0\0\0\x36\0\0\0"
     "\x28\0\0\0\3\0\0\0\xFE\xFF\xFF\xFF\1\0\x20\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"
@@ -46,9 +46,9 @@ TEST_F(BmpFile, IsReadAndWrittenByteForByte) {
   EXPECT_ERROR(FileAccess, WriteBmp("/dev/full", Pixels(1, 1), 96));
 }
 
-TEST_F(BmpFile, IsRefusedWhereItIsAnotherKindOrCut) {
-  // Another mark, header, depth, number of planes and compression; sizes of the file and the image
-  // beyond the end; a start there and in the header; no width; more rows from either end.
+TEST_F(BmpFile, IsRejectedIfUnsupportedOrTruncated) {
+  // Another signature, header, depth, number of planes and compression; file and image sizes beyond
+  // the end; data starting there or in the header; no width; too many rows in either order.
   constexpr std::pair<std::size_t, char> kChanges[] = {{0, 'P'}, {14, 12}, {28, 8},  {26, 2},
                                                        {30, 1},  {2, 'O'}, {34, 25}, {10, 55},
                                                        {10, 14}, {18, 0},  {22, 3},  {25, -128}};

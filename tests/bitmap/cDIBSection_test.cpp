@@ -11,7 +11,7 @@
 namespace bitmap {
 namespace {
 
-// The bytes of a picture's rows, the bottom one first, without padding.
+// The bytes of a picture's rows from the bottom, without padding.
 using Rows = std::vector<std::vector<std::uint8_t>>;
 
 cDIBSection DibOf(int width, const Rows& rows) {
@@ -40,7 +40,7 @@ TEST(DibSection, HoldsOneBitmapOrNone) {
   EXPECT_FALSE(dib.Create(0, 1));
 }
 
-TEST(DibSection, CopiesWhatLiesInsideBoth) {
+TEST(DibSection, ClipsCopiesToBothPictures) {
   const cDIBSection source = DibOf(3, {{1, 1, 1, 2, 2, 2, 3, 3, 3}, {4, 4, 4, 5, 5, 5, 6, 6, 6}});
   cDIBSection dib = DibOf(2, Rows(3));
   dib.LoadPictureBlt(*source.hDib(), 1, 0);
@@ -54,28 +54,28 @@ TEST(DibSection, CopiesWhatLiesInsideBoth) {
   EXPECT_ERROR(InvalidCall, dib.LoadPictureBlt(*source.hDib(), 0, 0, -1, -1, 0));
 }
 
-TEST(DibSection, ResamplesAsWorkedOutByHand) {
+TEST(DibSection, MatchesResamplingByHand) {
   const auto resampled = [](int width, const Rows& rows, int newHeight, int newWidth) {
     return RowsOf(*DibOf(width, rows).Resample(newHeight, newWidth));
   };
-  // By quarters.
+  // In quarters.
   EXPECT_EQ(resampled(2, {{0, 10, 255, 100, 20, 0}, {50, 30, 128, 255, 41, 7}}, 4, 4),
             (Rows{{0, 10, 255, 25, 12, 191, 50, 15, 128, 75, 18, 64},
                   {12, 15, 223, 44, 18, 168, 76, 20, 112, 107, 22, 57},
                   {25, 20, 192, 63, 22, 145, 102, 25, 98, 140, 28, 51},
                   {38, 25, 160, 82, 28, 121, 127, 30, 82, 172, 33, 44}}));
-  // By sixths: of the halves 2.5, 5.5 and 8.5 the last one is more in 32 bits.
+  // In sixths: of the halves 2.5, 5.5 and 8.5, the last is slightly more in 32 bits.
   const std::vector<std::uint8_t> row = {1, 1, 1, 10, 10, 10};
   EXPECT_EQ(resampled(2, {row, row}, 1, 6),
             (Rows{{1, 1, 1, 2, 2, 2, 4, 4, 4, 6, 6, 6, 7, 7, 7, 9, 9, 9}}));
-  // The same size, also where there is no neighbour.
+  // The same size, even without neighbours.
   EXPECT_EQ(resampled(1, {{1, 2, 3}, {4, 5, 6}}, 2, 1), (Rows{{1, 2, 3}, {4, 5, 6}}));
   EXPECT_ERROR(Subscript, DibOf(1, Rows(2)).Resample(4, 4));
   EXPECT_ERROR(Subscript, DibOf(2, Rows(1)).Resample(4, 4));
   EXPECT_EQ(DibOf(2, Rows(2)).Resample(0, 4), nullptr);
 }
 
-TEST(DibSection, IsFilledByChance) {
+TEST(DibSection, FillsWithRandomPixels) {
   support::FakeRandomNumbers random;
   random.numbers = {0, 0.5, 0.999, 0.1, 0.2, 0.3, 0.4, 0.6};
   cDIBSection dib = DibOf(2, Rows(2));
@@ -85,7 +85,7 @@ TEST(DibSection, IsFilledByChance) {
   EXPECT_EQ(RowsOf(dib), (Rows{{0, 0, 0, 128, 128, 128}, {255, 255, 255, 26, 26, 26}}));
 }
 
-TEST(DibSection, TakesAPictureAndGivesItToTheClipboard) {
+TEST(DibSection, LoadsAPictureAndCopiesItToTheClipboard) {
   support::FakeRasteriser screen;
   support::FakeClipboard clipboard;
   support::FakeMessageBoxes boxes;
@@ -99,7 +99,7 @@ TEST(DibSection, TakesAPictureAndGivesItToTheClipboard) {
   EXPECT_TRUE(dib.CopyToClipboard(false, clipboard, boxes));
   screen.dots = {};
   EXPECT_FALSE(pasted.CreateFromPicture({}, screen));
-  EXPECT_TRUE(pasted.CreateFromPicture(*clipboard.held, screen));  // which has dots of its own
+  EXPECT_TRUE(pasted.CreateFromPicture(*clipboard.held, screen));  // made of pixels
   EXPECT_EQ(RowsOf(pasted), RowsOf(dib));
 }
 
