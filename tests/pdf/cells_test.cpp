@@ -1,4 +1,4 @@
-// Texts in boxes, as the content of a page has them.
+// Text in boxes, as it appears in a page's content.
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@ namespace {
 
 using CellLines = PaperTest;
 
-// Behind the colours, a cell at 60, 100, a hundred wide and twenty high.
+// The content after the colours for a cell at 60, 100, a hundred wide and twenty high.
 std::string CellLine(int border, bool fill, int alignment) {
   Paper paper;
   paper.printer.PDFSetBorder(border);
@@ -19,13 +19,13 @@ std::string CellLine(int border, bool fill, int alignment) {
   return paper.Content().substr(std::string_view("0 G\n0 g\n").size());
 }
 
-TEST_F(CellLines, HaveBordersFillingsAndTextsInTheirPlace) {
+TEST_F(CellLines, PlaceBordersFillsAndTexts) {
   const auto text = [](const std::string& x) {
     return "q 0 g \nBT\n/F1 10 Tf\n" + x + " 728.89 Td\n(\\(b\\) c) Tj\nET\nQ\n";
   };
   ExpectRows(
       CellLine, Row(0, false, 1, text("63.00")),
-      // 32.5 is 32, the seven characters with their backslashes being 35 wide.
+      // 32.5 rounds to 32; the seven characters, including backslashes, are 35 wide.
       Row(0, true, 0, "60.00 741.89 100.00 -20.00 re f~\n" + text("92.00")),
       Row(1, false, 2, "60.00 741.89 100.00 -20.00 re S~\n" + text("122.00")),
       Row(1, true, 1, "60.00 741.89 100.00 -20.00 re B~\n" + text("63.00")),
@@ -40,16 +40,16 @@ TEST_F(CellLines, UnderlineTheirLinks) {
   printer.PDFSetBorder(0);
   printer.PDFCellLine("ab", 60, 100, 100, 20, "u");
   EXPECT_EQ(Place(), std::pair(160, 120));
-  const std::string file = Whole();
+  const std::string file = Finish();
   EXPECT_TRUE(Holds(file, "q 0 g \n63.00 725.89 0.00 -0.02 re f\nBT\n"));
-  // One place round the text, and one where the cell begins.
+  // One area around the text, and one where the cell begins.
   EXPECT_EQ(Between(file, "/Rect ", " /Border"), "[63 736.89 73 726.89][60 741.89 70 731.89]");
 }
 
 using Cells = PaperTest;
 
 TEST_F(Cells, WrapAtBlanks) {
-  // Where the lines of a cell begin, and the lines.
+  // The positions of a cell's lines, and the lines.
   const auto lines = [](std::string_view text) {
     Paper paper;
     paper.printer.PDFSetFont(1, 10, 0);
@@ -63,7 +63,7 @@ TEST_F(Cells, WrapAtBlanks) {
              Row("ab\r\ncd", "60(ab\ncd)"), Row("       x", "6060(      )(x)"));
 }
 
-TEST_F(Cells, NeedABorderAnewEachTime) {
+TEST_F(Cells, NeedTheBorderSetForEachCell) {
   const auto cell = [&] { printer.PDFCell("ab", 60, 100, 100, 20, ""); };
   printer.PDFSetFont(0, 10, 0);
   printer.PDFSetBorder(1);
@@ -76,7 +76,7 @@ TEST_F(Cells, JustifyAndClearTheSpacing) {
   printer.PDFSetBorder(0);
   printer.PDFSetAlignement(3);
   printer.PDFCell("a b c", 63, 100, 100, 20, "");
-  // Half of 100 less three margins and 25; underlined 10 + 25 + 66 less three margins and the size.
+  // Half of 100 less three margins and 25. Underline: 10 + 25 + 66 less three margins and the size.
   EXPECT_EQ(Content(), KnownContent("a justified cell"));
 }
 

@@ -1,4 +1,4 @@
-// Colours, lines, shapes, texts and links, as the content of a page has them.
+// Colours, lines, shapes, texts and links, as they appear in a page's content.
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ TEST_F(Colours, AreOperators) {
 
 using Lines = PaperTest;
 
-TEST_F(Lines, LeaveTheirEndAndFillWithTheirColour) {
+TEST_F(Lines, MoveToTheirEndAndSetTheFillColour) {
   printer.PDFDrawLineHor(60, 100, 50);
   EXPECT_EQ(Place(), std::pair(110, 100));
   printer.PDFSetLineColor(255);
@@ -36,7 +36,7 @@ TEST_F(Lines, LeaveTheirEndAndFillWithTheirColour) {
   EXPECT_EQ(Content(), KnownContent("lines"));
 }
 
-TEST_F(Lines, HaveStylesOfWholePoints) {
+TEST_F(Lines, UseDashesOfWholePoints) {
   printer.PDFSetUnit(2);
   for (const int style : {0, 1, 2, 3}) {
     printer.PDFSetLineStyle(style);
@@ -48,7 +48,7 @@ TEST_F(Lines, HaveStylesOfWholePoints) {
 
 using Shapes = PaperTest;
 
-// A document as a whole has both together.
+// A known document has both combined.
 TEST_F(Shapes, AreOutlinedOrFilled) {
   for (const int mode : {0, 1}) {
     printer.PDFSetDrawMode(mode);
@@ -58,13 +58,13 @@ TEST_F(Shapes, AreOutlinedOrFilled) {
   EXPECT_EQ(Content(), KnownContent("outlined shapes") + KnownContent("filled shapes"));
 }
 
-TEST_F(Shapes, LeaveWhiteTextAndARectangleItsKind) {
+TEST_F(Shapes, TurnTextWhiteAndAffectTheNextLink) {
   printer.PDFDrawRectangle(10, 20, 30, 40, "");
   EXPECT_EQ(printer.PDFGetTextColor(), "1.000 1.000 1.000 rg");
-  // The next link is taken for the rectangle's: as wide as that, and without its text.
+  // The next link is taken to be the rectangle's: as wide, and without text.
   printer.PDFLink(50, 60, "hidden", "u");
   printer.PDFLink(50, 60, "shown", "u");
-  const std::string file = Whole();
+  const std::string file = Finish();
   EXPECT_TRUE(Holds(file, "/Rect [50 781.89 80 781.89]"));
   EXPECT_EQ(Between(file, "\n(", ") Tj"), "shown");
 }
@@ -81,7 +81,7 @@ TEST_F(Shapes, DropHalfAPointBehindAnEvenNumberOfPoints) {
 
 using Texts = PaperTest;
 
-TEST_F(Texts, StandAtThePresentPositionBesideTheMargin) {
+TEST_F(Texts, StartAtTheCurrentPositionPlusTheMargin) {
   printer.PDFTextOut("a(b)\\", 0, 0);
   EXPECT_EQ(Place(), std::pair(26, 11));
   printer.PDFSetFont(0, -7, 0);
@@ -100,7 +100,7 @@ TEST_F(Texts, AreUnderlinedOnce) {
   EXPECT_EQ(Content(), KnownContent("an underlined text"));  // 20 wide: the blank counts twice
 }
 
-TEST_F(Texts, LieOverEachPageAsAWatermark) {
+TEST_F(Texts, AreDrawnOnEachPageAsAWatermark) {
   printer.PDFFiligran("AB");
   EXPECT_EQ(Content(), KnownContent("a watermark"));
 }
@@ -113,7 +113,7 @@ TEST_F(Links, AreTextsAndTheirPlaces) {
   printer.PDFLink(60, 90, "a b", "x(y)");
   printer.PDFLink(60, 120, "open", 5);
   printer.PDFDrawRectangle(60.5, 150, 80.5, 40, "u");
-  const std::string file = Whole();
+  const std::string file = Finish();
   EXPECT_TRUE(Holds(file, KnownContent("a link")));
   EXPECT_TRUE(Holds(file, KnownContent("places of links")));
 }

@@ -1,4 +1,4 @@
-// Whole documents, and the objects round the pages.
+// Complete documents, and the objects around the pages.
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -16,7 +16,7 @@ TEST_F(Documents, TwoBookmarks) {
   printer.PDFUseOutlines(true);
   printer.PDFSetBookmark("A", 0, 200);
   printer.PDFSetBookmark("A1", 1, 400);
-  EXPECT_TRUE(Holds(Whole(), KnownContent("two bookmarks")));
+  EXPECT_TRUE(Holds(Finish(), KnownContent("two bookmarks")));
 }
 
 TEST_F(Documents, ShapesFilledAndOutlined) {
@@ -45,14 +45,14 @@ TEST_F(Documents, AWrappedText) {
       "The five limbs of the almanac are reckoned from the places of the Sun and the Moon, and "
       "each of them ends at a moment that differs from day to day.",
       60, 60, 300, 16, "");
-  EXPECT_EQ(Whole(), KnownContent("a wrapped text"));
+  EXPECT_EQ(Finish(), KnownContent("a wrapped text"));
 }
 
-TEST_F(Documents, ASecondPageOpensWithTheMarkersOfTheTurn) {
+TEST_F(Documents, LaterPagesStartWithPageTurnMarkers) {
   printer.PDFFormatPage({200.5, 300});
   NewPage();
   printer.PDFPageHeight(400);
-  const std::string file = Whole();
+  const std::string file = Finish();
   EXPECT_TRUE(
       Holds(file, "stream\n%FIN_OBJ/%\n%DEBUT_OBJ/%\n%FIN_OBJ/%\n%DEBUT_OBJ/%\nendstream\n"));
   EXPECT_TRUE(Holds(file, "/Kids [\n11 0 R\n12 0 R\n]\n/Count 2\n"));
@@ -60,23 +60,23 @@ TEST_F(Documents, ASecondPageOpensWithTheMarkersOfTheTurn) {
   EXPECT_TRUE(Holds(file, "[ 0 0 200.5 400]\n/Resources 10 0 R\n/Contents 4 "));
 }
 
-TEST_F(Documents, KeepTheirInformationAsGiven) {
+TEST_F(Documents, KeepTheirInformationUnchanged) {
   printer.PDFTitle("a) été द");
   printer.PDFProducer("\\p");
   printer.PDFBeginDoc();
-  const std::string file = Whole();
+  const std::string file = Finish();
   EXPECT_TRUE(Holds(file, "/Producer (\\p)\n/Author ()\n"));
   EXPECT_TRUE(Holds(file, "/Title (a) \xE9t\xE9 ?)"));
 }
 
-TEST_F(Documents, OpenAsTheirSettingsAsk) {
+TEST_F(Documents, OpenAsConfigured) {
   const auto catalog = [](int zoom, int layout, bool thumbs, int preferences) {
     Paper paper;
     paper.printer.PDFSetZoomMode(zoom);
     paper.printer.PDFSetLayoutMode(layout);
     paper.printer.PDFUseThumbs(thumbs);
     paper.printer.PDFSetViewerPreferences(preferences);
-    return Between(paper.Whole(), "/OpenAction [3 0 R ", "\n>>\nendobj");
+    return Between(paper.Finish(), "/OpenAction [3 0 R ", "\n>>\nendobj");
   };
   ExpectRows(catalog,
              Row(1, 1, true, 135,
@@ -91,11 +91,11 @@ TEST_F(Documents, OpenAsTheirSettingsAsk) {
 TEST_F(Documents, AreConfirmedAndClosed) {
   printer.PDFConfirm(true);
   printer.PDFEndDoc();
-  EXPECT_EQ(Told(), "Génération du Fichier PDF - vrPDF 4.0: Fichier PDF généré.\n");
+  EXPECT_EQ(TakeMessages(), "Génération du Fichier PDF - vrPDF 4.0: Fichier PDF généré.\n");
   EXPECT_ERROR(ObjectNotSet, printer.PDFBeginDoc());
 }
 
-// Holds a folder, for root too, until it is asked to close.
+// Blocks a folder, even for root, until it is asked to close.
 struct Reader : ReaderWindows {
   explicit Reader(const std::filesystem::path& held) : folder(held) {}
   void Hold() {
@@ -112,7 +112,7 @@ struct Reader : ReaderWindows {
   std::string closed;
 };
 
-TEST_F(Documents, AreWrittenOnceTheReaderLetsGo) {
+TEST_F(Documents, AreWrittenOnceTheReaderCloses) {
   Reader reader(folder.path);
   PDFPrinter another(clock, boxes, reader);
   reader.Hold();
@@ -125,12 +125,12 @@ TEST_F(Documents, AreWrittenOnceTheReaderLetsGo) {
 
 using Outlines = PaperTest;
 
-// Objects 10 and on are the bookmarks, the next one is the outline; worked out by hand.
-TEST_F(Outlines, TieBookmarksByTheirLevels) {
+// Objects from 10 are bookmarks, followed by the outline; calculated by hand.
+TEST_F(Outlines, LinkBookmarksByLevel) {
   const auto references = [](const std::vector<std::int16_t>& levels) {
     Paper paper;
     for (const std::int16_t level : levels) paper.printer.PDFSetBookmark("", level, 0);
-    const std::string file = paper.Whole();
+    const std::string file = paper.Finish();
     return Between(file, "<</Title ()\n", "/Dest") + Between(file, "/Outlines ", ">>");
   };
   EXPECT_EQ(references({0}), "");

@@ -1,4 +1,4 @@
-// The fonts of a folder and their widths.
+// A folder's fonts and their widths.
 
 #include <gtest/gtest.h>
 
@@ -11,9 +11,9 @@ using Fonts = PaperTest;
 
 TEST_F(Fonts, AreNamedByFamilyAndStyle) {
   printer.PDFLoadAfm(METRICS_FOLDER);
-  // The files know another encoding, in which the byte is that of "Ø".
+  // The metric files use another encoding, in which this byte is "Ø".
   EXPECT_EQ(printer.PDFGetStringWidth("é", "Helvetica", 10), 7.78);
-  // Thousandths of the size, added up from the files.
+  // In thousandths of the size, added up from the files.
   const auto width = [&](int font, int style) {
     printer.PDFSetFont(font, 10, style);
     return foundation::NumberText(printer.PDFGetStringWidth("Durvela", "", 1000));
@@ -27,7 +27,7 @@ TEST_F(Fonts, AreNamedByFamilyAndStyle) {
 
 using FontFolders = PaperTest;
 
-TEST_F(FontFolders, GrowFromTheStart) {
+TEST_F(FontFolders, OverwriteNamesFromTheFirst) {
   FontFolder fonts;
   fonts.PDFLoadAfm(folder.path);
   EXPECT_EQ(fonts.Names(), (std::vector<std::string>{"Courier", "Helvetica", "Times-Roman"}));
@@ -37,11 +37,11 @@ TEST_F(FontFolders, GrowFromTheStart) {
   fonts.PDFLoadAfm(folder.path / "more");
   EXPECT_EQ(fonts.Names(), (std::vector<std::string>{"courier-x", "Zapf", "Times-Roman"}));
   EXPECT_EQ(fonts.NumberOf("Zapf"), 2);
-  EXPECT_EQ(fonts.Widths("Zapf")[65], 700);  // whatever the case of its extension
+  EXPECT_EQ(fonts.Widths("Zapf")[65], 700);  // the extension's case does not matter
   EXPECT_ERROR(FileNotFound, fonts.PDFLoadAfm(folder.path / "none"));
 }
 
-TEST_F(FontFolders, SeeAChangedFileOnTheNextPage) {
+TEST_F(FontFolders, NoticeAChangedFileOnTheNextPage) {
   const auto width = [&] { return printer.PDFGetStringWidth("A", "Courier", 10); };
   EXPECT_EQ(width(), 5);
   folder.Write("Courier.afm", "StartCharMetrics 1\nC 65 ; WX 900 ;\nEndCharMetrics\n");
@@ -55,7 +55,7 @@ TEST(Metrics, ReadTheNumberedCharactersOrFail) {
       "C 65 ; WX 1 ;\nStartCharMetrics 4\r\n C 66 ; WX 700.9 ; N B ;\nC 68 ; WX 5 ;\n"
       "C 67 ; WX 5 ;\nC -1 ; WX 9 ; N x ;\nC 69 ; WX 9 ;\n");
   const auto width = [&](int code) { return widths[code]; };
-  // 68 is above the last one.
+  // 68 is above the last code.
   ExpectRows(width, Row(65, 0), Row(66, 700), Row(67, 5), Row(68, 0), Row(69, 0));
   EXPECT_EQ(ReadWidths("StartCharMetrics\nC 66 ; WX 700 ;\n")[66], 0);
   EXPECT_ERROR(FileAccess, ReadWidths("StartCharMetrics 1\n"));

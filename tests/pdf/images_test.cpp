@@ -1,4 +1,4 @@
-// JPEG files put together by hand, and what a document makes of them.
+// Hand-made JPEG files, and how a document embeds them.
 
 #include <gtest/gtest.h>
 
@@ -19,7 +19,7 @@ std::string Frame(char marker, std::size_t width, std::size_t height, char compo
   return std::string("\xFF") + marker + Word(8) + '\x08' + Word(height) + Word(width) + components;
 }
 
-// Filled up to a size with a comment that ends at the end marker.
+// Padded to a size with a comment that ends at the end marker.
 std::string Jpeg(const std::string& segments, std::size_t size = 250) {
   std::string file = "\xFF\xD8" + segments;
   const std::size_t rest = size - file.size() - 4;
@@ -39,16 +39,16 @@ TEST(JpegScan, FindsSizeAndColours) {
       Row(Frame('\xC7', 1, 65535, 4), Scan(1, 65535, 8, "DeviceCMYK")),
       Row(Frame('\xC1', 3, 2, 2), Scan(3, 2, 16, "")),
       Row(Frame('\xC4', 3, 2, 3) + Frame('\xC0', 20, 12, 3), Scan(20, 12, 8, "DeviceRGB")),
-      // Fill bytes hide the marker behind them.
+      // Fill bytes hide the marker after them.
       Row("\xFF" + Frame('\xC0', 20, 12, 3) + Frame('\xC0', 9, 8, 1), Scan(9, 8, 8, "DeviceGray")));
-  // A comment that ends one byte short of the end marker.
+  // A comment that ends one byte before the end marker.
   PDFImageRecord record;
   EXPECT_ERROR(Subscript, PDFParseJpeg(Jpeg("\xFF\xFE" + Word(243)), record));
 }
 
 using Images = PaperTest;
 
-TEST_F(Images, ArePlacedInTheirSize) {
+TEST_F(Images, ArePlacedAtTheirSize) {
   const std::string jpeg = Jpeg(Frame('\xC0', 60, 30, 3));
   folder.Write("a.jpeg", jpeg);
   printer.PDFSetUnit(3);
@@ -58,7 +58,7 @@ TEST_F(Images, ArePlacedInTheirSize) {
   };
   ExpectRows(place, Row(0, 0, std::pair(70, 40)), Row(2880, 0, std::pair(154, 82)),
              Row(0, 2880, std::pair(298, 154)), Row(1440, 1440, std::pair(82, 82)));
-  const std::string file = Whole();
+  const std::string file = Finish();
   EXPECT_EQ(
       Between(file, "\nq\n", "Do Q"),
       "60.00 0 0 30.00 10.00 801.89 cm /ImgJPEG1 144.00 0 0 72.00 10.00 759.89 cm /ImgJPEG2 "
@@ -71,26 +71,26 @@ TEST_F(Images, ArePlacedInTheirSize) {
           jpeg + "\nendstream\nendobj\n\n10 0 obj\n"));
 }
 
-TEST_F(Images, LendTheirSizeToTheNextLinkWhereTheirOwnFails) {
+TEST_F(Images, LendTheirSizeToTheNextLinkIfTheirOwnFails) {
   folder.Write("a.jpg", Jpeg(Frame('\xC0', 60, 30, 3)));
   printer.PDFSetFont(9, 10, 0);  // a face without metrics
   EXPECT_ERROR(FileNotFound, printer.PDFImage((folder.path / "a.jpg").string(), 10, 20, 0, 0, "u"));
   printer.PDFSetFont(0, 10, 0);
   printer.PDFDrawEllipse(50, 100, 40, 20, "u");
   printer.PDFDrawEllipse(50, 100, 40, 20, "u");
-  // 60 by 30 as the picture, then 20 by 10 as the ellipse's own.
+  // 60 by 30 as the picture, then 20 by 10 as the ellipse.
   EXPECT_EQ(Between(Whole(), "/Rect ", " /Border"), "[30 737.89 90 707.89][30 737.89 50 727.89]");
 }
 
-TEST_F(Images, AreRefusedWhereTheyAreNoJpeg) {
-  const auto told = [&](const std::string& name, const std::string& bytes) {
+TEST_F(Images, AreRejectedUnlessJpeg) {
+  const auto message = [&](const std::string& name, const std::string& bytes) {
     if (!bytes.empty()) folder.Write(name, bytes);
     printer.PDFImage((folder.path / name).string(), 1, 1, 1, 1, "");
-    return Between(Told(), "Fichier Image - vrPDF 4.0: ",
+    return Between(TakeMessages(), "Fichier Image - vrPDF 4.0: ",
                    "\r\nImpossible d'inclure l'image dans le fichier PDF.\n");
   };
   ExpectRows(
-      told, Row("missing.jpg", "", "Fichier image non JPEG."),
+      message, Row("missing.jpg", "", "Fichier image non JPEG."),
       Row("short.jpg", Jpeg("", 249), "Fichier image non JPEG."),
       Row("a.png", "",
           "Format d'image non supportée.\r\nSeule les images de types JPG sont supportées."),

@@ -1,4 +1,4 @@
-// Units, formats, margins, and what a wrong code is told.
+// Units, formats, margins, and messages for wrong codes.
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 namespace pdf {
 namespace {
 
-TEST(Numbers, AreWrittenWithoutALocale) {
+TEST(Numbers, AreIndependentOfTheLocale) {
   ExpectRows(PDFFormatNumber, Row(12, 2, "12.00"), Row(-0.003, 2, "-0.00"), Row(-0.0, 2, "0.00"),
              Row(0.125, 2, "0.12"), Row(0.375, 2, "0.38"), Row(1.005, 2, "1.00"),
              Row(-41.996, 2, "-42.00"), Row(3e9, 2, "3000000000.00"), Row(0.7071054, 5, "0.70711"));
@@ -17,7 +17,7 @@ TEST(Numbers, AreWrittenWithoutALocale) {
 
 using PageSetup = PaperTest;
 
-TEST_F(PageSetup, TakesItsUnits) {
+TEST_F(PageSetup, ConvertsUnits) {
   printer.PDFSetFont(0, 10, 0);
   const auto height = [&](int unit) {
     printer.PDFSetUnit(unit);
@@ -36,7 +36,7 @@ TEST_F(PageSetup, RoundsMarginsToWholeUnits) {
   EXPECT_EQ(Place(), std::pair(2, 4));
 }
 
-TEST_F(PageSetup, TakesItsFormats) {
+TEST_F(PageSetup, SetsPageFormats) {
   using Size = std::pair<double, double>;
   const auto size = [&](const Argument& format, int orientation) {
     printer.PDFFormatPage(format);
@@ -49,7 +49,7 @@ TEST_F(PageSetup, TakesItsFormats) {
 
 using WrongCodes = PaperTest;
 
-TEST_F(WrongCodes, AreToldAndReplaced) {
+TEST_F(WrongCodes, AreReportedAndReplaced) {
   struct {
     void (*call)(PDFPrinter&);
     std::string subject, text;
@@ -58,11 +58,11 @@ TEST_F(WrongCodes, AreToldAndReplaced) {
   };
   for (const auto& [call, subject, text] : rows) {
     call(printer);
-    EXPECT_EQ(Told(), subject + " - vrPDF 4.0: " + text + "\n");
+    EXPECT_EQ(TakeMessages(), subject + " - vrPDF 4.0: " + text + "\n");
   }
   printer.PDFDrawRectangle(0, 0, 9, 9, 5);
-  EXPECT_EQ(Told(), "");
-  EXPECT_TRUE(Holds(Content(), "re s\n"));  // in spite of the draw mode's text
+  EXPECT_EQ(TakeMessages(), "");
+  EXPECT_TRUE(Holds(Content(), "re s\n"));  // despite what the draw mode's message says
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// A document in a folder of its own, in points, with three fonts whose characters are all half as
+// A document in a temporary folder, in points, with three fonts whose characters are all half as
 // wide as the font is high.
 #pragma once
 
@@ -19,7 +19,7 @@ namespace pdf {
 
 using support::Row;
 
-// "\n" for the CR LF that ends a line of a file, "~" for a CR alone, "^\n" for an LF alone.
+// Shows CR LF as "\n", a lone CR as "~" and a lone LF as "^\n".
 inline std::string Readable(std::string_view bytes) {
   std::string text;
   for (const char c : bytes) {
@@ -29,7 +29,7 @@ inline std::string Readable(std::string_view bytes) {
   return text;
 }
 
-// A content of documents/contents.inc.
+// A named content from documents/contents.inc.
 inline std::string KnownContent(std::string_view name) {
   static const std::map<std::string_view, std::string_view> kContents = {
 #include "pdf/documents/contents.inc"
@@ -64,12 +64,12 @@ struct Paper {
 
   std::pair<int, int> Place() const { return {printer.PDFGetX(), printer.PDFGetY()}; }
 
-  // What the user was told since the last time.
-  std::string Told() {
-    std::string told;
-    for (const auto& box : boxes.shown) told += box.title + ": " + box.text + "\n";
+  // The messages shown since the last call.
+  std::string TakeMessages() {
+    std::string messages;
+    for (const auto& box : boxes.shown) messages += box.title + ": " + box.text + "\n";
     boxes.shown.clear();
-    return told;
+    return messages;
   }
 
   void NewPage() {
@@ -77,29 +77,29 @@ struct Paper {
     printer.PDFNewPage();
   }
 
-  // Ends the document.
-  std::string Whole() {
+  // Ends the document and returns its file.
+  std::string Finish() {
     printer.PDFEndDoc();
     return File();
   }
 
-  // The content of the first page; ends the document.
+  // Ends the document and returns the first page's content.
   std::string Content() {
-    const std::string file = Whole();
+    const std::string file = Finish();
     constexpr std::string_view kStart = "\nstream\n";
     const std::size_t start = file.find(kStart) + kStart.size();
     return file.substr(start, file.find("endstream\n", start) - start);
   }
 };
 
-// A test of a document.
+// Fixture with a document.
 struct PaperTest : testing::Test, Paper {};
 
 inline bool Holds(std::string_view text, std::string_view part) {
   return text.find(part) != std::string_view::npos;
 }
 
-// What stands between two marks, wherever they are.
+// Everything between each pair of marks.
 inline std::string Between(std::string_view text, std::string_view open, std::string_view close) {
   std::string found;
   for (std::size_t at = 0; (at = text.find(open, at)) != text.npos;) {
