@@ -18,13 +18,13 @@ DateTimeFields Fields(int year, int month, int day, int hour = 0, int minute = 0
 }
 
 TEST(Calendar, CountsFrom30December1899AndWeekdaysFromSunday) {
-  // 36526 is the usual serial of spreadsheets.
+  // 36526 is the serial number that spreadsheets use.
   ExpectRows(DateFromParts, Row(1899, 12, 30, 0), Row(2000, 1, 1, 36526), Row(100, 1, 1, -657434));
   ExpectRows(WeekdayOf, Row(DateFromParts(2011, 3, 6), 1),
              Row(DateFromParts(2011, 3, 5) + 0.999, 7));
 }
 
-TEST(Calendar, CarriesFieldsButRefusesYearsOutside100To9999) {
+TEST(Calendar, CarriesFieldsButRejectsYearsOutside100To9999) {
   ExpectRows([](int year, int month, int day) { return FieldsOf(DateFromParts(year, month, day)); },
              Row(2011, 4, 31, Fields(2011, 5, 1)), Row(2011, 3, 0, Fields(2011, 2, 28)),
              Row(2012, -11, -30, Fields(2010, 12, 1)));
@@ -51,7 +51,7 @@ TEST(DateText, ReadsDatesAndTimes) {
              Row("7:0", Fields(1899, 12, 30, 7)));
 }
 
-TEST(DateText, RefusesWhatDoesNotExist) {
+TEST(DateText, RejectsInvalidTexts) {
   constexpr std::string_view kTexts =
       "| |5|5-March|29-February-2011|31-4-2011|0-1-2011|1-13-2011|5-Marchy-2011|24:00|24:0|6:60|"
       "6:12:60|6:|13:00 PM|0:30 AM|5-March-2011 24:00|5-March-2011x|5-March-20116:12|99999-1-1|"
@@ -63,10 +63,10 @@ TEST(DateText, RefusesWhatDoesNotExist) {
   EXPECT_EQ(TryReadTime("5-March-2011"), std::nullopt);
 }
 
-TEST(DateText, KnowsTheUsersMonthsAndTheEnglishOnes) {
+TEST(DateText, ReadsTheUsersMonthsAndEnglishOnes) {
   const auto read = [](std::string_view text) { return FieldsOf(ReadDateTime(text)); };
   {
-    // Names that begin with a number or one another, hold a blank, begin an English one.
+    // Names that start with a number or with each other, contain a blank, or start an English one.
     LocaleNames names = EnglishNames();
     names.months = {"tháng 1", "Februar", "März", "मई",   "5月",      "6月",
                     "7月",     "8月",     "9月",  "10月", "tháng 11", "12月"};

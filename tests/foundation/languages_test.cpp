@@ -1,4 +1,4 @@
-// Language files and the encodings of texts.
+// Language files and text encodings.
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,7 @@ namespace {
 
 using support::Row;
 
-TEST(LanguagePhrases, ComeFromTheFirstLineOfTheKey) {
+TEST(LanguagePhrases, ComeFromTheFirstMatchingLine) {
   const support::AppFolderScope folder;
   folder.Write("Language/eenglish.txt", "no separator\r\nSUN\xA7Sun\nsun\xA7second\r\n\xA7nothing");
   folder.Write("Language/ehindi.txt", "sun\xA7सूर्य \xA7 rest\rMoon\xA7");
@@ -38,12 +38,12 @@ TEST(LanguagePhrases, ComeFromTheFirstLineOfTheKey) {
   EXPECT_ERROR(FileAccess, LanguagePhrase("Sun", 5));
 }
 
-TEST(Lines, EndWithAnyOfTheThreeEnds) {
+TEST(Lines, EndWithCrLfCrOrLf) {
   std::string_view text = "a\r\nb\rc\n\nd";
   for (const std::string_view line : {"a", "b", "c", "", "d", ""}) EXPECT_EQ(TakeLine(text), line);
 }
 
-TEST(ByteTexts, AreOfCodePage1252) {
+TEST(ByteTexts, UseCodePage1252) {
   EXPECT_EQ(ToBytes("A°é€Ÿ"), ByteText("A\xB0\xE9\x80\x9F"));
   EXPECT_EQ(ToBytes("दिā\xE9"), ByteText("????"));
   std::string bytes;
@@ -58,7 +58,7 @@ constexpr std::string_view kVocabulary =
 using Phrases = std::map<std::string, std::string>;
 
 const struct {
-  std::string file, first, last;  // first and last of the script's characters; none in English
+  std::string file, first, last;  // range of the script's characters; empty for English
   Phrases known;
 } kLanguages[] = {
     {"eenglish", "", "", {{"MOON", "Moon"}, {"P. PHALG", "P. Phalg"}, {"BAVA", "Bava"}}},
@@ -67,7 +67,7 @@ const struct {
     {"emalayalam", "ഀ", "ൿ", {{"ARIES", "മേടം"}, {"SATBISA", "ചതയം"}, {"JUPITER", "വ്യാഴം"}}},
     {"ekannad", "ಀ", "ೲ", {{"ASHVANI", "ಅಶ್ವಿನಿ"}, {"MOON", "ಚಂದ್ರ"}, {"AMAVASYA", "ಅಮಾವಾಸ್ಯೆ"}}}};
 
-TEST(LanguageFiles, HoldEachWordOnceInTheirOwnScript) {
+TEST(LanguageFiles, ContainEachWordOnceInTheirScript) {
   for (const auto& [file, first, last, known] : kLanguages) {
     SCOPED_TRACE(file);
     std::set<std::string> missing;
@@ -76,7 +76,7 @@ TEST(LanguageFiles, HoldEachWordOnceInTheirOwnScript) {
     std::ifstream in(LANGUAGE_FOLDER "/" + file + ".txt", std::ios::binary);
     for (std::string key, phrase;
          std::getline(in >> std::ws, key, '\xA7') && std::getline(in, phrase);) {
-      EXPECT_EQ(missing.erase(UpperAscii(key)), 1U) << key << " stands twice or is no word";
+      EXPECT_EQ(missing.erase(UpperAscii(key)), 1U) << key << " is a duplicate or not a word";
       EXPECT_NE(phrase, "");
       phrases[UpperAscii(key)] = phrase;
       if (first.empty() || key == ":") {
@@ -92,14 +92,14 @@ TEST(LanguageFiles, HoldEachWordOnceInTheirOwnScript) {
   }
 }
 
-TEST(LegacyHindi, ReadsAsItIsSpelled) {
+TEST(LegacyHindi, ConvertsToUnicode) {
   const std::pair<std::string_view, std::string_view> texts[] = {
 #include "foundation/legacy_hindi.inc"
   };
   for (const auto& [legacy, unicode] : texts) EXPECT_EQ(FromLegacyHindi(legacy), unicode) << legacy;
 }
 
-TEST(Folders, OfPagesIsTheUsersOwnWhereTheProgramIsShared) {
+TEST(Folders, KeepPagesInTheUsersCacheIfTheProgramIsShared) {
   const support::AppFolderScope folder;
   const auto temp = [&](bool shared, const char* cache, const char* home) {
     if (shared) folder.Write("shared", "");

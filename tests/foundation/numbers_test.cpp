@@ -1,4 +1,4 @@
-// Numbers, steps that fail, and the records of a session.
+// Numbers, failing statements, and session records.
 
 #include "foundation/numbers.h"
 
@@ -20,7 +20,7 @@ namespace {
 
 using support::Row;
 
-TEST(Rounding, GoesToTheNearestWithTiesToEven) {
+TEST(Rounding, RoundsToNearestWithTiesToEven) {
   ExpectRows(RoundToInt16, Row(0.5, 0), Row(1.5, 2), Row(-1.5, -2), Row(-2.5, -2),
              Row(32767.49, 32767), Row(-32768.5, -32768));
   ExpectRows(RoundToInt32, Row(2147483647.4, 2147483647), Row(0.49999999999999994, 0));
@@ -29,7 +29,7 @@ TEST(Rounding, GoesToTheNearestWithTiesToEven) {
   EXPECT_ERROR(Overflow, RoundToInt32(std::nan("")));
 }
 
-TEST(LeadingNumber, IsTheNumericPartThatTheTextBeginsWith) {
+TEST(LeadingNumber, IsTheNumberATextBeginsWith) {
   ExpectRows(LeadingNumber, Row("12abc", 12), Row("77.13E", 77.13), Row("77.13E5", 7713000),
              Row("77.13E+", 77.13), Row("  -5.30", -5.3), Row("+11", 11), Row(".5", 0.5),
              Row("5.", 5), Row("1.2.3", 1.2), Row("1,5", 1), Row("", 0), Row("inf", 0),
@@ -49,18 +49,18 @@ TEST(NumberText, IsTheShortestThatReadsBack) {
   ExpectRows(written, Row(0, "0"), Row(-0.0, "0"), Row(28.4, "28.4"),
              Row(28.666666666666668, "28.666666666666668"), Row(0.0001, "0.0001"),
              Row(0.00001, "1E-05"), Row(1e15, "1000000000000000"), Row(1e16, "1E+16"));
-  ExpectRows(DecimalOf, Row(4000.2F, 4000.2), Row(-1e30F, -1e30));  // by the text of 32 bits
+  ExpectRows(DecimalOf, Row(4000.2F, 4000.2), Row(-1e30F, -1e30));  // from the 32-bit text
   EXPECT_ERROR(Overflow, NumberText(std::numeric_limits<double>::infinity()));
 }
 
 TEST(NumberTexts, AreRoundedAndGrouped) {
-  // An exact tie goes to even; 1.005 is below itself.
+  // Exact ties go to even; 1.005 is slightly less than that.
   ExpectRows(FixedText, Row(2.5, 2, "2.50"), Row(0.125, 2, "0.12"), Row(1.005, 2, "1.00"));
   ExpectRows(GroupedText, Row(0, "0"), Row(-100, "-100"), Row(202281, "202,281"),
              Row(-1234567, "-1,234,567"));
 }
 
-TEST(CheckedArithmetic, MakesTrapsErrors) {
+TEST(CheckedArithmetic, RaisesErrors) {
   constexpr std::int64_t kLeast = std::numeric_limits<std::int64_t>::min();
   EXPECT_ERROR(DivisionByZero, Divide(1, 0.0));
   EXPECT_ERROR(Overflow, Divide(1e300, 1e-300));
@@ -71,17 +71,17 @@ TEST(CheckedArithmetic, MakesTrapsErrors) {
   EXPECT_EQ(IntegerDivide(-7, 2), -3);
 }
 
-TEST(Resume, GoesOnAfterAFailedStatementAndTellsSo) {
+TEST(Resume, ContinuesAfterAFailedStatementAndReportsIt) {
   int value = 1;
   EXPECT_FALSE(Resume([&] { value = RoundToInt16(1e9); }));
   EXPECT_EQ(value, 1);
   EXPECT_TRUE(Resume([&] { value = 2; }));
   EXPECT_EQ(value, 2);
-  // Only the system's own errors are resumed from.
+  // Only the program's own errors are swallowed.
   EXPECT_THROW(Resume([] { throw std::logic_error("a fault of the program"); }), std::logic_error);
 }
 
-TEST(Errors, KeepFromReadingWhatIsNotThere) {
+TEST(Errors, PreventReadingMissingElements) {
   const BoundedArray<int, 1, 2> ends(std::array{10, 20});
   EXPECT_EQ(std::tuple(ends[1], ends[2]), std::tuple(10, 20));
   EXPECT_ERROR(Subscript, ends[0]);

@@ -1,4 +1,4 @@
-// Texts, and dates, times and angles as texts.
+// Texts, and dates, times and angles as text.
 
 #include "foundation/text.h"
 
@@ -17,7 +17,7 @@ namespace {
 
 using support::Row;
 
-TEST(Text, GoesByCharactersNotBytes) {
+TEST(Text, CountsCharactersNotBytes) {
   // A stray byte is a character too.
   ExpectRows([](std::string_view text) { return Characters(text).size(); }, Row("8°4", 3U),
              Row("a\xC3", 2U), Row("\x80\xFF", 2U), Row("\xE0\xA4z", 3U));
@@ -33,7 +33,7 @@ TEST(Text, ChangesCase) {
              Row("u. PHALG", "U. Phalg"));
 }
 
-TEST(Text, BeginsWithAnotherCaseAside) {
+TEST(Text, BeginsWithAnotherIgnoringCase) {
   ExpectRows(BeginsWith, Row("Delhi, India", "dELHI", true), Row("ÉVORA", "év", true),
              Row("दिल्ली", "दि", true), Row("", "", true), Row("Del", "Delhi", false),
              Row("दिल्ली", "द\xE0", false), Row("\xE9", "é", false));
@@ -50,7 +50,7 @@ TEST(TimeTexts, ShowDecimalHoursAsATimeOfDay) {
              Row(26.31482736972486, "02:18:53"), Row(12.641666666666667, "12:38:30"),
              Row(12.795833333333333, "12:47:45"), Row(-24, "00:00:00"));
   EXPECT_EQ(DecimalToTimeText(6.5, 24, true), "06:30");
-  EXPECT_EQ(DecimalToTimeText(1e18), DecimalToTimeText(std::fmod(1e18, 24)));  // and at once
+  EXPECT_EQ(DecimalToTimeText(1e18), DecimalToTimeText(std::fmod(1e18, 24)));  // without looping
 }
 
 TEST(TimeTexts, ShowDurationsWithoutCarries) {
@@ -84,20 +84,20 @@ TEST(PaddedDigits, AreCutToTheirWidth) {
   EXPECT_ERROR(InvalidCall, PadDigits(1, -1));
 }
 
-TEST(Angles, FollowDegreesAndMinutes) {
+TEST(Angles, ConvertDegreesAndMinutes) {
   double written = -28.4;
   EXPECT_EQ(DegMinToDecimal(written), -27.999999999999996);
   EXPECT_EQ(written, -27.999999999999996);
 }
 
-TEST(Angles, GiveAZoneItsMeridian) {
+TEST(Angles, ConvertAZoneToItsMeridian) {
   ExpectRows(ZoneToMeridianText, Row("-5.30", "82.30E"), Row("-3.30", "52.30E"), Row("5", "75.0W"),
              Row("+0.20", "5.0W"), Row("+11", "165.0W"), Row("", "0.0W"));
   EXPECT_ERROR(Overflow, ZoneToMeridianText("999999999999"));
 }
 
-TEST(Angles, ShowTheirPlaceInASign) {
-  // A carry raises the next field and stays to be seen in its own.
+TEST(Angles, ShowTheirPositionInASign) {
+  // A carry raises the next field and leaves "60" in the lower one.
   ExpectRows(DecimalToSignDMS, Row(269.6273716983858, "29:37:39"), Row(15, "15:00:00"),
              Row(10.9999, "11:60:60"), Row(359.99999, "30:60:60"));
 }
