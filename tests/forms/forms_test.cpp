@@ -1,4 +1,4 @@
-// Forms, their lists and targets, and how they are resized.
+// Forms, lists, drawing targets, and resizing.
 
 #include <gtest/gtest.h>
 
@@ -17,13 +17,13 @@ namespace {
 
 using support::Row;
 
-TEST(DrawingTarget, RefusesTheMembersThatItLacks) {
+TEST(DrawingTarget, RejectsMissingMembers) {
   struct : DrawingTarget {
   } bare;
   EXPECT_ERROR(NoSuchMember, bare.SetDrawWidth(2));
 }
 
-TEST(ItemList, TellsThePlaceThatAnEntryTakes) {
+TEST(ItemList, ReturnsTheIndexOfANewEntry) {
   ItemList sorted{true}, inOrder{false};
   ExpectRows([&](auto text) { return sorted.AddItem(text); }, Row("Mumbai", 0), Row("agra", 0),
              Row("Agra Cantt", 1), Row("Zira", 3), Row("AGRA", 1), Row("mumbai", 4),
@@ -31,7 +31,7 @@ TEST(ItemList, TellsThePlaceThatAnEntryTakes) {
   ExpectRows([&](auto text) { return inOrder.AddItem(text); }, Row("b", 0), Row("a", 1));
 }
 
-TEST(ItemList, KeepsItsSelectionAndItsNumberOnTheEntry) {
+TEST(ItemList, KeepsSelectionAndItemDataWithTheEntry) {
   ItemList list{true};
   list.AddItem("b");
   EXPECT_ERROR(InvalidCall, list.SetListIndex(1));
@@ -45,7 +45,7 @@ TEST(ItemList, KeepsItsSelectionAndItsNumberOnTheEntry) {
   EXPECT_EQ(list.ListIndex(), -1);
 }
 
-// Drawn column by column, the head in a face with another baseline and an encoding of its own.
+// Drawn column by column; the head has a face with another baseline and its own encoding.
 TEST(Picture, IsReadLineByLine) {
   const std::string hindi(foundation::kLegacyHindiFace);
   const auto page = NewPicture(900, 900);
@@ -56,7 +56,7 @@ TEST(Picture, IsReadLineByLine) {
   EXPECT_EQ(LinesOf(*page), "दिनांक Rise\n1-Sat 07:14\n");
 }
 
-// A control of every manner of resizing.
+// One control for each way of resizing.
 struct SampleForm : Form {
   SampleForm() : Form("SampleForm", "Sample", 6000, 4000) {}
 
@@ -79,7 +79,7 @@ struct SampleForm : Form {
   clsVSZ sizes;
 };
 
-TEST(Form, KeepsItsControlsInTheOrderOfItsTable) {
+TEST(Form, KeepsControlsInTableOrder) {
   SampleForm form;
   std::string names;
   for (const Control& control : form.Controls()) names += control.name + " ";
@@ -93,11 +93,11 @@ struct Resizing : testing::Test {
   SampleForm form;
 };
 
-TEST_F(Resizing, ScalesEachAxisOnItsOwnAndFontsByHeight) {
+TEST_F(Resizing, ScalesAxesSeparatelyAndFontsByHeight) {
   form.Resize(12000, 6000);
   EXPECT_EQ(form.lblHead.place, (Place{200, 300, 6000, 450}));
   EXPECT_EQ(form.Shape1.place, (Place{20, 30, 60, 60}));
-  EXPECT_EQ(form.cmbPage.place, (Place{1000, 900, 1400, 315}));  // its height is the toolkit's
+  EXPECT_EQ(form.cmbPage.place, (Place{1000, 900, 1400, 315}));  // the toolkit sets its height
   EXPECT_EQ(form.Fixed.place, (Place{1, 2, 3, 4}));
   EXPECT_EQ(form.Timer1.place, (Place{1, 2, 3, 4}));
   EXPECT_EQ(form.SameFont.place, (Place{2000, 3000, 800, 750}));
@@ -115,21 +115,21 @@ TEST_F(Resizing, KeepsFontsReadable) {
   EXPECT_EQ(form.cmbPage.font.size, 8);
 }
 
-TEST_F(Resizing, ComesBackExactly) {
+TEST_F(Resizing, RestoresTheLayoutExactly) {
   const auto before = form.Layout();
   for (const float width : {7001.0F, 3333.0F, 19.0F}) form.Resize(width, width / 3);
   form.Resize(6000, 4000);
   EXPECT_EQ(form.Layout(), before);
 }
 
-TEST_F(Resizing, CanMoveOnly) {
+TEST_F(Resizing, CanMoveWithoutResizing) {
   form.Resize(12000, 8000, true);
   EXPECT_EQ(form.lblHead.place, (Place{200, 400, 3000, 300}));
   EXPECT_EQ(form.lblHead.font.size, 9);
   EXPECT_EQ(form.Line1.ends, (LineEnds{300, 2000, 11700, 2200}));
 }
 
-TEST_F(Resizing, LeavesAMinimisedFormAlone) {
+TEST_F(Resizing, IgnoresMinimisedForms) {
   const auto before = form.Layout();
   form.windowState = WindowState::Minimised;
   form.Resize(2400, 400);
