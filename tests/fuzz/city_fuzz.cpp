@@ -1,5 +1,5 @@
-// Any bytes at all as a city file, and any lines as its records before they were scrambled: lists
-// that agree, and a file that loses no line when one is changed.
+// Arbitrary bytes as a city file, and arbitrary lines as its records before scrambling. Lists must
+// agree, and editing must not lose lines.
 
 #include "atlas/city_file.h"
 #include "atlas/clsAtlas.h"
@@ -20,7 +20,7 @@ int Items() {
   return items;
 }
 
-// A coordinate, and the letter at its end.
+// Splits a coordinate from the letter at its end.
 std::pair<std::string, std::string> Split(const std::string& text) {
   const std::size_t end = text.empty() ? 0 : text.size() - 1;
   return {text.substr(0, end), text.substr(end)};
@@ -44,7 +44,7 @@ void Work(std::string_view file) {
   changed.Place = "Ujjain";
   atlas.EditPlace(kCountry, old, changed);
   const int edited = Items();
-  fuzz::Require(edited >= before);  // a letter beyond ASCII may have become a comma
+  fuzz::Require(edited >= before);  // a letter outside ASCII may have become a comma
   atlas.DeletePlace(kCountry, changed);
   fuzz::Require(Items() == edited);
   atlas.AddPlace(kCountry, changed);

@@ -1,5 +1,5 @@
-// Any text as a date, a time and a number of hours, with further lines as the user's names of
-// months: what is read is written back as the same moment.
+// Arbitrary text as a date, a time and hours, with further lines as the user's month names.
+// Whatever is read must be written back as the same moment.
 
 #include "foundation/date_text.h"
 #include "foundation/locale_names.h"
@@ -13,7 +13,7 @@ void Date(std::string_view text, bool english) {
   const auto at = foundation::FieldsOf(foundation::ReadDateTime(text));
   const auto again = foundation::TryReadDateTime(
       foundation::DateTimeText(at.day, at.month, at.year, at.hour, at.minute, at.second));
-  // Names of one's own may be no names at all.
+  // Arbitrary names need not be readable.
   fuzz::Require(!english || (again && foundation::FieldsOf(*again) == at));
 }
 

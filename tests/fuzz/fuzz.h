@@ -1,4 +1,4 @@
-// What the fuzz targets share; each of them is one file.
+// Shared by the fuzz targets, which are one file each.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +10,7 @@
 
 namespace fuzz {
 
-// What a target does with one input; whatever comes out of it but an Error is a find.
+// Processes one input; anything but an Error is a finding.
 void Run(const std::string& bytes);
 
 template <typename Function>

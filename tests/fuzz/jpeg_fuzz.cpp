@@ -1,4 +1,4 @@
-// Any bytes at all as a JPEG file: a refusal or an Error, never a read outside them.
+// Arbitrary bytes as a JPEG file: refused or an Error, but never read out of bounds.
 
 #include "fuzz/fuzz.h"
 #include "pdf/jpeg_scan.h"

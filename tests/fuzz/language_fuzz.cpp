@@ -1,5 +1,5 @@
-// A key in the first line, and any bytes behind it as the file of a language: a phrase of the file,
-// or the key.
+// A key in the first line and arbitrary bytes after it as a language file: returns a phrase from
+// the file, or the key.
 
 #include "foundation/modFileFx.h"
 #include "fuzz/fuzz.h"

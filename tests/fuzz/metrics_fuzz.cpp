@@ -1,4 +1,4 @@
-// Any bytes at all as a metric file: widths or an Error.
+// Arbitrary bytes as a metric file: widths or an Error.
 
 #include "fuzz/fuzz.h"
 #include "pdf/font_metrics.h"

@@ -1,5 +1,4 @@
-// Any bytes at all as the file of a page: what is loaded is saved and loaded as the same picture,
-// or an Error.
+// Arbitrary bytes as a page file: a loaded picture survives saving and loading again; or an Error.
 
 #include <variant>
 

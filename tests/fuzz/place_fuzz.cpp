@@ -1,5 +1,5 @@
-// Lines as the latitude, longitude and meridian of a place and the fields of a moment: a chart and
-// a day in their ranges, or an Error.
+// Lines as latitude, longitude, meridian and the fields of a moment: a chart and a day within their
+// ranges, or an Error.
 
 #include <array>
 
