@@ -1,4 +1,4 @@
-// Every day of the years 100 to 9999 through all conversions of dates.
+// Passes every day of the years 100 to 9999 through all date conversions.
 
 #include <gtest/gtest.h>
 
@@ -12,13 +12,13 @@
 namespace foundation {
 namespace {
 
-// A time of day that differs from day to day and meets each second in the end.
+// A time of day that changes daily and covers every second in time.
 DateTimeFields MomentOf(const nightly::Day& day) {
   const int second = (day.serial + 700000) * 7 % 86400;
   return {day.year, day.month, day.day, second / 3600, second / 60 % 60, second % 60};
 }
 
-TEST(EveryDay, IsItsOwnNumberAndGivesItsMomentsBack) {
+TEST(EveryDay, RoundTripsThroughItsSerialNumber) {
   nightly::EachDay(100, 9999, [](const nightly::Day& day) {
     EXPECT_EQ(DateFromParts(day.year, day.month, day.day), day.serial);
     EXPECT_EQ(WeekdayOf(day.serial), day.weekday);
@@ -31,11 +31,11 @@ TEST(EveryDay, IsItsOwnNumberAndGivesItsMomentsBack) {
     const DateTimeFields at = MomentOf(day);
     const double time = (at.hour * 3600 + at.minute * 60 + at.second) / 86400.0;
     EXPECT_EQ(TimeFromParts(at.hour, at.minute, at.second), time);
-    EXPECT_EQ(FieldsOf(day.serial + time), at);  // forward too before 30 December 1899
+    EXPECT_EQ(FieldsOf(day.serial + time), at);  // counts forward even before 30 December 1899
   });
 }
 
-TEST(EveryDay, IsReadFromItsText) {
+TEST(EveryDay, RoundTripsThroughItsText) {
   for (const LocaleNames& names : {EnglishNames(), support::Hindi()}) {
     const support::UserNamesScope scope(names);
     nightly::EachDay(100, 9999, [](const nightly::Day& day) {

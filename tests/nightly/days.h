@@ -1,4 +1,4 @@
-// Days by the calendar of the C library, which the program does not use.
+// Days from the C library's calendar, which the program does not use.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -14,13 +14,13 @@ struct Day {
   bool isLastOfMonth;
 };
 
-// Until one fails.
+// Stops at the first failure.
 template <typename Check>
 void EachDay(int firstYear, int lastYear, Check check) {
   std::tm at = {};
   at.tm_year = firstYear - 1900;
   for (at.tm_mday = 1; !testing::Test::HasFailure(); ++at.tm_mday) {
-    const auto serial = static_cast<int>(timegm(&at) / 86400 + 25569);  // that of 1 January 1970
+    const auto serial = static_cast<int>(timegm(&at) / 86400 + 25569);  // 25569 is 1 January 1970
     if (at.tm_year + 1900 > lastYear) return;
     SCOPED_TRACE(std::asctime(&at));
     std::tm next = at;

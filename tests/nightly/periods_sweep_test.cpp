@@ -1,5 +1,5 @@
-// Every day of 1900 to 2100 through the periods of five places, held against what must be so of any
-// day: the shares of daylight, the table of weekdays, and the sun's course to some minutes.
+// Checks the periods of five places on every day of 1900 to 2100 against what must hold on any day:
+// equal parts of daylight, the weekday table, and the sun's course to within minutes.
 
 #include <gtest/gtest.h>
 
@@ -19,11 +19,10 @@ namespace {
 struct Place {
   const char *latitude, *longitude, *meridian;
   double degreesNorth, degreesEast, zone;
-  double minutesADay;  // that sunrise may move by from one day to the next, its rounding included
-  double minutesOff;   // of the length of the day by a declination that is a plain cosine
-  // When the sun passes 90 degrees of hour angle between a rise and a set, so that one of the two
-  // is 12 hours wrong without the other, and stays so: 24 March 2067 in Sydney, 22 March 2091 in
-  // Ushuaia.
+  double minutesADay;  // most that sunrise may move from day to day, with rounding
+  double minutesOff;   // tolerance of daylight from a plain cosine declination
+  // The day on which the sun passes 90 degrees of hour angle between rise and set, so that only one
+  // of the two is 12 hours off and stays so: 24 March 2067 in Sydney, 22 March 2091 in Ushuaia.
   int oddDay = 0;
 };
 
@@ -35,7 +34,7 @@ constexpr Place kPlaces[] = {
     {"62.30N", "6.09E", "15.0E", 62.5, 6.15, 1, 6, 50},  // Ålesund's coast
 };
 
-// With the sun's rim and refraction counted in.
+// Allows for the sun's upper limb and refraction.
 double DaylightHours(const Place& place, const nightly::Day& day) {
   constexpr double kDegree = std::numbers::pi / 180;
   const double season = 2 * std::numbers::pi * (day.serial - 36515.0) / 365.2422;  // 21 Dec 1999
