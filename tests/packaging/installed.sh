@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# installed.sh SOURCE BUILD VERSION DATE: installs into a folder of its own and looks at what is there.
+# installed.sh SOURCE BUILD VERSION DATE: installs into a temporary folder and checks the result.
 set -euo pipefail
 folder=$(mktemp -d)
 trap 'rm -r "$folder"' EXIT
