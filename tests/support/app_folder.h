@@ -1,4 +1,4 @@
-// An empty program folder of a test's own.
+// A temporary program folder for a test.
 #pragma once
 
 #include <cstdlib>
@@ -10,7 +10,7 @@
 
 namespace support {
 
-// Puts it in place, and afterwards the former one back.
+// Uses the folder for its lifetime, then restores the previous one.
 class AppFolderScope {
  public:
   AppFolderScope() : before_(foundation::AppFolder()) {

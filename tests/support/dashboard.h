@@ -1,4 +1,4 @@
-// A dashboard on fakes, which other forms share.
+// A dashboard with fake services, also used for other forms.
 #pragma once
 
 #include "foundation/version.h"
@@ -10,12 +10,12 @@
 
 namespace screens {
 
-// Each followed by a blank.
+// The texts, each followed by a blank.
 std::string Words(const auto&... texts) {
   return ((texts + " ") + ...);
 }
 
-// What the labels of a form say in the order of the settings.
+// The captions of a form's place labels, in the order of the settings.
 std::string PlaceOf(auto& form) {
   std::string place;
   for (const forms::Control* label : PlaceLabelsOf(form)) place += label->caption + " ";
@@ -47,7 +47,7 @@ struct Dashboard : Fakes {
     form.Timer1_Timer();
   }
 
-  // Sunrise, sunset and Durvela as they stand.
+  // Sunrise, sunset and Durvela as displayed.
   std::string Figures() const {
     return form.lblSR.caption + " " + form.lblSS.caption + " " + form.lblDurvela.caption;
   }

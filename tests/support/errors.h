@@ -1,4 +1,4 @@
-// Checks that an expression fails with one kind of error.
+// Expects an expression to raise a kind of error.
 #pragma once
 
 #include <gtest/gtest.h>

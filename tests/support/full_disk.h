@@ -1,4 +1,4 @@
-// A disk that is full.
+// Simulates a full disk.
 #pragma once
 
 #include <sys/resource.h>
@@ -7,7 +7,7 @@
 
 namespace support {
 
-// While it lives, no file takes more than so many bytes.
+// For its lifetime, no file can grow beyond `bytes`.
 class FullDiskScope {
  public:
   explicit FullDiskScope(rlim_t bytes) : signalBefore_(std::signal(SIGXFSZ, SIG_IGN)) {

@@ -1,4 +1,4 @@
-// Locale objects for tests.
+// Locale names for tests.
 #pragma once
 
 #include <utility>
@@ -13,7 +13,7 @@ inline foundation::LocaleNames Hindi() {
           {"रविवार", "सोमवार", "मंगलवार", "बुधवार", "गुरुवार", "शुक्रवार", "शनिवार"}};
 }
 
-// Puts names in place and the English ones back.
+// Sets names for its lifetime, then restores the English ones.
 class UserNamesScope {
  public:
   explicit UserNamesScope(foundation::LocaleNames names) {

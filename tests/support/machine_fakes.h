@@ -1,4 +1,4 @@
-// The machine as tests want it.
+// Fakes of the machine's services.
 #pragma once
 
 #include <functional>
@@ -32,7 +32,7 @@ struct FakeSettings : foundation::Settings {
   }
 };
 
-// Keeps what it was shown and gives the answer that was set.
+// Records the boxes and returns a preset answer.
 struct FakeMessageBoxes : foundation::MessageBoxes {
   struct Box {
     std::string text;
@@ -51,7 +51,7 @@ struct FakeMessageBoxes : foundation::MessageBoxes {
   }
 };
 
-// Counts its turns and runs what the test wants to come in between.
+// Counts calls and runs the test's code in between.
 struct FakeYielder : foundation::Yielder {
   int turns = 0;
   std::function<void(int turn)> between;
@@ -61,7 +61,7 @@ struct FakeYielder : foundation::Yielder {
   }
 };
 
-// Gives its numbers in turn, again and again.
+// Cycles through its numbers.
 struct FakeRandomNumbers : foundation::RandomNumbers {
   std::vector<double> numbers = {0.5};
   std::size_t next = 0;

@@ -1,5 +1,5 @@
-// The tests' main: takes the process locale from the environment, as programs of a toolkit do, and
-// makes sure of it where a run asks for a decimal comma.
+// main() for tests: takes the process locale from the environment, as toolkit programs do, and
+// checks for a decimal comma if the run expects one.
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-// The screen as tests want it: forms that are only said to be shown, and targets that write down
-// what is drawn.
+// Fakes of the screen's services: a host that only records which forms it shows, and a target that
+// records what is drawn.
 #pragma once
 
 #include <string>
@@ -12,10 +12,10 @@
 
 namespace support {
 
-// Thrown by a fake host where a real one would not come back.
+// Thrown by the fake host where a real one would not return.
 struct ProgramEnded {};
 
-// Writes every call down as text. A letter is 100 twips wide, a line 240 high, in every font.
+// Records every call as text. In any font, a letter is 100 twips wide and a line 240 high.
 class RecordingTarget : public forms::Printer {
  public:
   std::vector<std::string> calls;
@@ -89,12 +89,12 @@ struct FakeHost : forms::FormHost {
     throw ProgramEnded();
   }
 
-  RecordingTarget target;  // of every picture box
+  RecordingTarget target;  // for every picture box
   forms::DrawingTarget& TargetOf(forms::Control&) override { return target; }
   void ForgetTarget(forms::Control&) override {}
 };
 
-// Any picture comes out as the same dots.
+// Renders any picture as the same pixels.
 struct FakeRasteriser : forms::Rasteriser {
   forms::Raster dots = {.width = 2, .height = 1, .rgb = {255, 0, 0, 1, 2, 3}};
   forms::Raster Render(const forms::Picture&) const override { return dots; }

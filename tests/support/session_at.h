@@ -1,4 +1,4 @@
-// A session whose current record is a place.
+// A session whose current record holds a place.
 #pragma once
 
 #include "foundation/session.h"

@@ -1,4 +1,4 @@
-// A function held against a table: a row has its arguments and, last, its result.
+// Checks a function against a table whose rows hold arguments and, last, the result.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@ struct Row : std::tuple<Columns...> {
   explicit Row(Columns... columns) : std::tuple<Columns...>(columns...) {}
 };
 
-// Figures of a row are plain numbers, whatever the function takes.
+// Rows hold plain numbers, whatever type the function takes.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wconversion"
 template <typename Function, typename... Columns>
