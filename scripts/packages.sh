@@ -41,7 +41,7 @@ build() {
   local log=build/$preset.log
   { cmake --preset "$preset" && cmake --build --preset "$preset" "$@"; } >"$log" 2>&1 || {
     tail -n 60 "$log"
-    echo "The build failed; its whole log is $log." >&2
+    echo "The build failed; see $log." >&2
     return 1
   }
 }

@@ -13,9 +13,9 @@
 
 namespace dayperiods {
 
-// Sunrise and sunset in decimal hours, which may lie below 0 or above 24 if the clock's day does
-// not contain them. Clock times are whole minutes, and 0 beyond 63 degrees of latitude; local mean
-// times shift them by the place's distance from the zone's meridian.
+// Sunrise and sunset in decimal hours, which may be below 0 or above 24 if they fall outside the
+// clock's day. Clock times are whole minutes, and 0 beyond 63 degrees of latitude; local mean times
+// shift them by the place's distance from the zone's meridian.
 struct SunriseRows {
   double localMeanRise = 0;  // row 1
   double localMeanSet = 0;   // row 2
@@ -24,7 +24,7 @@ struct SunriseRows {
   std::string date;          // row 5: "5 March 2011"; before sunrise on a first "0 March 2011"
 };
 
-// The number, or the name that belongs to it, as the caller asked.
+// The number or its name, as the caller requested.
 using ElementResult = std::variant<std::string, std::int16_t>;
 
 // Number, month, lunar days, weekday, nakshatra, yoga, karana, watch of the day, animal, and nine

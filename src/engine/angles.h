@@ -20,7 +20,7 @@ inline double RealMod(double a, double b) {
   return a - b * std::floor(a / b);
 }
 
-// Truncates a longitude or a value derived from one. x must lie within 0 to the greatest int.
+// Truncates a longitude or a value derived from one. x must be within 0 to INT_MAX.
 inline int WholePart(double x) {
   return static_cast<int>(x);
 }

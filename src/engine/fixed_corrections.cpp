@@ -18,8 +18,8 @@ struct Correction {
 
 // clang-format off
 
-// Added one by one in this order. Where the later value differs from the first, the motion that a
-// chart shows depends on it.
+// Added one by one in this order. A later value that differs from the first affects the motion that
+// a chart shows.
 constexpr Correction kCorrections[] = {
     {Sun,     -22, -22, Seconds},
     {Sun,      -7,  -7, Seconds},

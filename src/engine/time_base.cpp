@@ -33,7 +33,7 @@ foundation::DateTime CivilDate(int day, int month, std::int32_t year) {
     const foundation::DateTime date = foundation::DateFromParts(year, month, day);
     if (foundation::FieldsOf(date).day == day) return date;
   }
-  // Not a date as it stands: leave it to the text reader.
+  // Not a valid date as given; let the text reader decide.
   return foundation::ReadDateTime(foundation::DayMonthYear(day, month, year, '-'));
 }
 

@@ -18,7 +18,7 @@ std::string_view TimeField(std::string_view text, std::size_t number) {
   return fields[number];
 }
 
-// Subtracts or adds the limit until hours lie within 0 to the limit; both ends are kept.
+// Wraps hours into 0 to the limit; both ends are kept.
 double HoursWithin(double hours, double limit) {
   if (hours >= 0 && hours <= limit) return hours;
   if (!(limit > 0)) throw Error(ErrorKind::InvalidCall);

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Sunrise and sunset after the published formulas of the NOAA solar calculator.
+"""Sunrise and sunset by the published formulas of the NOAA solar calculator.
 
 Formulas: NOAA Global Monitoring Laboratory, "Solar Calculation Details" (after Jean Meeus,
-Astronomical Algorithms, 1991), with 90.833 degrees of zenith distance. Shares nothing with the
-program. Prints the rows that the test beside it holds: decimal hours by the zone's clock.
+Astronomical Algorithms, 1991), with a zenith distance of 90.833 degrees. Shares no code with the
+program. Prints the rows of ordinary_days.inc: decimal hours of the zone's clock time.
 """
 from math import acos, asin, cos, degrees, radians, sin, tan
 
