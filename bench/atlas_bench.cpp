@@ -14,8 +14,8 @@
 
 namespace {
 
-#define MISS "a keystroke's search among 21,133 places, without a match"
-#define HIT "the same with a match (\"los an\")"
+#define MISS "search per keystroke among 21,133 places, no match"
+#define HIT "the same, with a match (\"los an\")"
 
 struct NoEvents : foundation::Yielder {
   void Yield() override {}

@@ -21,9 +21,9 @@ namespace {
 using foundation::DateFromParts;
 using foundation::DateTime;
 
-#define CHART "a chart: all longitudes twice, an hour apart, houses, divisions"
+#define CHART "a chart: all longitudes at two moments an hour apart, houses, divisions"
 #define YEAR "a year's sunrises and sunsets"
-#define PERIODS "a year's three periods, a chart for each call"
+#define PERIODS "a year's three periods, with a chart per call"
 
 // Each chart gets another moment, some days and hours later, so that nothing can be served from a
 // cache.

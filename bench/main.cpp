@@ -48,7 +48,7 @@ class Table : public benchmark::BenchmarkReporter {
   }
 
   void Print() const {
-    std::puts("| | Durvela | peers (times as long) |\n|---|---|---|");
+    std::puts("| | Durvela | peers (times Durvela's time) |\n|---|---|---|");
     for (const Line& line : lines_) {
       const double own = line.times.front().seconds;
       std::string peers;

@@ -27,7 +27,7 @@ std::string File(const char* name) {
   return (std::filesystem::temp_directory_path() / name).string();
 }
 
-#define PAGES "100 pages of 60 lines into a PDF file"
+#define PAGES "100 PDF pages of 60 lines"
 
 void PagesOfText(benchmark::State& state) {
   const std::string file = File("durvela-bench.pdf");

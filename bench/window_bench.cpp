@@ -102,7 +102,7 @@ void YearsReport(benchmark::State& state) {
   timetable.DT2.moment = foundation::DateFromParts(2011, 12, 31);
   for (auto _ : state) timetable.cmdPreview_Click();
 }
-FIGURE(YearsReport, "a year's report, twelve pages written", "Durvela")->Iterations(5);
+FIGURE(YearsReport, "a year's report, twelve pages", "Durvela")->Iterations(5);
 
 void TurningAPage(benchmark::State& state) {
   screens::qt::Program& program = OneProgram();
@@ -114,7 +114,7 @@ void TurningAPage(benchmark::State& state) {
     program.host.WindowOf(preview).repaint();
   }
 }
-FIGURE(TurningAPage, "turning a page of the preview", "Durvela")->Iterations(3);
+FIGURE(TurningAPage, "turning a page in the preview", "Durvela")->Iterations(3);
 
 }  // namespace
 
