@@ -78,8 +78,8 @@ TEST_F(Images, LendTheirSizeToTheNextLinkIfTheirOwnFails) {
   printer.PDFSetFont(0, 10, 0);
   printer.PDFDrawEllipse(50, 100, 40, 20, "u");
   printer.PDFDrawEllipse(50, 100, 40, 20, "u");
-  // 60 by 30 as the picture, then 20 by 10 as the ellipse.
-  EXPECT_EQ(Between(Whole(), "/Rect ", " /Border"), "[30 737.89 90 707.89][30 737.89 50 727.89]");
+  // 60 by 30 from the picture, then 20 by 10 from the ellipse.
+  EXPECT_EQ(Between(Finish(), "/Rect ", " /Border"), "[30 737.89 90 707.89][30 737.89 50 727.89]");
 }
 
 TEST_F(Images, AreRejectedUnlessJpeg) {
