@@ -38,8 +38,11 @@ class clsBirthDetails {
   // Rows of the Hindu day, sunrise to sunrise, that holds the moment. Before sunrise that is the
   // day before: nDay, alone of the arguments, is then lowered by 1 in place, to 0 on the first of a
   // month.
+  // A date that does not exist rolls over: 30 February has the sun of 2 March, but keeps its own
+  // name in row 5. A time carries as in DateTimeText, so that 24:00:00 ends the day.
   // InvalidCall or DivisionByZero where the sun does not cross the horizon (|tan latitude * tan
-  // declination| of 1 or more); TypeMismatch for a moment that does not exist.
+  // declination| of 1 or more); TypeMismatch for a time that one carry does not mend; InvalidCall
+  // for a month that does not exist and outside the years 100 to 9999.
   SunriseRows Sunrise(double& Latitude, double& Longitude, double& ZoneRelativeGMT,
                       std::int16_t& nDay, std::int16_t& nMonth, std::int16_t& nYear,
                       std::int16_t& nHour, std::int16_t& nMin, std::int16_t& nSec);

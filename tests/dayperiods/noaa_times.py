@@ -3,8 +3,10 @@
 
 Formulas: NOAA Global Monitoring Laboratory, "Solar Calculation Details" (after Jean Meeus,
 Astronomical Algorithms, 1991), with a zenith distance of 90.833 degrees. Shares no code with the
-program. Prints the rows of ordinary_days.inc: decimal hours of the zone's clock time.
+program. Prints the rows of the tests beside it: decimal hours of the zone's clock time, and the days
+without a sunrise or sunset.
 """
+from datetime import date, timedelta
 from math import acos, asin, cos, degrees, radians, sin, tan
 
 
@@ -47,14 +49,31 @@ def event(year, month, day, latitude, longitude, zone, sign):
     return hours
 
 
+def days_without_a_crossing(latitude, solstice):
+    """First and last day round a solstice on which the Sun's centre stays up or down."""
+    def stays(day):
+        moment = julian_day(day.year, day.month, day.day) + 0.25  # 6h Universal Time
+        return abs(latitude) + abs(sun((moment - 2451545) / 36525)[0]) >= 90
+    first = last = solstice
+    while stays(first - timedelta(1)):
+        first -= timedelta(1)
+    while stays(last + timedelta(1)):
+        last += timedelta(1)
+    return first, last
+
+
 PLACES = [("28.40N", "77.13E", "82.30E", 28 + 40 / 60, 77 + 13 / 60, 5.5),
           ("19.04N", "72.52E", "82.30E", 19 + 4 / 60, 72 + 52 / 60, 5.5),
           ("51.30N", "0.10W", "0.0W", 51.5, -10 / 60, 0),
           ("40.42N", "74.01W", "75.0W", 40.7, -74 - 1 / 60, -5),
-          ("34.05S", "151.10E", "150.0E", -34 - 5 / 60, 151 + 10 / 60, 10)]
+          ("34.05S", "151.10E", "150.0E", -34 - 5 / 60, 151 + 10 / 60, 10),
+          ("63.00N", "25.30E", "30.0E", 63, 25.5, 2)]
 
 if __name__ == "__main__":
     for lat, lon, zone, latitude, longitude, hours in PLACES:
         for year, month, day in ((2011, 3, 5), (2019, 6, 21), (2026, 11, 22)):
             rise, set_ = (event(year, month, day, latitude, longitude, hours, s) for s in (1, -1))
             print(f'{{{day}, {month}, {year}, "{lat}", "{lon}", "{zone}", {rise:.3f}, {set_:.3f}}},')
+    for latitude, *day in ((70, 2011, 6, 21), (68, 1987, 12, 22), (-67.5, 2012, 12, 21)):
+        first, last = days_without_a_crossing(latitude, date(*day))
+        print(f"// {latitude}: {first} to {last}")
