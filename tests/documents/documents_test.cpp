@@ -11,6 +11,7 @@
 
 #include "foundation/files.h"
 #include "foundation/numbers.h"
+#include "foundation/text.h"
 
 namespace {
 
@@ -53,12 +54,19 @@ TEST(Documents, LeadToFilesThatAreThere) {
 }
 
 TEST(Documents, CountThePlacesThatAreThere) {
-  int files = 0, places = 0;
+  int files = 0, places = 0, polar = 0;
   for (const fs::path& table : fs::directory_iterator(kProject / "data/atlas/places")) {
     const std::string text = ReadFile(table);
-    places += static_cast<int>(std::ranges::count(text, '\n')) - 1;
+    std::string_view rows = text;
+    for (foundation::TakeLine(rows); !rows.empty(); ++places) {
+      const auto latitude = foundation::Split(foundation::TakeLine(rows), '\t')[2];
+      const double minutes = std::round(60 * std::abs(foundation::LeadingNumber(latitude)));
+      polar += minutes >= 66 * 60 + 34 ? 1 : 0;
+    }
     ++files;
   }
+  const std::string behaviour = ReadFile(kProject / "docs/behaviour.md");
+  EXPECT_NE(behaviour.find(std::to_string(polar) + " places of the atlas"), behaviour.npos);
   for (const char* document : {"README.md", "docs/atlas.md"}) {
     const std::string text = ReadFile(kProject / document);
     for (const auto& count : {foundation::GroupedText(places), "in " + std::to_string(files)}) {

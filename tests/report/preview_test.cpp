@@ -6,6 +6,7 @@
 #include "report/page_files.h"
 #include "report/reporting.h"
 #include "support/errors.h"
+#include "support/locales.h"
 #include "support/table.h"
 
 namespace report {
@@ -56,6 +57,14 @@ TEST_F(Preview, ReadsThePageNumberBehindTheFirstP) {
   EXPECT_EQ(number, 2);
   EXPECT_ERROR(FileNotFound, preview.ShowPage(number, kCachePage, "Page ..P2", false));
   EXPECT_EQ(number, 0);
+}
+
+TEST_F(Preview, FailsAtAPageWhoseMonthHasACapitalP) {
+  foundation::LocaleNames names = foundation::EnglishNames();
+  names.months[1] = "Pebrero";  // February in Filipino
+  const support::UserNamesScope scope(names);
+  Make(foundation::DateFromParts(2011, 1, 31), foundation::DateFromParts(2011, 2, 1));
+  EXPECT_ERROR(FileNotFound, Select(preview.cmbPage, 1));
 }
 
 TEST_F(Preview, ScrollsByKeysAndByHand) {

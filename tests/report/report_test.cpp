@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "report/reporting.h"
+#include "support/errors.h"
 #include "support/locales.h"
 #include "support/table.h"
 
@@ -102,6 +103,13 @@ TEST_F(Report, MakesAPageAMonth) {
 TEST_F(Report, HasItsLastDayAtAnyTime) {
   Make(DateFromParts(1989, 9, 1), DateFromParts(1989, 9, 30), foundation::TimeFromParts(0, 0, 2));
   EXPECT_EQ(Drawn("Print 1110 9150 30-Sat"), 1);  // further left from row 28 on
+}
+
+TEST_F(Report, FailsAtADayWithoutASunrise) {
+  const foundation::DateTime day = DateFromParts(2011, 6, 21);
+  EXPECT_ERROR(InvalidCall, MakeReport({day, day, 0.5, "69.40N", "18.57E", "15.0E", "-1", "Tromso",
+                                        "Norway", status},
+                                       preview, services));
 }
 
 TEST_F(Report, LeavesAFileAMonthUntilTheNext) {
