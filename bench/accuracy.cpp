@@ -10,6 +10,7 @@
 
 #include "bench/ephemeris.h"
 #include "dayperiods/clsBirthDetails.h"
+#include "engine/ayanamsa.h"
 #include "engine/clsPP.h"
 #include "foundation/date_text.h"
 #include "foundation/numbers.h"
@@ -119,37 +120,53 @@ std::string SiderealTime() {
   return Head("seconds") + Over1950To2050(difference).Row("Sidereal time", 3600, 3);
 }
 
+constexpr double kDelhiZone = 5.5 / 24;  // days
+
+// The Moon and the Sun at a time of Delhi's clock.
+struct Sky {
+  double moon, sun;  // degrees
+
+  Sky(DateTime clock, std::int32_t flags, double zeroPoint) {
+    const double julianDay = peer::JulianDay(clock - kDelhiZone);
+    moon = peer::Longitude(julianDay, SE_MOON, flags) - zeroPoint;
+    sun = peer::Longitude(julianDay, SE_SUN, flags) - zeroPoint;
+  }
+};
+
+// On the mean equinox, from the zero point that the fixed corrections refer Moon and Sun to: that
+// of N.C. Lahiri, 17 seconds of arc beyond the ayanamsa that a chart shows.
+Sky SiderealSky(DateTime clock) {
+  return {clock, kAsSeen | SEFLG_NONUT, engine::AyanamsaAt(0, clock)};
+}
+
+double Elongation(DateTime clock) {
+  const Sky sky(clock, kAsSeen, 0);
+  return sky.moon - sky.sun;
+}
+
 // An element ends when the angle it depends on has grown by `step` degrees.
 struct Element {
   const char* name;
   decltype(&clsBirthDetails::GetTITHIending) ending;
   double step;
-  bool usesOnlyMoon;
+  double (*angle)(DateTime clock);
 };
 constexpr Element kElements[] = {
-    {"Tithi", &clsBirthDetails::GetTITHIending, 12, false},
-    {"Nakshatra", &clsBirthDetails::GetNakshatraending, 40 / 3.0, true},
-    {"Karana", &clsBirthDetails::GetKaranEnding, 6, false},
+    {"Tithi", &clsBirthDetails::GetTITHIending, 12, Elongation},
+    {"Nakshatra", &clsBirthDetails::GetNakshatraending, 40 / 3.0,
+     [](DateTime clock) { return SiderealSky(clock).moon; }},
+    {"Yoga", &clsBirthDetails::GetYogEnding, 40 / 3.0,
+     [](DateTime clock) {
+       const Sky sky = SiderealSky(clock);
+       return sky.moon + sky.sun;
+     }},
+    {"Karana", &clsBirthDetails::GetKaranEnding, 6, Elongation},
 };
-
-constexpr double kDelhiZone = 5.5 / 24;  // days
-
-// Uses the engine's ayanamsa, which decides where the nakshatras begin.
-double Watched(const Element& element, DateTime clock) {
-  const double julianDay = peer::JulianDay(clock - kDelhiZone);
-  const double moon = peer::Longitude(julianDay, SE_MOON, kAsSeen);
-  if (!element.usesOnlyMoon) return moon - peer::Longitude(julianDay, SE_SUN, kAsSeen);
-  engine::clsPP pp;
-  const auto at = foundation::FieldsOf(clock);
-  pp.GenHoro(at.day, at.month, at.year, 0, 0, 0, "77.13E", "28.40N", "82.30E", 0,
-             foundation::kFalse16, 0);
-  return moon - pp.pp_AYAN;
-}
 
 // By bisection.
 DateTime TheirEnd(const Element& element, DateTime from) {
   const auto number = [&](DateTime clock) {
-    return std::floor(swe_degnorm(Watched(element, clock)) / element.step);
+    return std::floor(swe_degnorm(element.angle(clock)) / element.step);
   };
   const double begun = number(from);
   DateTime before = from, after = from;
