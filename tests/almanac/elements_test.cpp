@@ -3,17 +3,22 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <map>
 #include <set>
 
 #include "dayperiods/clsBirthDetails.h"
+#include "engine/zodiac.h"
 #include "support/errors.h"
 #include "support/table.h"
+#include "support/words.h"
 
 namespace dayperiods {
 namespace {
 
+using Number = std::int16_t;
 using Text = std::string;
 using Words = std::set<Text>;
+using support::Beginnings;
 using support::Row;
 
 clsBirthDetails details;  // stateless
@@ -44,25 +49,89 @@ TEST(LunarDay, KaranasUseWholeMinutes) {
   EXPECT_EQ(details.getKaranName(57) + details.getKaranName(58), "VISHTISHAKUNI");
 }
 
-TEST(BirthAttributes, TablesAreComplete) {
-  Words vargas, nadis, gans, signs;
-  int syllables = 0;
-  for (std::int16_t nak = 1; nak <= 27; ++nak) {
-    nadis.insert(details.getNadi(nak));
-    gans.insert(details.getGan(nak));
-    for (std::int16_t quarter = 1; quarter <= 4; ++quarter) {
-      vargas.insert(details.getNaamAksharVarga(nak, quarter));
-      syllables += details.getNaamAkshar(nak, quarter).empty() ? 0 : 1;
+// Orders and schemes here and below are the tradition's.
+TEST(LunarDay, ElementsAreNamedInTheirOrder) {
+  const Text half = "Pra Dvi Tri Cha Pan Sha Sap Ash Nav Das Eka Dwa Tra Cha ";
+  const Text tithis = half + "Pur " + half + "Ama";
+  EXPECT_EQ(Beginnings(30, 3, [](auto number) { return details.getTithiName(number); }), tithis);
+  const auto byPlace = [](int number) {
+    return std::get<Text>(details.getTITHI(12 * number - 6, 0, false));
+  };
+  EXPECT_EQ(Beginnings(30, 3, byPlace), tithis);
+  EXPECT_EQ(Beginnings(27, 4, [](auto number) { return details.getYogName(number); }),
+            "Visk Prit Ayus Saub Sobh Atig Suka Dhri Sula Gand Vrid Dhru Vyag Hars Vajr Sidd Vyat "
+            "Vari Pari Siva Sidd Sadh Subh Shuk Brah Indr Vaid");
+  Text moving;
+  for (int i = 0; i < 8; ++i) moving += " BAV BAL KAU TAI GAR VAN VIS";
+  EXPECT_EQ(Beginnings(60, 3, [](auto number) { return details.getKaranName(number); }),
+            "KIN" + moving + " SHA CHA NAG");
+}
+
+TEST(CalendarTerms, FollowTheSunAndTheFullMoonsStar) {
+  const auto bySign = [](auto term) {
+    return Beginnings(12, 3, [=](int sign) { return (details.*term)(30 * sign - 40, 25); });
+  };
+  EXPECT_EQ(bySign(&clsBirthDetails::getAyan), "UTT UTT UTT DAK DAK DAK DAK DAK DAK UTT UTT UTT");
+  EXPECT_EQ(bySign(&clsBirthDetails::getGol), "UTT UTT UTT UTT UTT UTT DAK DAK DAK DAK DAK DAK");
+  EXPECT_EQ(bySign(&clsBirthDetails::getRitu), "VAS GRI GRI VAR VAR SHA SHA HEM HEM SHI SHI VAS");
+  const auto star = [](Number month) { return engine::NakName(details.MASatBirth(month)); };
+  EXPECT_EQ(Beginnings(12, 5, star),
+            "Pushy Magha U. Ph Chitr Visha Jyesh P. As Shrav P. Bh Ashwi Kritt Mriga");
+  const auto month = [](Number number) { return details.Mas(details.MASatBirth(number)); };
+  EXPECT_EQ(Beginnings(12, 4, month),
+            "PAUS MAGH PHAL CHAI VAIS JYAI ASAD SRAV BHAD ASVI KART MARG");
+}
+
+TEST(BirthAttributes, FollowTheirSchemes) {
+  // Letters for the signs and for the stars.
+  Text varna, hansak, gan, nadi, yunja, yonis, vashyas;
+  for (int sign = 1; sign <= 12; ++sign) {
+    varna += details.getVarna(30 * sign - 15)[0];
+    hansak += details.getHansak(30 * sign - 15).substr(0, 2);
+    vashyas += details.getVashya(30 * sign - 15).substr(0, 3) + " ";
+  }
+  EXPECT_EQ(varna, "KVSBKVSBKVSB");
+  EXPECT_EQ(hansak, "AGBHVAVAAGBHVAVAAGBHVAVA");
+  EXPECT_EQ(vashyas, "CHA CHA MAA JAL VAN MAA MAA KEE MAA CHA MAA JAL ");
+  for (Number nak = 1; nak <= 27; ++nak) {
+    gan += details.getGan(nak)[0];
+    const Text pulse = details.getNadi(nak);
+    nadi += pulse[0] == 'M' ? 'M' : pulse.ends_with("NTYA") ? 'N' : 'A';
+    yunja += details.getYunja(nak)[0];
+    yonis += details.getYoni(nak).substr(0, 3) + " ";
+  }
+  EXPECT_EQ(gan, "DMRMDMDDRRMMDRDRDRRMMDRRMMD");
+  EXPECT_EQ(nadi, "AMNNMAAMNNMAAMNNMAAMNNMAAMN");  // to and fro
+  EXPECT_EQ(yunja, "PPPPPMMMMMMMMMMMMAAAAAAAAAP");
+  EXPECT_EQ(yonis,
+            "ASH GAJ MES SAR SAR SWA MAR MES MAR UUD UUD GAU MAH VYA MAH VYA MRI MRI SWA VAA NAK "
+            "VAA SIM ASH SIM GAU GAJ ");
+}
+
+// The class of a name is that of its first sound. Four quarters do not keep to it.
+TEST(BirthAttributes, ClassesFollowTheSyllables) {
+  const std::map<Text, Text> sounds = {{"GARUD", "AEO"},  {"MARJAR", "KG"}, {"SIMHA", "CJ"},
+                                       {"SWAN", "ADT"},   {"SARP", "DNT"},  {"UUDAR", "BMP"},
+                                       {"MRIG", "LRVWY"}, {"MESH", "HS"}};
+  Text others;
+  for (Number nak = 1; nak <= 27; ++nak) {
+    for (Number quarter = 1; quarter <= 4; ++quarter) {
+      const Text syllable = details.getNaamAkshar(nak, quarter);
+      const Text first = syllable.empty() ? "-" : syllable.substr(0, 1);
+      if (sounds.at(details.getNaamAksharVarga(nak, quarter)).find(first) != Text::npos) continue;
+      others += std::to_string(nak) + "/" + std::to_string(quarter) + first + " ";
     }
   }
-  for (std::int16_t sign = 1; sign <= 12; ++sign) {
+  EXPECT_EQ(others, "13/2D 26/2T 26/4J 27/2- ");
+}
+
+TEST(BirthAttributes, TablesAreComplete) {
+  Words signs;
+  for (Number sign = 1; sign <= 12; ++sign) {
     const GhatRow& row = details.getGhat(sign, 0);
+    EXPECT_EQ(row[0], std::to_string(sign));
     for (std::size_t i = 9; i < row.size(); ++i) signs.emplace(row[i]);
   }
-  EXPECT_EQ(nadis, (Words{"AADHYA", "ADHYA", "MADHYA", "ANTYA", "NTYA"}));
-  EXPECT_EQ(gans, (Words{"DEV", "MANUSHYA", "RAKSHAS"}));
-  EXPECT_EQ(vargas, (Words{"SIMHA", "MRIG", "GARUD", "MARJAR", "MESH", "SWAN", "UUDAR", "SARP"}));
-  EXPECT_EQ(syllables, 107);  // of 108: one is missing
   EXPECT_EQ(signs, (Words{"ARIES", "TAURUS", "GEMINI", "CANCER", "CANCD", "LEO", "VIRGO", "LIBRA",
                           "SCORPIO", "SAGGITARIUS", "CAPRICORN", "AQUARIUS", "PISCES"}));
 }

@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "almanac/moment_chart.h"
 #include "dayperiods/clsBirthDetails.h"
-#include "engine/zodiac.h"
 #include "support/errors.h"
 #include "support/session_at.h"
 #include "support/table.h"
@@ -17,11 +17,15 @@ using support::Row;
 
 struct KnownMoment {
   std::array<Number, 6> at;
-  const char *latitude, *longitude, *zone;
-  double moon, sun, ayanamsa;
-  std::array<Text, 5> elements;
+  struct {
+    const char *latitude, *longitude, *zone;
+  } place;
+  struct {
+    double moon, sun, ayanamsa;
+  } sky;
+  std::array<int, 4> numbers;
   std::array<Text, 4> ends;
-  std::array<Text, 6> calendar, attributes;
+  std::array<Text, 6> calendar;
 };
 const KnownMoment kMoments[] = {
 #include "known_moments.inc"
@@ -38,19 +42,26 @@ void ForEachMoment(const Check& check) {
 }
 
 foundation::SessionTable SessionAt(const KnownMoment& moment) {
-  return support::SessionAt(moment.latitude, moment.longitude, moment.zone);
+  const auto& [latitude, longitude, zone] = moment.place;
+  return support::SessionAt(latitude, longitude, zone);
 }
 
 TEST(KnownMoments, HaveTheirElements) {
   ForEachMoment([](clsBirthDetails& details, const KnownMoment& m) {
-    const auto element = [&](auto of) {
-      return std::to_string(std::get<Number>((details.*of)(m.moon, m.sun, true))) + " " +
-             std::get<Text>((details.*of)(m.moon, m.sun, false));
+    const engine::clsPP chart =
+        almanac::ChartOf({m.at[2], m.at[1], m.at[0], m.at[3], m.at[4], m.at[5]},
+                         {m.place.longitude, m.place.latitude, m.place.zone}, {});
+    const auto& [moon, sun, ayanamsa] = m.sky;
+    EXPECT_NEAR(chart.pp_Moon, moon, 1e-9);
+    EXPECT_NEAR(chart.pp_Sun, sun, 1e-9);
+    EXPECT_NEAR(chart.pp_AYAN, ayanamsa, 1e-9);
+    const auto number = [&, moon = moon, sun = sun](auto of) {
+      return std::get<Number>((details.*of)(moon, sun, true));
     };
-    EXPECT_EQ((std::array{element(&clsBirthDetails::getTITHI), details.getPaksh(m.moon, m.sun),
-                          details.getCharanPad(m.moon), element(&clsBirthDetails::getYOG),
-                          element(&clsBirthDetails::GetKaran)}),
-              m.elements);
+    EXPECT_EQ((std::array<int, 4>{
+                  number(&clsBirthDetails::getTITHI), std::stoi(details.getCharanPad(moon)),
+                  number(&clsBirthDetails::getYOG), number(&clsBirthDetails::GetKaran)}),
+              m.numbers);
   });
 }
 
@@ -68,22 +79,19 @@ TEST(KnownMoments, HaveTheirEndings) {
   });
 }
 
-TEST(KnownMoments, HaveTheirCalendarTermsAndBirthAttributes) {
+TEST(KnownMoments, HaveTheirCalendarTerms) {
   ForEachMoment([](clsBirthDetails& details, const KnownMoment& m) {
     const auto& [day, month, year, hour, minute, second] = m.at;
-    const auto [shaka, vikram] = details.GetSamvat(day, month, year, hour, minute, second,
-                                                   m.longitude, m.latitude, m.zone, {});
-    EXPECT_EQ((std::array{details.getAyan(m.sun, m.ayanamsa), details.getGol(m.sun, m.ayanamsa),
-                          details.getRitu(m.sun, m.ayanamsa),
-                          details.GetMas(day, month, year, hour, minute, second, m.longitude,
-                                         m.latitude, m.zone, {}),
+    const auto& [latitude, longitude, zone] = m.place;
+    const auto& [moon, sun, ayanamsa] = m.sky;
+    const auto [shaka, vikram] =
+        details.GetSamvat(day, month, year, hour, minute, second, longitude, latitude, zone, {});
+    EXPECT_EQ((std::array{details.getAyan(sun, ayanamsa), details.getGol(sun, ayanamsa),
+                          details.getRitu(sun, ayanamsa),
+                          details.GetMas(day, month, year, hour, minute, second, longitude,
+                                         latitude, zone, {}),
                           shaka, vikram}),
               m.calendar);
-    const Number nak = engine::NakNumber(m.moon), quarter = engine::NakQuarter(m.moon);
-    EXPECT_EQ((std::array{details.getYoni(nak), details.getGan(nak), details.getNadi(nak),
-                          details.getYunja(nak), details.getNaamAkshar(nak, quarter),
-                          details.getNaamAksharVarga(nak, quarter)}),
-              m.attributes);
   });
 }
 

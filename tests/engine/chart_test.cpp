@@ -77,6 +77,11 @@ TEST(CorrectedNode, FollowsItsTables) {
              Row(20, 1, 3, -33.3333333));
   // Midway from the row of the year before, and to that of the year after.
   ExpectRows(minutes, Row(100, 1, 1, 0.3333333), Row(100, 12, 31, 0.5), Row(100, 3, 11, -8.5));
+  // The Sun's anomaly swings it by 9 minutes, after Meeus' Astronomical Algorithms.
+  for (int day = 0; day < 365; ++day) {
+    const double q = 60 * (CalcNode(100, 100, DateFromParts(2011, 1, 1) + day) - 100);
+    EXPECT_NEAR(q, -9 * std::sin((day - 2) * 2 * M_PI / 365.26), 0.8) << day;
+  }
   // A sum below 0 is folded, not wrapped.
   EXPECT_NEAR(CalcNode(0.05, 0.05, DateFromParts(2011, 3, 29)), 0.1, 1e-9);
   EXPECT_ERROR(Subscript, CalcNode(10, 190, DateFromParts(2011, 3, 5)));
@@ -125,6 +130,13 @@ TEST(Motion, ComparesOneHourWithoutWrapping) {
     return std::string(ChartOf(14, 4, 2011, hour, 0).getRET(1));
   };
   ExpectRows(motion, Row(5, " "), Row(7, "RET"), Row(9, " "));
+}
+
+TEST(Charts, CountDaysOfTheGregorianCalendar) {
+  // Julian Days of these midnights less 1720994.5.
+  ExpectRows(DayNumber, Row(31, 12, 1899, 694025), Row(1, 1, 2000, 730550),
+             Row(29, 2, 1600, 584512), Row(1, 3, 1700, 621037), Row(28, 2, 2100, 767133),
+             Row(1, 3, 2100, 767134), Row(1, 1, 100, 36590), Row(31, 12, 9999, 3652489));
 }
 
 TEST(Charts, RejectInvalidDates) {

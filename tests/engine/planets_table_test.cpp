@@ -13,6 +13,7 @@
 #include "support/errors.h"
 #include "support/machine_fakes.h"
 #include "support/table.h"
+#include "support/words.h"
 
 namespace engine {
 namespace {
@@ -66,7 +67,6 @@ TEST(NamesOfAChart, AreFoundByNumberAndByLongitude) {
   EXPECT_EQ(clsPP::getPlanetName(2.5), "Sun");
   ExpectRows(clsPP::getRashiName, Row(0, "Aries"), Row(11, "Pisces"));
   EXPECT_ERROR(Subscript, clsPP::getRashiName(-1));
-  EXPECT_EQ(clsPP::GetNakLord(13.34), "Venus");
   ExpectRows(clsPP::GetRashiLord, Row(0, "4"), Row(330, "6"));
 }
 
@@ -94,6 +94,18 @@ TEST(SubLords, MatchIndependentResults) {
               std::tuple(star, sub, subSub));
   }
   EXPECT_TRUE(boxes.shown.empty());
+}
+
+TEST(SubLords, StarsFollowTheCycleOfTheLords) {
+  constexpr std::string_view kCycle[] = {"Ketu", "Venus",   "Sun",    "Moon",   "Mars",
+                                         "Rahu", "Jupiter", "Saturn", "Mercury"};
+  for (int star = 0; star < 27; ++star) {
+    EXPECT_EQ(StarTable[star].Lord, kCycle[star % 9]);
+    EXPECT_EQ(clsPP::GetNakLord((star + 0.5) * 40 / 3), kCycle[star % 9]);
+  }
+  EXPECT_EQ(support::Beginnings(27, 4, [](int star) { return StarTable[star - 1].Name; }),
+            "Ashv Bhar Kart Rohi Mrig Ardr Puna Pusy Asle Magh P.Ph U.Ph Hast Chit Swat Vish Anur "
+            "Jyes Mool P.As U.As Shar Dhan Satb P.Bh U.Bh Revt");
 }
 
 TEST(SubLords, ChangeAtTheirBoundaries) {

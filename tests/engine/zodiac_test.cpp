@@ -5,45 +5,89 @@
 #include <gtest/gtest.h>
 
 #include "engine/divisions.h"
+#include "foundation/legacy_hindi.h"
 #include "foundation/text.h"
 #include "support/errors.h"
 #include "support/table.h"
+#include "support/words.h"
 
 namespace engine {
 namespace {
 
+using support::Beginnings;
 using support::Row;
 
-TEST(Zodiac, SignsHaveNamesAndLords) {
+// Orders, rulers, limits and dignities are the tradition's.
+TEST(Zodiac, NamesStandInTheirOrder) {
+  EXPECT_EQ(Beginnings(13, 3, BodyName), "Asc Sun Moo Mar Mer Jup Ven Sat Rah Ket Ura Nep Plu");
+  // The Sun, the planets outward from it with the Moon behind them, the nodes, the outer planets.
+  EXPECT_EQ(Beginnings(13, 3, BodyNameUpper),
+            "ASC SUN MER VEN MAR JUP SAT MOO RAH KET URA NEP PLU");
+  EXPECT_EQ(Beginnings(27, 4, NakName),
+            "Ashw Bhar Krit Rohi Mrig Ardr Puna Push Ashl Magh P. P U. P Hast Chit Swat Vish Anur "
+            "Jyes Mool P. A U. A Shra Dhan Shat P. B U. B Reva");
+  EXPECT_EQ(Beginnings(12, 3, [](std::int16_t sign) { return RashiNameText(sign, false); }),
+            "Ari Tau Gem Can Leo Vir Lib Sco Sag Cap Aqu Pis");
+  std::string hindi;
+  for (std::int16_t sign = 1; sign <= 12; ++sign) {
+    hindi += foundation::FromLegacyHindi(RashiNameLang(sign, 1)) + " ";
+  }
+  EXPECT_EQ(hindi, "मेष वृष मिथुन कर्क सिंह कन्या तुला वृश्चिक ध्नु मकर कुंभ मीन ");
   ExpectRows(RashiNameText, Row(9, true, 0, "SAG"), Row(9, true, 1, "Sagittarius"));
-  ExpectRows(RashiNameLang, Row(2, 1, "o`\"k"), Row(2, 2, "Taurus"));
-  EXPECT_EQ(BodyNameUpper(8), "MOON");
+  EXPECT_EQ(RashiNameLang(2, 2), "Taurus");
   EXPECT_ERROR(Subscript, BodyNameUpper(0));
   EXPECT_ERROR(Subscript, RashiNameText(0, true));
   EXPECT_ERROR(Subscript, RashiNameLang(0, 1));
   EXPECT_ERROR(Subscript, RashiNameLang(13, 0));
-  EXPECT_EQ(NakName(27), "Revati");
-  // Numbers and codes of the sign lords are separate lists that must agree.
-  for (std::int16_t sign = 1; sign <= 12; ++sign) {
-    const std::string name = foundation::UpperAscii(BodyName(RashiLordNumber(sign)));
-    EXPECT_EQ(RashiLordCodeAt(sign), name.substr(0, 3));
-  }
+}
+
+TEST(Zodiac, SignsHaveTheirLordsAndHouses) {
+  const char kLords[] = "MAR VEN MER MOO SUN MER VEN MAR JUP SAT SAT JUP";
+  EXPECT_EQ(Beginnings(12, 3, RashiLordCodeAt), kLords);
+  const auto name = [](int sign) {
+    return foundation::UpperAscii(BodyName(RashiLordNumber(sign)));
+  };
+  EXPECT_EQ(Beginnings(12, 3, name), kLords);
+  EXPECT_EQ(RashiLordCodeAt(0), "");
   ExpectRows(HouseOfSign, Row(45, 2, 1), Row(45, 1, 12), Row(45, 12, 11), Row(360, 1, 1));
+  EXPECT_ERROR(Subscript, HouseOfSign(45, 0));
+  EXPECT_ERROR(Subscript, HouseOfSign(45, 13));
+}
+
+TEST(Dignities, HoldInTheirSigns) {
+  const auto signs = [](auto test, std::string_view body) {
+    std::string found;
+    for (int sign = 1; sign <= 12; ++sign) {
+      if (!test(body, 30 * sign - 15).empty()) found += std::to_string(sign);
+    }
+    return found;
+  };
+  const auto both = [&](std::string_view body) {
+    return signs(ExaltTest, body) + " " + signs(DebilTest, body);
+  };
+  ExpectRows(both, Row("Sun", "1 7"), Row("Moon", "2 8"), Row("MON", "2 8"), Row("Mars", "10 4"),
+             Row("mercury", "6 12"), Row("Jupiter", "4 10"), Row("Venus", "12 6"),
+             Row("Saturn", "7 1"), Row("Rahu", " "));
 }
 
 TEST(Dignities, ApplyWithinTheirRanges) {
   constexpr double kSecond = 1.0 / 3600;
   ExpectRows(ExaltTest, Row("Sun", 0, ""), Row("Sun", 1.1 * kSecond, "EXL"), Row("sun", 30, "EXL"),
-             Row("Sun", 30 + kSecond, ""), Row("SAT", 180, ""), Row("Mercury", 150, "EXL"),
-             Row("MON", 45, "EXL"), Row("Rahu", 45, ""));
-  ExpectRows(DebilTest, Row("Venus", 150, "DEB"), Row("Moon", 215, "DEB"), Row("Mars", 90, ""),
+             Row("Sun", 30 + kSecond, ""), Row("SAT", 180, ""), Row("Mercury", 150, "EXL"));
+  ExpectRows(DebilTest, Row("Venus", 150, "DEB"), Row("Mars", 90, ""),
              Row("Mars", 90 + 1.1 * kSecond, "DEB"));
 }
 
 TEST(Dignities, BodiesNearTheSunAreCombust) {
-  ExpectRows(CombustTest, Row("Moon", 321.86, 320.07, "COM"), Row("MON", 12, 0, "COM"),
-             Row("Venus", 10.001, 0, ""), Row("Mars", 0, 17, "COM"), Row("Mercury", 359, 1, ""),
-             Row("Sun", 1, 1, ""), Row("Rahu", 1, 1, ""));
+  const auto limit = [](std::string_view body) {
+    int degrees = 0;
+    while (CombustTest(body, 100 - degrees, 100) == "COM") ++degrees;
+    return degrees - 1;
+  };
+  ExpectRows(limit, Row("Moon", 12), Row("MON", 12), Row("mars", 17), Row("Mercury", 14),
+             Row("Jupiter", 11), Row("Venus", 10), Row("Saturn", 15), Row("Sun", -1),
+             Row("Rahu", -1));
+  ExpectRows(CombustTest, Row("Venus", 10.001, 0, ""), Row("Mercury", 359, 1, ""));
 }
 
 TEST(DegreeSplit, CarriesAfterRounding) {
@@ -56,7 +100,26 @@ TEST(DegreeSplit, CarriesAfterRounding) {
              Row(390.5, std::tuple(1, 0, 30, 0)));
 }
 
-// Named as in DivName.
+// A name says how many parts a sign has.
+TEST(WideDivisions, HaveThePartsOfTheirNames) {
+  const auto parts = [](int column) {
+    int count = 1;
+    for (int step = 1; step < 2520; ++step) {  // an eighty-fourth of a degree
+      const double before = (step - 0.5) / 84, after = (step + 0.5) / 84;
+      if (WideDivisions(before)[column] != WideDivisions(after)[column]) ++count;
+    }
+    return std::to_string(count) + " " + std::string(DivName[column]);
+  };
+  std::string all;
+  for (int column = 1; column <= 20; ++column) all += parts(column) + ", ";
+  EXPECT_EQ(all,
+            "1 Rashi, 2 Hora, 3 Drekkana, 4 Chaturthamsa, 7 Saptamsa, 9 Navamsa, 10 Dasamsa, 12 "
+            "Dwadasamsa, 16 Shodasamsa, 20 Vimsamsa, 24 Chaturvimsamsa, 27 Bhamsa, 5 Thrisamsa, 40 "
+            "Khavedamsa, 45 Akshavedamsa, 60 Shatyamsa, 5 Panchamsa, 6 Shashtamsa, 8 Ashtamsa, 11 "
+            "Ekadasamsa, ");
+}
+
+// By the names of DivName.
 enum Column { Hora = 2, Thrisamsa = 13, Shatyamsa = 16, Panchamsa, Ashtamsa = 19 };
 
 int Sign(Column column, double longitude) {

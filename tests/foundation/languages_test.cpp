@@ -18,6 +18,7 @@
 #include "support/app_folder.h"
 #include "support/errors.h"
 #include "support/table.h"
+#include "support/words.h"
 
 namespace foundation {
 namespace {
@@ -51,10 +52,6 @@ TEST(ByteTexts, UseCodePage1252) {
   EXPECT_EQ(ToBytes(FromBytes(ByteText(bytes))), ByteText(bytes));
 }
 
-constexpr std::string_view kVocabulary =
-#include "foundation/vocabulary.inc"
-    ;
-
 using Phrases = std::map<std::string, std::string>;
 
 const struct {
@@ -71,7 +68,7 @@ TEST(LanguageFiles, ContainEachWordOnceInTheirScript) {
   for (const auto& [file, first, last, known] : kLanguages) {
     SCOPED_TRACE(file);
     std::set<std::string> missing;
-    for (const auto word : Split(kVocabulary, ',')) missing.insert(UpperAscii(word));
+    for (const auto word : Split(support::kVocabulary, ',')) missing.insert(UpperAscii(word));
     Phrases phrases;
     std::ifstream in(LANGUAGE_FOLDER "/" + file + ".txt", std::ios::binary);
     for (std::string key, phrase;
