@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "almanac/moment_chart.h"
 #include "dayperiods/clsBirthDetails.h"
 #include "support/errors.h"
 #include "support/session_at.h"
@@ -48,13 +47,7 @@ foundation::SessionTable SessionAt(const KnownMoment& moment) {
 
 TEST(KnownMoments, HaveTheirElements) {
   ForEachMoment([](clsBirthDetails& details, const KnownMoment& m) {
-    const engine::clsPP chart =
-        almanac::ChartOf({m.at[2], m.at[1], m.at[0], m.at[3], m.at[4], m.at[5]},
-                         {m.place.longitude, m.place.latitude, m.place.zone}, {});
     const auto& [moon, sun, ayanamsa] = m.sky;
-    EXPECT_NEAR(chart.pp_Moon, moon, 1e-9);
-    EXPECT_NEAR(chart.pp_Sun, sun, 1e-9);
-    EXPECT_NEAR(chart.pp_AYAN, ayanamsa, 1e-9);
     const auto number = [&, moon = moon, sun = sun](auto of) {
       return std::get<Number>((details.*of)(moon, sun, true));
     };

@@ -182,6 +182,18 @@ TEST(Scrambling, AddsTheKeyFromItsSecondCharacter) {
   EXPECT_EQ(Scrambled("New Delhi,Delhi,"),
             "\x9D\xBC\xC5\x77\x93\xB7\xB8\xAC\xB6\x6D\x94\x9C\xA0\x99\x9E\x80");
   EXPECT_EQ(EncodeText(foundation::ByteText("ab"), ""), foundation::ByteText("ab"));
+  EXPECT_EQ(Scrambled(std::string(32767, 'x')).size(), 32767U);
+}
+
+// Standard times of the time zone database.
+TEST(CountryZone, IsTheRealOneOfTheLargerCountries) {
+  ExpectRows(getCountryZone, Row("Afghanistan", "-4.30"), Row("Argentina", "+3"),
+             Row("Bangladesh", "-6"), Row("Brazil", "+3"), Row("Chile", "+4"), Row("China", "-8"),
+             Row("Egypt", "-2"), Row("England", "0"), Row("Fiji", "-12"), Row("France", "-1"),
+             Row("Germany", "-1"), Row("Guyana", "+4"), Row("Iran", "-3.30"), Row("Italy", "-1"),
+             Row("Japan", "-9"), Row("Kenya", "-3"), Row("Mauritius", "-4"), Row("Nigeria", "-1"),
+             Row("Pakistan", "-5"), Row("Philippines", "-8"), Row("Singapore", "-8"),
+             Row("South Africa", "-2"), Row("Thailand", "-7"), Row("Trinidad - Tobago", "+4"));
 }
 
 TEST(CountryZone, ComesFromTheFirstMatchingRow) {

@@ -34,7 +34,9 @@ TEST(DibSection, HoldsOneBitmapOrNone) {
   cDIBSection dib;
   EXPECT_TRUE(dib.Create(5, 2));
   EXPECT_EQ(dib.BytesPerScanLine(), 16);
-  EXPECT_EQ(dib.Header().imageSize, 32);
+  const auto [size, width, height, planes, bits, compression, imageSize] = dib.Header();
+  EXPECT_EQ((std::array{size, width, height, int{planes}, int{bits}, compression, imageSize}),
+            (std::array{40, 5, 2, 1, 24, 0, 32}));
   EXPECT_FALSE(dib.Create(65536, 65536));
   EXPECT_EQ(dib.hdc(), nullptr);
   EXPECT_FALSE(dib.Create(0, 1));
@@ -52,6 +54,7 @@ TEST(DibSection, ClipsCopiesToBothPictures) {
   dib.PaintPicture(*dib.hdc(), 0, 1);  // onto itself
   EXPECT_EQ(RowsOf(dib), (Rows{{2, 2, 2, 3, 3, 3}, {5, 5, 5, 1, 1, 1}, {5, 5, 5, 1, 1, 1}}));
   EXPECT_ERROR(InvalidCall, dib.LoadPictureBlt(*source.hDib(), 0, 0, -1, -1, 0));
+  EXPECT_ERROR(InvalidCall, source.PaintPicture(*dib.hdc(), 0, 0, -1, -1, 0, 0, 0));
 }
 
 TEST(DibSection, MatchesResamplingByHand) {
@@ -95,7 +98,8 @@ TEST(DibSection, LoadsAPictureAndCopiesItToTheClipboard) {
   EXPECT_TRUE(dib.CreateFromPicture({}, screen));
   EXPECT_EQ(RowsOf(dib), (Rows{{6, 5, 4}, {3, 2, 1}}));
   EXPECT_FALSE(dib.CopyToClipboard(true, clipboard, boxes));
-  EXPECT_EQ(boxes.shown.size(), 1U);
+  EXPECT_EQ(boxes.shown.at(0).text,
+            "I don't know how to put a DIB on the clipboard! Copy as bitmap instead!!!");
   EXPECT_TRUE(dib.CopyToClipboard(false, clipboard, boxes));
   screen.dots = {};
   EXPECT_FALSE(pasted.CreateFromPicture({}, screen));

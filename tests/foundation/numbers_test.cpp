@@ -102,12 +102,14 @@ TEST(SessionTable, FillsOnlyAFreshRecord) {
   SessionTable session;
   const SessionRecord& record = session.Current();
   session.Current().PersonName = "left over";
+  session.Current().AyanamsaChoice = 4;
   session.Current().Reserved = {1, 2, 3};
   session.Current().ReservedText = "kept";
   InitSessionRecord(session, DateFromParts(2011, 3, 5) + TimeFromParts(6, 12, 9));
   InitSessionRecord(session, DateFromParts(2030, 1, 1));
-  EXPECT_EQ(std::tuple(record.PersonName, record.RecordFlag, record.RahuKetuFlag),
-            std::tuple("", -1, -1));
+  EXPECT_EQ(
+      std::tuple(record.PersonName, record.RecordFlag, record.AyanamsaChoice, record.RahuKetuFlag),
+      std::tuple("", -1, 0, -1));
   EXPECT_EQ((std::array{record.Day, record.Month, record.Year, record.Hour, record.Minute,
                         record.Second}),
             (std::array<double, 6>{5, 3, 2011, 6, 12, 9}));

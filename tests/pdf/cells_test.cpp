@@ -46,6 +46,18 @@ TEST_F(CellLines, UnderlineTheirLinks) {
   EXPECT_EQ(Between(file, "/Rect ", " /Border"), "[63 736.89 73 726.89][60 741.89 70 731.89]");
 }
 
+TEST_F(CellLines, KeepTheirMarginAndTellTheirAlignment) {
+  printer.PDFSetCellMargin(7.5);
+  printer.PDFSetBorder(0);
+  const auto aligned = [&](int alignment) {
+    printer.PDFSetAlignement(alignment);
+    return printer.PDFGetAlignement();
+  };
+  ExpectRows(aligned, Row(0, "Center"), Row(2, "Right"), Row(3, "Left"), Row(1, "Left"));
+  printer.PDFCellLine("ab", 60, 100, 100, 20, "");
+  EXPECT_EQ(Between(Content(), "Tf\n", " 728"), "68.00");
+}
+
 using Cells = PaperTest;
 
 TEST_F(Cells, WrapAtBlanks) {

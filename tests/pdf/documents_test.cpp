@@ -63,10 +63,31 @@ TEST_F(Documents, LaterPagesStartWithPageTurnMarkers) {
 TEST_F(Documents, KeepTheirInformationUnchanged) {
   printer.PDFTitle("a) été द");
   printer.PDFProducer("\\p");
+  printer.PDFAuthor("b");
+  printer.PDFCreator("c");
+  printer.PDFKeywords("k");
+  printer.PDFSubject("s");
   printer.PDFBeginDoc();
-  const std::string file = Finish();
-  EXPECT_TRUE(Holds(file, "/Producer (\\p)\n/Author ()\n"));
-  EXPECT_TRUE(Holds(file, "/Title (a) \xE9t\xE9 ?)"));
+  EXPECT_TRUE(Holds(Finish(),
+                    "/Producer (\\p)\n/Author (b)\n/CreationDate (D:20110305061209)\n/Creator (c)\n"
+                    "/Keywords (k)\n/Subject (s)\n/Title (a) \xE9t\xE9 ?)\n"));
+}
+
+TEST_F(Documents, BeginAgainWithoutTheOneBefore) {
+  const std::string empty = Finish();
+  const auto begin = [&] {
+    printer.PDFFileName((folder.path / "paper.pdf").string());
+    printer.PDFBeginDoc();
+  };
+  begin();
+  folder.Write("a.jpg",
+               std::string("\xFF\xD8\xFF\xFE\0\xF8", 6) + std::string(246, 'x') + "\xFF\xD9");
+  printer.PDFImage((folder.path / "a.jpg").string(), 1, 1, 1, 1, "");
+  printer.PDFLink(1, 1, "a", "");
+  for (int i = 0; i < 2; ++i) printer.PDFSetBookmark("a", 0, 0);
+  NewPage();
+  begin();
+  EXPECT_EQ(Finish(), empty);
 }
 
 TEST_F(Documents, OpenAsConfigured) {
@@ -93,6 +114,9 @@ TEST_F(Documents, AreConfirmedAndClosed) {
   printer.PDFEndDoc();
   EXPECT_EQ(TakeMessages(), "Génération du Fichier PDF - vrPDF 4.0: Fichier PDF généré.\n");
   EXPECT_ERROR(ObjectNotSet, printer.PDFBeginDoc());
+  printer.PDFFileName("/dev/full");
+  printer.PDFBeginDoc();
+  EXPECT_ERROR(FileAccess, printer.PDFEndDoc());
 }
 
 // Blocks a folder, even for root, until it is asked to close.

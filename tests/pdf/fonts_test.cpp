@@ -19,7 +19,8 @@ TEST_F(Fonts, AreNamedByFamilyAndStyle) {
     return foundation::NumberText(printer.PDFGetStringWidth("Durvela", "", 1000));
   };
   ExpectRows(width, Row(0, 0, "3445"), Row(1, 0, "4200"), Row(2, 0, "3221"), Row(0, 12, "3668"),
-             Row(2, 2, "3444"), Row(2, 1, "3277"), Row(2, 12, "3333"));
+             Row(2, 2, "3444"), Row(2, 1, "3277"), Row(2, 12, "3333"), Row(3, 0, "4069"),
+             Row(4, 0, "5395"));
   EXPECT_ERROR(Subscript, printer.PDFGetStringWidth(std::string_view("a\0b", 3), "", 10));
   printer.PDFSetFont(9, 10, 0);
   EXPECT_ERROR(FileNotFound, printer.PDFGetStringWidth("", "", 10));

@@ -37,6 +37,9 @@ TEST(JpegScan, FindsSizeAndColours) {
       found, Row(Jfif(0) + Frame('\xC0', 20, 12, 1), Scan(20, 12, 8, "DeviceGray")),
       Row(Jfif(2) + Frame('\xC2', 600, 400, 3), Scan(600, 400, 8, "DeviceRGB")),
       Row(Frame('\xC7', 1, 65535, 4), Scan(1, 65535, 8, "DeviceCMYK")),
+      Row(Frame('\xC3', 1, 2, 3), Scan(1, 2, 8, "DeviceRGB")),
+      Row(Frame('\xC5', 3, 4, 3), Scan(3, 4, 8, "DeviceRGB")),
+      Row(Frame('\xC6', 5, 6, 3), Scan(5, 6, 8, "DeviceRGB")),
       Row(Frame('\xC1', 3, 2, 2), Scan(3, 2, 16, "")),
       Row(Frame('\xC4', 3, 2, 3) + Frame('\xC0', 20, 12, 3), Scan(20, 12, 8, "DeviceRGB")),
       // Fill bytes hide the marker after them.
@@ -51,18 +54,25 @@ using Images = PaperTest;
 TEST_F(Images, ArePlacedAtTheirSize) {
   const std::string jpeg = Jpeg(Frame('\xC0', 60, 30, 3));
   folder.Write("a.jpeg", jpeg);
+  const std::string path = (folder.path / "a.jpeg").string();
+  EXPECT_EQ(std::pair(printer.PDFImageWidth(path), printer.PDFImageHeight(path)),
+            std::pair(60.0, 30.0));
   printer.PDFSetUnit(3);
   const auto place = [&](double width, double height) {
-    printer.PDFImage((folder.path / "a.jpeg").string(), 200, 200, width, height, "");
+    printer.PDFImage(path, 200, 200, width, height, "");
     return Place();
   };
   ExpectRows(place, Row(0, 0, std::pair(70, 40)), Row(2880, 0, std::pair(154, 82)),
              Row(0, 2880, std::pair(298, 154)), Row(1440, 1440, std::pair(82, 82)));
+  printer.PDFImage(path, 200, 200, 1440, 1440, 5);
+  EXPECT_EQ(TakeMessages(),
+            "Lien URL Fichier Image - vrPDF 4.0: URL objet image non valide : 5.\r\n"
+            "Impossible d'inclure le lien dans l'image.\n");
   const std::string file = Finish();
-  EXPECT_EQ(
-      Between(file, "\nq\n", "Do Q"),
-      "60.00 0 0 30.00 10.00 801.89 cm /ImgJPEG1 144.00 0 0 72.00 10.00 759.89 cm /ImgJPEG2 "
-      "288.00 0 0 144.00 10.00 687.89 cm /ImgJPEG3 72.00 0 0 72.00 10.00 759.89 cm /ImgJPEG4 ");
+  EXPECT_EQ(Between(file, "\nq\n", "Do Q"),
+            "60.00 0 0 30.00 10.00 801.89 cm /ImgJPEG1 144.00 0 0 72.00 10.00 759.89 cm /ImgJPEG2 "
+            "288.00 0 0 144.00 10.00 687.89 cm /ImgJPEG3 72.00 0 0 72.00 10.00 759.89 cm /ImgJPEG4 "
+            "72.00 0 0 72.00 10.00 759.89 cm /ImgJPEG5 ");
   EXPECT_TRUE(Holds(file, "/XObject << \n/ImgJPEG1 9 0 R\n/ImgJPEG2 10 0 R\n"));
   EXPECT_TRUE(Holds(
       file,

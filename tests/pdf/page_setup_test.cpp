@@ -21,10 +21,10 @@ TEST_F(PageSetup, ConvertsUnits) {
   printer.PDFSetFont(0, 10, 0);
   const auto height = [&](int unit) {
     printer.PDFSetUnit(unit);
-    return PDFFormatNumber(printer.PDFTextHeight(), 3);
+    return PDFFormatNumber(printer.PDFTextHeight(), 3) + " " + printer.PDFGetUnit();
   };
-  ExpectRows(height, Row(0, "10.000"), Row(1, "28.346"), Row(2, "283.465"), Row(3, "0.500"),
-             Row(4, "283.465"));
+  ExpectRows(height, Row(0, "10.000 pt"), Row(1, "28.346 mm"), Row(2, "283.465 cm"),
+             Row(3, "0.500 "), Row(4, "283.465 cm"));
 }
 
 TEST_F(PageSetup, RoundsMarginsToWholeUnits) {
@@ -44,6 +44,7 @@ TEST_F(PageSetup, SetsPageFormats) {
     return Size(printer.PDFGetPageWidth(), printer.PDFGetPageHeight());
   };
   ExpectRows(size, Row(1, 1, Size(841.89, 1190.55)), Row(2, 0, Size(595.28, 420.94)),
+             Row(3, 1, Size(8.5 * 72, 11 * 72)), Row(4, 1, Size(8.5 * 72, 14 * 72)),
              Row("A3", 1, Size(595.28, 841.89)), Row(Argument{7.5, 8}, 0, Size(8, 7.5)));
 }
 
