@@ -1,9 +1,12 @@
 #include "foundation/date_text.h"
 
+#include <algorithm>
+
 #include "foundation/error.h"
 #include "foundation/locale_names.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
+#include "foundation/zzVorin.h"
 
 namespace foundation {
 namespace {
@@ -116,6 +119,12 @@ std::string HourMinuteSecond(double hour, double minute, double second) {
   return NumberText(hour) + ":" + NumberText(minute) + ":" + NumberText(second);
 }
 
+std::string HourMinuteHalf(DateTime time) {
+  const DateTimeFields at = FieldsOf(time);
+  const int hour = at.hour % 12 == 0 ? 12 : at.hour % 12;
+  return PadDigits(hour, 2) + ":" + PadDigits(at.minute, 2) + (at.hour < 12 ? " AM" : " PM");
+}
+
 std::optional<DateTime> TryReadTime(std::string_view text) {
   Reader reader(text);
   return TakeLastTime(reader);
@@ -132,6 +141,20 @@ std::optional<DateTime> TryReadDateTime(std::string_view text) {
   const auto time = TakeLastTime(reader);
   if (!time) return std::nullopt;
   return *date + *time;
+}
+
+std::optional<DateTime> TryReadTypedDate(std::string_view text) {
+  if (text.find(':') != text.npos) return std::nullopt;  // a time
+  std::string date(text);
+  std::ranges::replace(date, '.', ' ');
+  if (const auto exact = TryReadDateTime(date)) return exact;
+  Reader reader(date);
+  if (!reader.TakeNumber() || !reader.TakeDateSeparator()) return std::nullopt;
+  const std::string_view rest = reader.Rest();
+  const std::string_view name = rest.substr(0, rest.find_first_of(" -/"));
+  const int month = MonthByBeginning(name);
+  if (month == 0) return std::nullopt;
+  return TryReadDateTime(date.replace(date.size() - rest.size(), name.size(), NumberText(month)));
 }
 
 DateTime ReadDateTime(std::string_view text) {

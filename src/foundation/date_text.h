@@ -29,4 +29,11 @@ DateTime ReadDateTime(std::string_view text);
 // A time alone, as a fraction of a day.
 std::optional<DateTime> TryReadTime(std::string_view text);
 
+// A date without a time, as a user types it: fields may also stand between dots ("5.3.2011"), and
+// MonthByBeginning knows the month ("5 Mar 2011", "5. Mar. 2011").
+std::optional<DateTime> TryReadTypedDate(std::string_view text);
+
+// "06:05 PM", English in every locale, so that any keyboard can type it. The seconds are dropped.
+std::string HourMinuteHalf(DateTime time);
+
 }  // namespace foundation

@@ -1,6 +1,8 @@
 #include "foundation/locale_names.h"
 
 #include <algorithm>
+#include <bit>
+#include <bitset>
 #include <utility>
 
 #include "foundation/error.h"
@@ -8,6 +10,8 @@
 
 namespace foundation {
 namespace {
+
+constexpr std::size_t kShortestBeginning = 2;  // characters
 
 using Months = std::array<std::string, 12>;
 
@@ -20,12 +24,20 @@ Months Folded(const Months& months) {
 struct Names {
   LocaleNames user = EnglishNames();
   Months foldedUser = Folded(user.months);
+  Months foldedDated = {};
   const Months foldedEnglish = foldedUser;
 };
 
 Names& TheNames() {
   static Names names;
   return names;
+}
+
+// Bit 0 is January.
+std::bitset<12> BeginningWith(std::string_view folded, const Months& months) {
+  std::bitset<12> found;
+  for (std::size_t i = 0; i < months.size(); ++i) found[i] = months[i].starts_with(folded);
+  return found;
 }
 
 template <std::size_t Count>
@@ -50,6 +62,7 @@ const LocaleNames& UserNames() {
 
 void SetUserNames(LocaleNames names) {
   TheNames().foldedUser = Folded(names.months);
+  TheNames().foldedDated = Folded(names.datedMonths);
   TheNames().user = std::move(names);
 }
 
@@ -66,6 +79,15 @@ MonthMatch MonthAtStart(std::string_view text) {
     }
   }
   return longest;
+}
+
+int MonthByBeginning(std::string_view text) {
+  if (Characters(text).size() < kShortestBeginning) return 0;
+  const std::string folded = FoldCase(text);
+  const Names& names = TheNames();
+  auto found = BeginningWith(folded, names.foldedUser) | BeginningWith(folded, names.foldedDated);
+  if (found.none()) found = BeginningWith(folded, names.foldedEnglish);
+  return found.count() == 1 ? std::countr_zero(found.to_ulong()) + 1 : 0;
 }
 
 const std::string& MonthName(int month) {

@@ -79,5 +79,37 @@ TEST(DateText, ReadsTheUsersMonthsAndEnglishOnes) {
   EXPECT_EQ(TryReadDateTime("5 März 2011"), std::nullopt);
 }
 
+TEST(DateText, ReadsDatesAsTheyAreTyped) {
+  const auto read = [](std::string_view text) {
+    const auto date = TryReadTypedDate(text);
+    return date ? FieldsOf(*date) : DateTimeFields{};
+  };
+  ExpectRows(read, Row("05/March/2011", Fields(2011, 3, 5)), Row("1/12/2026", Fields(2026, 12, 1)),
+             Row("5. mar. 2011", Fields(2011, 3, 5)), Row("5.3.2011", Fields(2011, 3, 5)),
+             Row(" 30-SEPT-11 ", Fields(2011, 9, 30)), Row("31/de/9999", Fields(9999, 12, 31)),
+             Row("1 ja 100", Fields(100, 1, 1)));
+  constexpr std::string_view kTexts =
+      "|5/3|5/ma/2011|1/j/2011|5/marchs/2011|mar 5 2011|5 6 mar|5 mar 6 2011|29/feb/2011|1/1/10000|"
+      "6:12|5/3/2011 6:12|2011-3-5|12.30";
+  for (const auto text : Split(kTexts, '|')) EXPECT_EQ(read(text), DateTimeFields{}) << text;
+
+  LocaleNames names = EnglishNames();  // Finnish, whose "mar" is no March; and a Hindi one
+  names.months[2] = "maaliskuu";
+  names.months[5] = "kesäkuu";
+  names.months[6] = "जुलाई";
+  names.months[10] = "marraskuu";
+  names.datedMonths[5] = "kesäkuuta";
+  const support::UserNamesScope scope(names);
+  ExpectRows(read, Row("5/mar/2011", Fields(2011, 11, 5)), Row("5 MAA 2011", Fields(2011, 3, 5)),
+             Row("5. KESÄKUUTA 2011", Fields(2011, 6, 5)), Row("5 जु 2011", Fields(2011, 7, 5)),
+             Row("5 jul 2011", Fields(2011, 7, 5)));
+}
+
+TEST(DateText, WritesTheTimeOfDayByItsHalves) {
+  ExpectRows([](int hour, int minute) { return HourMinuteHalf(TimeFromParts(hour, minute, 59)); },
+             Row(0, 0, "12:00 AM"), Row(11, 59, "11:59 AM"), Row(12, 0, "12:00 PM"),
+             Row(18, 5, "06:05 PM"));
+}
+
 }  // namespace
 }  // namespace foundation

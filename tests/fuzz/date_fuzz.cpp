@@ -17,6 +17,11 @@ void Date(std::string_view text, bool english) {
   fuzz::Require(!english || (again && foundation::FieldsOf(*again) == at));
 }
 
+void TypedDate(std::string_view text) {
+  const auto date = foundation::TryReadTypedDate(text);
+  fuzz::Require(!date || *date == foundation::FloorToInt32(*date));
+}
+
 void Time(std::string_view text) {
   const double number = foundation::LeadingNumber(text);
   fuzz::Try([&] { foundation::TimeTextToDecimal(text); });
@@ -39,5 +44,6 @@ void fuzz::Run(const std::string& bytes) {
   }
   foundation::SetUserNames(names);
   fuzz::Try([&] { Date(text, english); });
+  TypedDate(text);
   Time(text);
 }

@@ -80,6 +80,7 @@ foundation::LocaleNames SystemNames() {
   for (int month = 1; month <= 12; ++month) {
     names.months[static_cast<std::size_t>(month - 1)] =
         locale.standaloneMonthName(month).toStdString();
+    names.datedMonths[static_cast<std::size_t>(month - 1)] = locale.monthName(month).toStdString();
   }
   for (int weekday = 0; weekday < 7; ++weekday) {  // the toolkit's 7 is Sunday
     names.weekdays[static_cast<std::size_t>(weekday)] =
