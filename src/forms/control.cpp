@@ -42,10 +42,6 @@ void SetText(Control& textBox, std::string_view text) {
   Set(textBox, textBox.caption, std::string(text));
 }
 
-void SetMoment(Control& picker, foundation::DateTime moment) {
-  Set(picker, picker.moment, moment);
-}
-
 void SetScroll(Control& scrollBar, int value) {
   const ScrollRange& range = scrollBar.scroll;
   Set(scrollBar, scrollBar.scroll.value, std::max(range.minimum, std::min(value, range.maximum)));

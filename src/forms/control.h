@@ -75,6 +75,7 @@ struct Properties {
   LineEnds ends;        // a Line's, in place of `place`
   std::string caption;  // UTF-8, "&" before a button's key; of a text box, what stands in it
   foundation::DateTime moment = 0;  // of a date picker a midnight, of a time picker a time of day
+  std::string refusal;  // of a picker: why it did not take what was typed; empty if it did
   ScrollRange scroll;
   Font font;
   std::string tag;
@@ -117,7 +118,7 @@ struct Control : Properties {
   // Handlers; what a form leaves empty does nothing.
   std::function<void()> onClick;  // of a list: another entry was selected
   std::function<void()> onDoubleClick;
-  std::function<void()> onChange;  // of its text, moment or scroll value
+  std::function<void()> onChange;  // of its text, moment, refusal or scroll value
   std::function<void(KeyPress&)> onKeyDown;
   std::function<void(Point)> onMouseDown;  // by the left button; in twips from the control's corner
   std::function<void(Point)> onMouseUp;
@@ -132,11 +133,10 @@ struct Control : Properties {
 Place& PlaceOf(Control& control);
 Font& FontOf(Control& control);
 
-// What the user or the program sets raises the same events: a text, moment or scroll value that
+// What the user or the program sets raises the same events: a text or scroll value that
 // differs from the present one onChange, the selection of another entry onClick. InvalidCall where
 // there is no such entry.
 void SetText(Control& textBox, std::string_view text);
-void SetMoment(Control& picker, foundation::DateTime moment);
 void SetScroll(Control& scrollBar, int value);  // brought into the bar's range
 void Select(Control& list, int index);
 

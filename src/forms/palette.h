@@ -28,6 +28,7 @@ inline constexpr auto kWhite = Rgb(0xFFFFFF);
 inline constexpr auto kGold = Rgb(0xFFD166);         // the sun, the focus ring, selections
 inline constexpr auto kGoldOnPaper = Rgb(0xFFECC4);  // at 30 per cent
 inline constexpr auto kFocus = Rgb(0xA86F00);        // the focus ring on paper
+inline constexpr auto kError = Rgb(0xB3261E);        // a field that refuses its text
 inline constexpr auto kSun = Rgb(0xFFE08A);
 
 // The three periods, the same everywhere. Use the OnPaper shades for text on paper or as fields

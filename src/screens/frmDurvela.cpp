@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "forms/moment_picker.h"
 #include "foundation/error.h"
 #include "foundation/resume.h"
 #include "screens/frmCity.h"
@@ -43,6 +44,10 @@ frmDurvela::frmDurvela(Services services, forms::Form& dashboard, Ways ways)
     handle->onMouseMove = [this](forms::Point at) { lblTitle_MouseMove(at); };
     handle->onMouseUp = [this](forms::Point) { lblTitle_MouseUp(); };
   }
+  for (const auto& [picker, remark] :
+       {std::pair(&DT1, &StartRemark), {&DT2, &EndRemark}, {&dtTime, &TimeRemark}}) {
+    picker->onChange = [picker, remark] { remark->visible = !picker->refusal.empty(); };
+  }
   Label9.onClick = [this] { OpenWebsite(services_.browser); };
   VScroll1.onChange = [this] {
     picRes.place.top = kMargin - static_cast<float>(VScroll1.scroll.value);
@@ -68,9 +73,9 @@ void frmDurvela::Form_Load() {
 
 void frmDurvela::FillFromDefaults() {
   const foundation::DateTimeFields today = foundation::FieldsOf(services_.clock.Now());
-  DT1.moment = foundation::DateFromParts(today.year, today.month, today.day);
-  DT2.moment = foundation::DateFromParts(today.year, today.month + 1, today.day);
-  dtTime.moment = kNoon;
+  forms::SetMoment(DT1, foundation::DateFromParts(today.year, today.month, today.day));
+  forms::SetMoment(DT2, foundation::DateFromParts(today.year, today.month + 1, today.day));
+  forms::SetMoment(dtTime, kNoon);
   ShowDefaultPlace(services_.settings, PlaceLabelsOf(*this));
 }
 

@@ -35,10 +35,13 @@ class frmDurvela : public ScaledForm {
   CONTROL(Shape, RangeCard, timetable_layout::Card(88, 144));
   CONTROL(Label, StartCaption, timetable_layout::Caption(108, "Starting Date"));
   CONTROL(DatePicker, DT1, timetable_layout::Picker(108, "Starting Date", 0));
+  CONTROL(Label, StartRemark, timetable_layout::Remark(108, "Not a date"));
   CONTROL(Label, EndCaption, timetable_layout::Caption(148, "Ending Date"));
   CONTROL(DatePicker, DT2, timetable_layout::Picker(148, "Ending Date", 1));
+  CONTROL(Label, EndRemark, timetable_layout::Remark(148, "Not a date"));
   CONTROL(Label, TimeCaption, timetable_layout::Caption(188, "Time"));
   CONTROL(TimePicker, dtTime, timetable_layout::Picker(188, "Time", 2));
+  CONTROL(Label, TimeRemark, timetable_layout::Remark(188, "Not a time"));
 
   CONTROL(Shape, PlaceCard, timetable_layout::Card(248, 276));
   CONTROL(Label, PlaceTitle, timetable_layout::CardTitle(260, "Place"));

@@ -72,6 +72,15 @@ inline Properties Picker(float top, std::string_view spokenName, int tabIndex) {
           .tabIndex = tabIndex};
 }
 
+// Below the caption of a picker whose text is no date or time.
+inline Properties Remark(float top, std::string_view remark) {
+  return {.place = At(44, top + 20, 116, 16),
+          .caption = std::string(remark),
+          .font = {.size = 8.25F},
+          .foreColour = palette::kError,
+          .visible = false};
+}
+
 inline Properties Value(float top) {
   return {.place = At(160, top, 180, 24),
           .font = {.size = 10.5F, .bold = true},

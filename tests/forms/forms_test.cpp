@@ -2,11 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include "forms/clsVSZ.h"
 #include "forms/drawing_target.h"
 #include "forms/item_list.h"
+#include "forms/moment_picker.h"
 #include "forms/picture.h"
 #include "foundation/legacy_hindi.h"
 #include "support/errors.h"
@@ -43,6 +46,53 @@ TEST(ItemList, KeepsSelectionAndItemDataWithTheEntry) {
   EXPECT_EQ(std::tuple(list.ListIndex(), list.ItemData(1), list.List(1)), std::tuple(1, 7, "b"));
   list.Clear();
   EXPECT_EQ(list.ListIndex(), -1);
+}
+
+TEST(MomentPicker, TakesWhatIsTypedOrSaysWhyNot) {
+  struct Step {
+    const char *typed, *shown;
+    bool refused;
+    int events;
+  };
+  const auto type = [](Kind kind, std::initializer_list<Step> steps) {
+    Control picker;
+    picker.kind = kind;
+    int events = 0;
+    picker.onChange = [&] { ++events; };
+    for (const Step& step : steps) {
+      TypeMoment(picker, step.typed);
+      EXPECT_EQ(MomentText(picker), step.shown) << step.typed;
+      EXPECT_EQ(!picker.refusal.empty(), step.refused) << step.typed;
+      EXPECT_EQ(std::exchange(events, 0), step.events) << step.typed;
+    }
+  };
+  type(Kind::DatePicker, {{"05/3/2011", "5/March/2011", false, 1},
+                          {"31/2/2011", "5/March/2011", true, 1},
+                          {"", "5/March/2011", true, 0},
+                          {"5 mar 2011", "5/March/2011", false, 1},
+                          {"5-3-11", "5/March/2011", false, 0}});
+  type(Kind::TimePicker, {{"6:05 PM", "06:05 PM", false, 1},
+                          {"6:05:30 PM", "06:05 PM", true, 1},
+                          {"5/3/2011", "06:05 PM", true, 0},
+                          {"0:30", "12:30 AM", false, 1}});
+}
+
+TEST(MomentPicker, StepsPartByPart) {
+  const auto stepped = [](Kind kind, const char* from, int part, int steps) {
+    Control picker;
+    picker.kind = kind;
+    TypeMoment(picker, from);
+    StepMoment(picker, part, steps);
+    return MomentText(picker);
+  };
+  ExpectRows(std::bind_front(stepped, Kind::DatePicker), Row("31/12/2011", 0, 1, "1/January/2012"),
+             Row("31/1/2011", 1, 1, "28/February/2011"),
+             Row("15/1/2011", 1, -13, "15/December/2009"),
+             Row("29/2/2012", 2, -1, "28/February/2011"), Row("1/1/100", 0, -1, "1/January/100"),
+             Row("1/1/100", 1, -1, "1/January/100"), Row("5/3/9999", 2, 1, "5/March/9999"),
+             Row("31/12/9999", 0, 10, "31/December/9999"));
+  ExpectRows(std::bind_front(stepped, Kind::TimePicker), Row("23:59", 1, 1, "12:00 AM"),
+             Row("0:30", 0, -1, "11:30 PM"), Row("6:05", 2, 1, "06:05 PM"));
 }
 
 // Drawn column by column; the head has a face with another baseline and its own encoding.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/moment_picker.h"
 #include "screens/frmDurvela.h"
 #include "screens/picker.h"
 #include "support/locales.h"
@@ -143,6 +144,21 @@ TEST(Timetable, GoesBackToTheDashboardAndStartsAnew) {
   t.form.Form_Load();
   EXPECT_EQ(t.form.frRes.place.width, width);
   EXPECT_EQ(t.form.windowState, forms::WindowState::Normal);
+}
+
+TEST(Timetable, RemarksOnWhatIsNoDateUntilThereIsOne) {
+  Timetable t;
+  const auto remarks = [&] {
+    return std::tuple(t.form.StartRemark.visible, t.form.EndRemark.visible,
+                      t.form.TimeRemark.visible);
+  };
+  forms::TypeMoment(t.form.DT2, "soon");
+  EXPECT_EQ(remarks(), std::tuple(false, true, false));
+  forms::TypeMoment(t.form.dtTime, "noon");
+  forms::TypeMoment(t.form.DT2, "5/4/2011");  // as it was
+  EXPECT_EQ(remarks(), std::tuple(false, false, true));
+  t.form.Form_Load();
+  EXPECT_EQ(remarks(), std::tuple(false, false, false));
 }
 
 TEST(Timetable, MovesWithTheMouseOnItsTitle) {

@@ -29,7 +29,10 @@ ButtonWidget::ButtonWidget(forms::Control& control, Dispatch dispatch, QWidget* 
     : QPushButton(parent), ControlView(control, std::move(dispatch)) {
   setAutoDefault(true);  // Enter presses it while it has the focus
   setProperty("look", NameOf(control.look));
-  connect(this, &QPushButton::clicked, this, [this] { dispatch_(control_.onClick); });
+  connect(this, &QPushButton::clicked, this, [this] {
+    if (control_.tabStop) setFocus(Qt::ShortcutFocusReason);  // another field may hold a new text
+    dispatch_(control_.onClick);
+  });
   Mirror();
 }
 

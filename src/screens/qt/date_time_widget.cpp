@@ -1,15 +1,15 @@
 #include "screens/qt/date_time_widget.h"
 
-#include <QCalendarWidget>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QTextCharFormat>
-#include <QToolButton>
 #include <QWheelEvent>
+#include <algorithm>
 #include <utility>
 
+#include "forms/moment_picker.h"
+#include "foundation/locale_names.h"
 #include "screens/palette.h"
 #include "screens/qt/qt_painting.h"
 
@@ -20,101 +20,161 @@ using namespace Qt::StringLiterals;
 
 constexpr int kButtons = 42;     // pixels for arrows and padding
 constexpr int kArrowInset = 14;  // from the right edge to the middle of an arrow
-
-const QDate kFirstDate(100, 1, 1), kLastDate(9999, 12, 31);
-
-// With a line around it, and arrows that are letters; and no day of the week is more than another.
-void DressCalendar(QCalendarWidget& calendar) {
-  QPalette colours = calendar.palette();
-  colours.setColor(QPalette::Window, ToQt(palette::kRule));
-  calendar.setPalette(colours);
-  calendar.setAutoFillBackground(true);
-  calendar.setContentsMargins(1, 1, 1, 1);
-  for (const auto& [name, arrow] :
-       {std::pair(u"qt_calendar_prevmonth"_s, u"‹"_s), {u"qt_calendar_nextmonth"_s, u"›"_s}}) {
-    auto* button = calendar.findChild<QToolButton*>(name);
-    if (button == nullptr) continue;
-    button->setIcon({});
-    button->setText(arrow);
-  }
-  QTextCharFormat plain;
-  plain.setForeground(ToQt(palette::kInk));
-  for (const auto day : {Qt::Saturday, Qt::Sunday}) calendar.setWeekdayTextFormat(day, plain);
-}
+constexpr double kRadius = 10;   // of the frame's corners
+constexpr int kLastPart = 2;     // year, or half of the day
 
 }  // namespace
 
 DateTimeWidget::DateTimeWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
-    : QDateTimeEdit(parent), ControlView(control, std::move(dispatch)) {
-  const bool date = control.kind == forms::Kind::DatePicker;
-  setTimeSpec(Qt::UTC);  // no hour is left out for daylight saving
-  setDateRange(kFirstDate, kLastDate);
-  setDisplayFormat(date ? QStringLiteral("d/MMMM/yyyy") : QStringLiteral("hh:mm AP"));
-  setCalendarPopup(date);
-  if (date) DressCalendar(*calendarWidget());
-  setKeyboardTracking(false);  // half a year is none
-  connect(this, &QDateTimeEdit::dateTimeChanged, this, [this] {
-    if (!mirroring_) dispatch_([this] { forms::SetMoment(control_, Picked()); });
-  });
+    : QAbstractSpinBox(parent), ControlView(control, std::move(dispatch)) {
+  connect(lineEdit(), &QLineEdit::textEdited, this, [this] { typed_ = true; });
+  if (IsDate()) {
+    calendar_ = new CalendarPopup(this);
+    const auto choose = [this](QDate date) {
+      dispatch_([&] {
+        forms::SetMoment(control_,
+                         foundation::DateFromParts(date.year(), date.month(), date.day()));
+      });
+      ShowMoment();
+    };
+    connect(calendar_, &QCalendarWidget::clicked, this, choose);
+    connect(calendar_, &QCalendarWidget::activated, this, choose);
+  }
   Mirror();
 }
 
-foundation::DateTime DateTimeWidget::Picked() const {
-  if (control_.kind == forms::Kind::DatePicker) {
-    return foundation::DateFromParts(date().year(), date().month(), date().day());
-  }
-  return foundation::TimeFromParts(time().hour(), time().minute(), time().second());
-}
-
 void DateTimeWidget::Mirror() {
+  const bool moved = !shown_ || shown_->moment != control_.moment;
   if (!TakeProperties()) return;
   const forms::Properties& now = control_;
   Dress(*this, control_, PlaceInPixels(control_));
-  const QString longest = locale().toString(QDate(2026, 9, 30), QStringLiteral("d/MMMM/yyyy"));
-  setFont(Fitted(ToQt(now.font), longest, width() - kButtons));
-  lineEdit()->setFont(font());
-  mirroring_ = true;
-  const foundation::DateTimeFields at = foundation::FieldsOf(now.moment);
-  if (control_.kind == forms::Kind::DatePicker) {
-    setDate(QDate(at.year, at.month, at.day));
-  } else {
-    setTime(QTime(at.hour, at.minute, at.second));
+  if (!now.refusal.empty()) {
+    setToolTip(ToQt(now.refusal));
+    setAccessibleDescription(ToQt(now.refusal));
   }
-  mirroring_ = false;
+  setFont(Fitted(ToQt(now.font), Longest(), width() - kButtons));
+  lineEdit()->setFont(font());
+  if (moved) ShowMoment();
+  update();
+}
+
+QString DateTimeWidget::Longest() const {
+  if (!IsDate()) return text();
+  const QFontMetrics metrics(ToQt(control_.font));
+  QString longest;
+  for (int month = 1; month <= 12; ++month) {
+    const QString date = u"30/%1/2026"_s.arg(ToQt(foundation::MonthName(month)));
+    if (metrics.horizontalAdvance(date) > metrics.horizontalAdvance(longest)) longest = date;
+  }
+  return longest;
+}
+
+void DateTimeWidget::ShowMoment() {
+  lineEdit()->setText(ToQt(forms::MomentText(control_)));
+  typed_ = false;
+}
+
+// Month names are in composed form; what is typed or pasted need not be, nor be free of line ends.
+bool DateTimeWidget::Take() {
+  if (!typed_) return true;
+  const QString typed = text().simplified().normalized(QString::NormalizationForm_C);
+  dispatch_([&] { forms::TypeMoment(control_, typed.toStdString()); });
+  if (!control_.refusal.empty()) return false;
+  ShowMoment();
+  return true;
+}
+
+// Steps the part at the cursor or at the start of the selection.
+void DateTimeWidget::stepBy(int steps) {
+  const int part = PartAtCursor();
+  if (!Take()) return;
+  dispatch_([&] { forms::StepMoment(control_, part, steps); });
+  SelectPart(part);
+}
+
+bool DateTimeWidget::Separates(QChar character) const {
+  return IsDate() ? character == u'/' : character == u':' || character == u' ';
+}
+
+int DateTimeWidget::PartAtCursor() const {
+  const int start = lineEdit()->selectionStart();
+  const QString before = text().first(start < 0 ? lineEdit()->cursorPosition() : start);
+  const auto part = std::ranges::count_if(before, [this](QChar c) { return Separates(c); });
+  return qMin(static_cast<int>(part), kLastPart);
+}
+
+void DateTimeWidget::SelectPart(int part) {
+  const QString shown = text();
+  int begin = 0;
+  while (part > 0) part -= Separates(shown[begin++]) ? 1 : 0;
+  int end = begin;
+  while (end < shown.size() && !Separates(shown[end])) ++end;
+  lineEdit()->setSelection(begin, end - begin);
+}
+
+void DateTimeWidget::DropDown() {
+  Take();
+  const foundation::DateTimeFields at = foundation::FieldsOf(control_.moment);
+  calendar_->DropDown(QDate(at.year, at.month, at.day));
 }
 
 // The style leaves the arrows to us: one that drops the calendar down, or two that step.
 void DateTimeWidget::paintEvent(QPaintEvent* event) {
-  QDateTimeEdit::paintEvent(event);
+  QAbstractSpinBox::paintEvent(event);
   QPainter painter(this);
   const double middle = height() / 2.0, x = width() - kArrowInset;
-  if (control_.kind == forms::Kind::DatePicker) {
+  if (IsDate()) {
     PaintArrow(painter, {x, middle + 1}, 1);
   } else {
     PaintArrow(painter, {x, middle - 5}, -1);
     PaintArrow(painter, {x, middle + 5}, 1);
   }
+  if (control_.refusal.empty()) return;
+  painter.setPen(QPen(ToQt(palette::kError), 2));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kRadius, kRadius);
 }
 
-// The toolkit drops the calendar down for the mouse alone, so its arrow is pressed for Alt and
-// Down, and for F4, as in a drop-down list.
 void DateTimeWidget::keyPressEvent(QKeyEvent* event) {
   const bool drop = event->key() == Qt::Key_F4 ||
                     (event->key() == Qt::Key_Down && event->modifiers() & Qt::AltModifier);
-  if (!drop || !calendarPopup()) {
-    QDateTimeEdit::keyPressEvent(event);
+  if (drop && IsDate()) {
+    DropDown();
     return;
   }
-  const QPointF arrow(width() - kArrowInset, height() / 2.0);
-  QMouseEvent press(QEvent::MouseButtonPress, arrow, mapToGlobal(arrow), Qt::LeftButton,
-                    Qt::LeftButton, Qt::NoModifier);
-  mousePressEvent(&press);
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) Take();
+  QAbstractSpinBox::keyPressEvent(event);
+}
+
+// Only presses beside the text come here.
+void DateTimeWidget::mousePressEvent(QMouseEvent* event) {
+  if (IsDate()) {
+    DropDown();
+  } else {
+    QAbstractSpinBox::mousePressEvent(event);
+  }
+}
+
+// Unless the mouse places the cursor, typing replaces the text; a half-typed one is kept.
+void DateTimeWidget::focusInEvent(QFocusEvent* event) {
+  QAbstractSpinBox::focusInEvent(event);
+  const bool byKey =
+      event->reason() != Qt::MouseFocusReason && event->reason() != Qt::PopupFocusReason;
+  if (byKey && !typed_) selectAll();
+}
+
+// A menu or another window only borrows the focus.
+void DateTimeWidget::focusOutEvent(QFocusEvent* event) {
+  QAbstractSpinBox::focusOutEvent(event);
+  if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason) {
+    return;
+  }
+  Take();
 }
 
 // Turned only while it has the focus.
 void DateTimeWidget::wheelEvent(QWheelEvent* event) {
   if (hasFocus()) {
-    QDateTimeEdit::wheelEvent(event);
+    QAbstractSpinBox::wheelEvent(event);
   } else {
     event->ignore();
   }

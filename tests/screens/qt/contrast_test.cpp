@@ -13,6 +13,7 @@
 #include <map>
 #include <set>
 
+#include "forms/moment_picker.h"
 #include "screens/day_sky.h"
 #include "screens/palette.h"
 #include "screens/qt/control_widget.h"
@@ -152,6 +153,7 @@ TEST(Contrast, IsEnoughOnEveryScreen) {
     list->items->SetListIndex(0);
   }
   program.host.WindowOf(program.Timetable());
+  forms::TypeMoment(program.Timetable().DT1, "soon");                         // its remark shows
   for (int tick = 0; tick < 100; ++tick) program.Timetable().Timer1_Timer();  // its sun is at rest
   for (forms::Form* form : std::initializer_list<forms::Form*>{
            &program.dashboard, &program.Timetable(), &program.About(), &program.Preview(),
