@@ -13,7 +13,7 @@ endforeach()
 add_library(durvela_options INTERFACE)
 target_compile_features(durvela_options INTERFACE cxx_std_20)
 target_compile_options(durvela_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
   # Rows of control tables name only what differs from the defaults.
   -Wno-missing-field-initializers
   # GCC 12 warns of an overlap in std::string that does not exist (its bug 105651).
