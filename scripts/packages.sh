@@ -3,7 +3,7 @@
 run_packages=(cmake g++ ninja-build qt6-base-dev qt6-wayland libjpeg62-turbo-dev fonts-noto-core
   fonts-lohit-deva fonts-lohit-mlym fonts-lohit-knda)
 display_packages=(xvfb xauth)
-test_packages=(libgtest-dev locales appstream desktop-file-utils xvfb dbus-daemon at-spi2-core
+test_packages=(libgtest-dev locales tzdata appstream desktop-file-utils xvfb dbus-daemon at-spi2-core
   python3-gi gir1.2-atspi-2.0)
 bench_packages=(libbenchmark-dev libhpdf-dev libnova-dev libsqlite3-dev libswe-dev)
 package_packages=(dpkg-dev file lintian)
