@@ -113,16 +113,20 @@ TEST(BirthAttributes, ClassesFollowTheSyllables) {
   const std::map<Text, Text> sounds = {{"GARUD", "AEO"},  {"MARJAR", "KG"}, {"SIMHA", "CJ"},
                                        {"SWAN", "ADT"},   {"SARP", "DNT"},  {"UUDAR", "BMP"},
                                        {"MRIG", "LRVWY"}, {"MESH", "HS"}};
-  Text others;
+  Text others, syllables;
   for (Number nak = 1; nak <= 27; ++nak) {
     for (Number quarter = 1; quarter <= 4; ++quarter) {
       const Text syllable = details.getNaamAkshar(nak, quarter);
+      if (nak % 8 == 1) syllables += syllable + ", ";
       const Text first = syllable.empty() ? "-" : syllable.substr(0, 1);
       if (sounds.at(details.getNaamAksharVarga(nak, quarter)).find(first) != Text::npos) continue;
       others += std::to_string(nak) + "/" + std::to_string(quarter) + first + " ";
     }
   }
   EXPECT_EQ(others, "13/2D 26/2T 26/4J 27/2- ");
+  EXPECT_EQ(syllables,
+            "Choo (Chooha), Che (Chetan), Cho (Choudhary), Laa (Laara), Dee, Doo, Day, Do, "
+            "Naa, Nee, Noo, Ne, Se, So, Daa, Dee, ");
 }
 
 TEST(BirthAttributes, TablesAreComplete) {

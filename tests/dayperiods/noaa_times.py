@@ -74,6 +74,6 @@ if __name__ == "__main__":
         for year, month, day in ((2011, 3, 5), (2019, 6, 21), (2026, 11, 22)):
             rise, set_ = (event(year, month, day, latitude, longitude, hours, s) for s in (1, -1))
             print(f'{{{day}, {month}, {year}, "{lat}", "{lon}", "{zone}", {rise:.3f}, {set_:.3f}}},')
-    for latitude, *day in ((70, 2011, 6, 21), (68, 1987, 12, 22), (-67.5, 2012, 12, 21)):
+    for latitude, *day in ((70, 2011, 6, 21), (75, 1987, 12, 22), (-67.5, 2012, 12, 21)):
         first, last = days_without_a_crossing(latitude, date(*day))
         print(f"// {latitude}: {first} to {last}")

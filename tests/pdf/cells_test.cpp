@@ -62,17 +62,18 @@ using Cells = PaperTest;
 
 TEST_F(Cells, WrapAtBlanks) {
   // The positions of a cell's lines, and the lines.
-  const auto lines = [](std::string_view text) {
+  const auto lines = [](std::string_view text, double width = 36) {
     Paper paper;
     paper.printer.PDFSetFont(1, 10, 0);
     paper.printer.PDFSetBorder(0);
-    paper.printer.PDFCell(text, 60, 100, 36, 12, "");
+    paper.printer.PDFCell(text, 60, 100, width, 12, "");
     const std::string content = paper.Content();
     return Between(content, "Tf\n", ".00 ") + Between(content, "Td\n", " Tj");
   };
   ExpectRows(lines, Row("ab cd ef", "6060(ab cd)(ef)"), Row("abcdefghi", "6360(abcdef)(ghi)"),
              Row("abcdef ghi", "6060(abcdef)(ghi)"), Row("", "60()"), Row("a\r\n", "60(a~)"),
              Row("ab\r\ncd", "60(ab\ncd)"), Row("       x", "6060(      )(x)"));
+  EXPECT_EQ(lines("ab", 7), "636360(a)(b)()");  // no character fits
 }
 
 TEST_F(Cells, NeedTheBorderSetForEachCell) {
