@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "foundation/error.h"
+#include "foundation/letters.h"
 #include "foundation/text.h"
 
 namespace foundation {
@@ -101,7 +102,7 @@ const std::string& WeekdayName(int weekday) {
 std::string ShortWeekdayName(int weekday) {
   const std::string& full = WeekdayName(weekday);
   const std::string& name = UserNames().shortWeekdays[static_cast<std::size_t>(weekday - 1)];
-  return name.empty() ? std::string(FirstCharacters(full, 3)) : name;
+  return name.empty() ? std::string(FirstLetters(full, 3)) : name;
 }
 
 const std::string& WeekdayNameOfWeek(int day) {

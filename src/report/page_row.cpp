@@ -6,9 +6,9 @@
 #include "dayperiods/sunrise_at.h"
 #include "engine/record_chart.h"
 #include "foundation/bounded_array.h"
+#include "foundation/letters.h"
 #include "foundation/locale_names.h"
 #include "foundation/numbers.h"
-#include "foundation/text.h"
 #include "foundation/zzVorin.h"
 
 namespace report {
@@ -70,7 +70,7 @@ void FillRow(pk_Durvela& page, int row, foundation::DateTime moment,
 
   const std::string& weekday = foundation::WeekdayNameOfWeek(foundation::WeekdayOf(moment));
   page.lblDate[row].caption =
-      NumberText(at.day) + "-" + std::string(foundation::FirstCharacters(weekday, 3));
+      NumberText(at.day) + "-" + std::string(foundation::FirstLetters(weekday, 3));
   const dayperiods::SunriseRows sun = SunOf(at, session.Current());
   page.lblSR[row].caption = DecimalToTimeText(sun.clockRise);
   page.lblSS[row].caption = DecimalToTimeText(sun.clockSet);

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cwctype>
 
+#include "foundation/letters.h"
 #include "foundation/modConvertFx.h"
 #include "foundation/zzVorin.h"
 #include "support/errors.h"
@@ -24,6 +25,25 @@ TEST(Text, CountsCharactersNotBytes) {
              Row("a\xC3", 2U), Row("\x80\xFF", 2U), Row("\xE0\xA4z", 3U));
   ExpectRows(LastCharacter, Row("", ""), Row("77.13E", "E"), Row("वि", "ि"), Row("a\x80", "\x80"));
   ExpectRows(FirstCharacters, Row("शनिवार", 3, "शनि"), Row("ab", 3, "ab"));
+}
+
+// Names of days, divided as readers of each language divide them.
+TEST(Text, CountsALetterWithItsMarksAndConjunctsAsOne) {
+  ExpectRows([](std::string_view text) { return FirstLetters(text, 3); }, Row("Wednesday", "Wed"),
+             Row("गुरुवार", "गुरुवा"), Row("शुक्रवार", "शुक्रवा"), Row("मंगलवार", "मंगल"),
+             Row("শুক্ৰবাৰ", "শুক্ৰবা"), Row("ಶುಕ್ರವಾರ", "ಶುಕ್ರವಾ"), Row("శుక్రవారం", "శుక్రవా"),
+             Row("വെള്ളിയാഴ്‌ച", "വെള്ളിയാ"), Row("செவ்வாய்", "செவ்வா"),
+             Row("พฤหัสบดี", "พฤหั"), Row("ព្រហស្បតិ៍", "ព្រហស្ប"),
+             Row("\u1109\u116E\u110B\u116D\u110B\u1175\u11AF\u1109",
+                 "\u1109\u116E\u110B\u116D\u110B\u1175\u11AF"),
+             Row("E\u0301a\uFE0Fbc", "E\u0301a\uFE0Fb"), Row("", ""));
+  // A joiner keeps a conjunct together, a non-joiner takes it apart; a mark with nothing before it
+  // is a letter, as is a stray byte.
+  ExpectRows([](std::string_view text) { return FirstLetters(text, 1); },
+             Row("क्\u200Dषण", "क्\u200Dष"), Row("क्\u200Cषण", "क्\u200C"), Row("\u093Fक", "\u093F"),
+             Row("\x93k", "\x93"), Row("क्।", "क्"));
+  EXPECT_EQ(FirstLetters("क", 0), "");
+  EXPECT_ERROR(InvalidCall, FirstLetters("क", -1));
 }
 
 TEST(Text, ChangesCase) {

@@ -79,6 +79,14 @@ TEST_F(ReportPage, CountsWeekdaysFromTheUsersFirst) {
   EXPECT_EQ(Drawn("Print 1125 1320 5-Sun"), 1);  // a Saturday
 }
 
+TEST_F(ReportPage, ShortensWeekdaysToThreeLetters) {
+  const support::UserNamesScope scope(support::Hindi());
+  Make(DateFromParts(2026, 11, 26), DateFromParts(2026, 11, 27));
+  EXPECT_EQ(Drawn("Print 1125 1320 26-गुरुवा"), 1);
+  EXPECT_EQ(Drawn("Print 1125 1590 27-शुक्रवा"), 1);
+  EXPECT_EQ(foundation::ShortWeekdayName(5), "गुरुवा");
+}
+
 TEST_F(Report, MakesAPageAMonth) {
   const auto made = [&](double from, double to) {
     host.target.calls.clear();
