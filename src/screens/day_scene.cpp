@@ -14,8 +14,14 @@ std::string ShortTime(double hours) {
   return foundation::DecimalToTimeText(hours, 24, true);
 }
 
+// The next whole minute, unless the time as shown to the second is one.
+std::string ShortEnd(double hours) {
+  const double shown = foundation::TimeTextToDecimal(foundation::DecimalToTimeText(hours));
+  return ShortTime(shown + 59.0 / 3600);
+}
+
 DayScene::PeriodTimes PeriodOf(const dayperiods::DaylightSegments& day, int segment) {
-  return {segment, ShortTime(day.Boundary(segment)) + " - " + ShortTime(day.Boundary(segment + 1))};
+  return {segment, ShortTime(day.Boundary(segment)) + " - " + ShortEnd(day.Boundary(segment + 1))};
 }
 
 // Where the sun stands, by the whole minute: more would not be seen.

@@ -12,7 +12,7 @@ struct DayScene {
   // One of the three periods.
   struct PeriodTimes {
     int segment = 0;    // 1 to 8 from sunrise
-    std::string times;  // "09:38 - 11:05"
+    std::string times;  // "09:38 - 11:06": its begin rounded down, its end up
     friend bool operator==(const PeriodTimes&, const PeriodTimes&) = default;
   };
 

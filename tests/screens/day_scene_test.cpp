@@ -6,9 +6,12 @@
 
 #include "screens/day_sky.h"
 #include "support/session_at.h"
+#include "support/table.h"
 
 namespace screens {
 namespace {
+
+using support::Row;
 
 DayScene SceneAt(int hour, int minute, const char* latitude = "28.40N") {
   return SceneOf(foundation::DateFromParts(2011, 3, 5) + foundation::TimeFromParts(hour, minute, 0),
@@ -23,8 +26,25 @@ std::string WordsAt(int hour, const char* latitude = "28.40N") {
 TEST(DayScene, ShowsTheCalendarDayAlsoBeforeSunrise) {
   for (const int hour : {0, 6, 12, 23}) {
     EXPECT_EQ(WordsAt(hour),
-              "06:43 18:23\nDurvela\n09:38 - 11:05\nGulik\n16:55 - 18:23\nYum\n14:00 - 15:28");
+              "06:43 18:23\nDurvela\n09:38 - 11:06\nGulik\n16:55 - 18:23\nYum\n14:00 - 15:28");
   }
+}
+
+// Days whose periods were worked out independently, to the second.
+TEST(DayScene, RoundsPeriodsOutward) {
+  const auto labels = [](const char* latitude, const char* longitude, int year, int month,
+                         int day) {
+    const DayScene scene = SceneOf(foundation::DateFromParts(year, month, day) + 0.5,
+                                   support::SessionAt(latitude, longitude, "82.30E"));
+    return scene.durvela.times + ", " + scene.gulik.times + ", " + scene.yum.times;
+  };
+  ExpectRows(labels,
+             // 09:49:15 to 11:06:52, 16:17:22 to 17:35:00, 13:42:07 to 14:59:45
+             Row("28.40N", "77.13E", 2011, 1, 1, "09:49 - 11:07, 16:17 - 17:35, 13:42 - 15:00"),
+             // 12:09:30 to 13:28:08, 10:50:52 to 12:09:30, 08:13:37 to 09:32:15
+             Row("28.40N", "77.13E", 2011, 11, 30, "12:09 - 13:29, 10:50 - 12:10, 08:13 - 09:33"),
+             // Whole minutes throughout.
+             Row("19.04N", "72.52E", 2037, 3, 13, "11:18 - 12:48, 08:18 - 09:48, 15:48 - 17:18"));
 }
 
 TEST(DayScene, PutsTheSunWhereItStands) {
