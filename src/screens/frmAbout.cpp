@@ -44,7 +44,7 @@ void frmAbout::picS_MouseMove() {
 
 void frmAbout::Timer1_Timer() {
   picS.place.top -= kStep;
-  if (picS.place.top <= -picS.place.height) picS.place.top = about_layout::kCreditsTop;
+  if (picS.place.top <= -picS.place.height) picS.place.top = Picture1.place.height;
 }
 
 void frmAbout::cmdOK_Click() {

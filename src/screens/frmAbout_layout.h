@@ -16,7 +16,7 @@ using namespace layout;
 
 inline constexpr float kWidth = 520;  // logical pixels
 inline constexpr float kHeight = 420;
-inline constexpr float kCreditsTop = 2592;  // twips; where the credits come in
+inline constexpr float kCreditsHeight = 2592;  // twips, of their frame
 
 inline Properties Head() {
   return {.place = At(0, 0, kWidth, 96), .backColour = palette::kEarth};
@@ -44,10 +44,11 @@ inline Properties Version() {
 }
 
 inline Properties CreditsWindow() {
-  return {.place = {24 * kTwipsPerPixel, 120 * kTwipsPerPixel, 472 * kTwipsPerPixel, kCreditsTop},
-          .spokenName = "Credits",
-          .backColour = palette::kPaper,
-          .borderColour = palette::kRule};
+  return {
+      .place = {24 * kTwipsPerPixel, 120 * kTwipsPerPixel, 472 * kTwipsPerPixel, kCreditsHeight},
+      .spokenName = "Credits",
+      .backColour = palette::kPaper,
+      .borderColour = palette::kRule};
 }
 
 inline Properties Credits(forms::Control& window) {

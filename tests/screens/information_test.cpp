@@ -55,13 +55,30 @@ TEST(About, ScrollsItsCreditsUntilTheMouseIsOverThem) {
   const float top = credits.top;
   form.Timer1.onTimer();
   EXPECT_EQ(credits.top, top - 5);
-  credits.top = 5 - credits.height;
+  credits.top = 6 - credits.height;
   form.Timer1.onTimer();
-  EXPECT_EQ(credits.top, 2592);
+  EXPECT_EQ(credits.top, 1 - credits.height);  // a little of them still shows
+  form.Timer1.onTimer();
+  EXPECT_EQ(credits.top, 2592);  // the foot of their frame
   form.picS.onMouseMove({});
   EXPECT_FALSE(form.Timer1.enabled);
   form.Picture1.onMouseMove({});
   EXPECT_TRUE(form.Timer1.enabled);
+}
+
+TEST(About, BringsItsCreditsInAtTheFootOfTheirFrameAtAnySize) {
+  Fakes fakes;
+  frmAbout form(fakes.services);
+  form.Form_Load();
+  forms::Place& credits = form.picS.place;
+  form.scaleHeight *= 2;
+  form.Form_Resize();
+  const float top = credits.top;
+  form.Timer1.onTimer();
+  EXPECT_EQ(credits.top, top - 5);
+  credits.top = -credits.height;
+  form.Timer1.onTimer();
+  EXPECT_EQ(credits.top, 2 * 2592);
 }
 
 }  // namespace
