@@ -25,8 +25,9 @@ constexpr double kWidth = 328;
 
 // Of the arc.
 constexpr Point kFoot = {164, 168};
-constexpr double kInner = 84, kOuter = 128, kPart = 180.0 / dayperiods::kSegmentsOfDaylight;
-constexpr double kGap = 1;  // degrees between the parts
+constexpr double kInner = 98, kOuter = 140, kPart = 180.0 / dayperiods::kSegmentsOfDaylight;
+constexpr double kGap = 1;    // degrees between the parts
+constexpr double kLine = 19;  // from one period's times to the next
 
 // Of the table.
 constexpr double kRowHeight = 30, kNameWidth = 76, kDays = 7;
@@ -103,20 +104,20 @@ forms::PicturePtr SampleDay(const std::vector<Period>& periods) {
     DrawPart(*picture, segment, free ? palette::kRule : LookOf(*period).colour,
              free ? palette::kInk : palette::kWhite);
   }
-  double line = kFoot.y - 10 - 20 * static_cast<double>(periods.size() - 1);
+  double line = kFoot.y - 10 - kLine * static_cast<double>(periods.size() - 1);
   for (const Period period : periods) {
     const PeriodLook& look = LookOf(period);
-    const DayScene::PeriodTimes& times = TimesOf(scene, period);
-    const std::string name = periods.size() == 1 ? std::string(look.name) + " " : "";
-    Write(*picture, name + times.times, {kFoot.x, line}, Alignment::Centre, 14, look.colour, true);
-    line += 20;
+    Write(*picture, std::string(look.name) + " " + TimesOf(scene, period).times, {kFoot.x, line},
+          Alignment::Centre, 13, look.colour, true);
+    line += kLine;
   }
   picture->items.emplace_back(
       forms::Outline{Path().MoveTo({20, kFoot.y}).LineTo({kWidth - 20, kFoot.y}),
                      forms::kTransparent,
                      {palette::kQuiet, 1}});
-  Write(*picture, scene.sunrise, {36, 184}, Alignment::Left, 12.5, palette::kInk);
-  Write(*picture, scene.sunset, {kWidth - 36, 184}, Alignment::Right, 12.5, palette::kInk);
+  constexpr double kMiddle = (kInner + kOuter) / 2;
+  Write(*picture, scene.sunrise, {kFoot.x - kMiddle, 184}, Alignment::Centre, 12.5, palette::kInk);
+  Write(*picture, scene.sunset, {kFoot.x + kMiddle, 184}, Alignment::Centre, 12.5, palette::kInk);
   Write(*picture, foundation::WeekdayName(foundation::WeekdayOf(Day())) + ", 5-3-2011, Delhi",
         {kFoot.x, 204}, Alignment::Centre, 12.5, palette::kQuiet);
   return picture;

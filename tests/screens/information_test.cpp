@@ -39,6 +39,9 @@ TEST(PeriodPictures, TellTheTableAndTheSampleDay) {
             "Sun Mon Tue Wed Thu Fri Sat\nDurvela 8 2 7 5 6 4 3\nYum 5 4 3 2 8 7 6");
   EXPECT_EQ(WordsOf(*SampleDay({Period::Gulik})),
             "1\n2\n3\n4 5\n6\n7\n8\nGulik 16:55 - 18:23\n06:43 18:23\nSaturday, 5-3-2011, Delhi");
+  EXPECT_EQ(WordsOf(*SampleDay({Period::Durvela, Period::Gulik, Period::Yum})),
+            "1\n2\n3\n4 5\n6\n7\n8\nDurvela 09:38 - 11:06\nGulik 16:55 - 18:23\n"
+            "Yum 14:00 - 15:28\n06:43 18:23\nSaturday, 5-3-2011, Delhi");
 }
 
 TEST(About, NamesWhoseWorkItUses) {
