@@ -58,7 +58,7 @@ enum class Look {
   Flat,     // a button without an edge
 };
 
-enum class Key { Up, Down, Enter, Escape, Other };
+enum class Key { Up, Down, Left, Right, Home, End, Enter, Escape, Other };
 
 // A key that was pressed; whoever has dealt with it says so, and nobody else sees it.
 struct KeyPress {

@@ -59,6 +59,33 @@ void frmMain::Form_QueryUnload(bool& cancel) {
   if (answer == foundation::MessageAnswer::Yes) services_.host.EndProgram();
 }
 
+// Arrows, Home and End move along the menu.
+void frmMain::Form_KeyDown(forms::KeyPress& press) {
+  if (activeControl == nullptr) return;
+  press.handled = true;
+  switch (press.key) {
+    case forms::Key::Left:
+      return FocusItem(activeControl->index - 1, -1);
+    case forms::Key::Right:
+      return FocusItem(activeControl->index + 1, 1);
+    case forms::Key::Home:
+      return FocusItem(PIC.LBound(), 1);
+    case forms::Key::End:
+      return FocusItem(PIC.UBound(), -1);
+    default:
+      press.handled = false;
+  }
+}
+
+// The first item, in the direction of the step, that can be used; none if there is none.
+void frmMain::FocusItem(int first, int step) {
+  for (int i = first; i >= PIC.LBound() && i <= PIC.UBound(); i += step) {
+    if (!PIC[i].enabled) continue;
+    activeControl = &PIC[i];
+    return;
+  }
+}
+
 void frmMain::Form_MouseMove() {
   Image1_MouseMove();
 }

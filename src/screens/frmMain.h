@@ -61,6 +61,7 @@ class frmMain : public ScaledForm {
   void Form_Load() override;
   void Form_Resize() override;
   void Form_QueryUnload(bool& cancel) override;
+  void Form_KeyDown(forms::KeyPress& press) override;
   void Form_MouseMove() override;
   void Form_MouseLeave() override;
 
@@ -71,6 +72,7 @@ class frmMain : public ScaledForm {
   void Image1_MouseMove();
 
  private:
+  void FocusItem(int first, int step);
   void ShowSky();
 
   Services services_;

@@ -21,6 +21,14 @@ forms::Key KeyOf(const QKeyEvent& event) {
       return forms::Key::Up;
     case Qt::Key_Down:
       return forms::Key::Down;
+    case Qt::Key_Left:
+      return forms::Key::Left;
+    case Qt::Key_Right:
+      return forms::Key::Right;
+    case Qt::Key_Home:
+      return forms::Key::Home;
+    case Qt::Key_End:
+      return forms::Key::End;
     case Qt::Key_Return:
     case Qt::Key_Enter:
       return forms::Key::Enter;

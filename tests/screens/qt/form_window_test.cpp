@@ -64,5 +64,29 @@ TEST_F(DashboardWindow, OpensMenuItemsByTheirCaptionToo) {
   EXPECT_EQ(opened, 1);
 }
 
+TEST_F(DashboardWindow, MovesAlongItsMenuByKeys) {
+  std::string opened;
+  for (const int item : {1, 2, 4, 6}) {
+    form.SetMenuItem(item, [&, item] { opened += std::to_string(item); });
+  }
+  form.activeControl = &form.PIC[2];
+  window.Mirror();
+  window.activateWindow();
+  QApplication::processEvents();
+  const auto press = [&](std::initializer_list<Qt::Key> keys) {
+    for (const Qt::Key key : keys) QTest::keyClick(QApplication::focusWidget(), key);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    return std::exchange(opened, "");
+  };
+  EXPECT_EQ(press({Qt::Key_Right}), "4");  // over one that cannot be used
+  EXPECT_EQ(press({Qt::Key_Right, Qt::Key_Right}), "6");
+  EXPECT_EQ(press({Qt::Key_Left, Qt::Key_Left}), "2");
+  EXPECT_EQ(press({Qt::Key_Left, Qt::Key_Left}), "1");
+  EXPECT_EQ(press({Qt::Key_End}), "6");
+  EXPECT_EQ(press({Qt::Key_Home}), "1");
+  EXPECT_EQ(press({Qt::Key_Up, Qt::Key_Down}), "1");
+  EXPECT_EQ(press({Qt::Key_Tab}), "2");
+}
+
 }  // namespace
 }  // namespace screens::qt
