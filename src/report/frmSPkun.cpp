@@ -29,7 +29,7 @@ frmSPkun::frmSPkun(Services services)
     : Form("frmSPkun", "Durvela - Print Preview", preview_layout::kWidth * kTwips,
            preview_layout::kHeight * kTwips),
       services_(services) {
-  minimumWidth = scaleWidth * 0.6F;
+  minimumWidth = cmdPrint.place.left + cmdPrint.place.width + preview_layout::kInset * kTwips;
   minimumHeight = scaleHeight * 0.5F;
   backColour = preview_layout::palette::kDesk;
 

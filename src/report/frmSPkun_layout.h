@@ -16,7 +16,9 @@ using forms::layout::kTwipsPerPixel;
 
 inline constexpr float kWidth = 1100;  // logical pixels
 inline constexpr float kHeight = 760;
-inline constexpr float kToolHeight = 56, kPanelWidth = 260, kBar = 16;
+inline constexpr float kToolHeight = 56, kBar = 16;
+inline constexpr float kInset = 16;        // of the tool bar, at both ends
+inline constexpr float kPanelWidth = 268;  // whole steps shut it to its button's width
 inline constexpr float kPanelGap = 200;    // twips, between panel and page
 inline constexpr int kSlideInterval = 10;  // milliseconds
 

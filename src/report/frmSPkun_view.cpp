@@ -92,9 +92,11 @@ void frmSPkun::cmdShow_Click() {
   OpenPanel(true);
 }
 
-// The keyboard does not stay behind on what goes out of sight.
+// The keyboard does not stay behind on what goes out of sight. The list shows until the panel is
+// shut.
 void frmSPkun::OpenPanel(bool open) {
   cmdHide.visible = lstPage.tabStop = open;
+  if (open) lstPage.visible = true;
   cmdShow.visible = !open;
   forms::Control& gone = open ? cmdShow : cmdHide;
   if (activeControl == &gone || (activeControl == &lstPage && !open)) {
@@ -105,7 +107,7 @@ void frmSPkun::OpenPanel(bool open) {
 void frmSPkun::Timer1_Timer() {
   ResizePanel(picLeft.place.width - kSlideStep);
   if (picLeft.place.width > cmdHide.place.width) return;
-  Timer1.enabled = false;
+  Timer1.enabled = lstPage.visible = false;
   LayOut();
 }
 
@@ -145,8 +147,7 @@ void frmSPkun::LayOut() {
   picTOOL.place.width = scaleWidth;
   const float above = picTOOL.place.height;
   const float below = std::max(0.0F, scaleHeight - above);
-  constexpr float kInset = 16 * kTwips;
-  lblProduct.place.left = scaleWidth - lblProduct.place.width - kInset;
+  lblProduct.place.left = scaleWidth - lblProduct.place.width - preview_layout::kInset * kTwips;
   lblProduct.visible = lblProduct.place.left > cmdPrint.place.left + cmdPrint.place.width;
   picLeft.place = {0, above, picLeft.place.width, below};
   lstPage.place.height = std::max(0.0F, below - lstPage.place.top);

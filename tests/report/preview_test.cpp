@@ -98,6 +98,14 @@ TEST_F(Preview, ScrollsByKeysAndByHand) {
   EXPECT_EQ(std::tuple(preview.VScroll1.enabled, page.top), std::tuple(false, 0));
 }
 
+TEST_F(Preview, ShowsItsButtonsWholeAtItsSmallest) {
+  preview.scaleWidth = preview.minimumWidth;
+  preview.Form_Resize();
+  const forms::Place& last = preview.cmdPrint.place;
+  EXPECT_LT(last.left + last.width, preview.picTOOL.place.width);
+  EXPECT_FALSE(preview.lblProduct.visible);
+}
+
 TEST_F(Preview, SlidesItsPanelInAndOut) {
   const forms::Place &panel = preview.picLeft.place, &button = preview.cmdHide.place;
   preview.activeControl = &preview.cmdHide;
@@ -105,7 +113,8 @@ TEST_F(Preview, SlidesItsPanelInAndOut) {
   EXPECT_EQ(std::tuple(preview.cmdShow.visible, preview.activeControl, preview.lstPage.tabStop),
             std::tuple(true, &preview.cmdShow, false));
   for (int i = 0; i < 100 && preview.Timer1.enabled; ++i) preview.Timer1.onTimer();
-  EXPECT_LE(panel.width, button.width);
+  EXPECT_EQ(std::tuple(panel.width, preview.cmdShow.place.left), std::tuple(button.width, 0));
+  EXPECT_FALSE(preview.lstPage.visible);
   EXPECT_EQ(preview.picPage.place.left, panel.width + 200);
   preview.cmdShow.onClick();
   preview.cmdHide.onClick();
@@ -113,7 +122,8 @@ TEST_F(Preview, SlidesItsPanelInAndOut) {
   preview.cmdShow.onClick();
   EXPECT_FALSE(preview.Timer1.enabled);
   for (int i = 0; i < 100 && preview.Timer2.enabled; ++i) preview.Timer2.onTimer();
-  EXPECT_GE(panel.width, preview.lstPage.place.width);
+  EXPECT_EQ(panel.width, preview.lstPage.place.width);
+  EXPECT_TRUE(preview.lstPage.visible);
   EXPECT_EQ(button.left, panel.width - button.width);
 }
 
