@@ -20,22 +20,22 @@ QString Name(forms::Colour colour) {
   return ToQt(colour).name();
 }
 
-// Fields to type into and choose from.
+// Fields to type into and choose from. Drop-downs in Qt's own dialogs keep Qt's look.
 QString InputStyle() {
   return QStringLiteral(
-             "screens--qt--TextBoxWidget, QComboBox, screens--qt--DateTimeWidget"
+             "screens--qt--TextBoxWidget, screens--qt--ComboBoxWidget, screens--qt--DateTimeWidget"
              " { background: %1; color: %2; border: 1px solid %3; border-radius: 10px;"
              " padding: 0 6px; selection-background-color: %4; }"
-             "screens--qt--TextBoxWidget:focus, QComboBox:focus, screens--qt--DateTimeWidget:focus,"
-             " QListView:focus { border: 2px solid %6; }"
-             "screens--qt--TextBoxWidget:focus, QComboBox:focus, screens--qt--DateTimeWidget:focus"
-             " { padding: 0 5px; }"
+             "screens--qt--TextBoxWidget:focus, screens--qt--ComboBoxWidget:focus,"
+             " screens--qt--DateTimeWidget:focus, QListView:focus { border: 2px solid %6; }"
+             "screens--qt--TextBoxWidget:focus, screens--qt--ComboBoxWidget:focus,"
+             " screens--qt--DateTimeWidget:focus { padding: 0 5px; }"
              "screens--qt--DateTimeWidget QLineEdit { background: transparent; border: none; }"
-             "QComboBox::drop-down, screens--qt--DateTimeWidget::up-button,"
+             "screens--qt--ComboBoxWidget::drop-down, screens--qt--DateTimeWidget::up-button,"
              " screens--qt--DateTimeWidget::down-button { border: none; width: 22px; }"
-             "QComboBox { combobox-popup: 0; }"
-             "QComboBox QAbstractItemView { selection-background-color: %5; }"
-             "QComboBox QAbstractItemView::item { min-height: 28px; }"
+             "screens--qt--ComboBoxWidget { combobox-popup: 0; }"
+             "screens--qt--ComboBoxWidget QAbstractItemView { selection-background-color: %5; }"
+             "screens--qt--ComboBoxWidget QAbstractItemView::item { min-height: 28px; }"
              "QListView { background: %1; color: %2; border: none; padding: 2px;"
              " selection-background-color: %4; selection-color: %2; }"
              "QListView:focus { padding: 0; }")

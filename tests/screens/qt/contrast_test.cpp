@@ -127,6 +127,19 @@ void CheckInside(QWidget& widget) {
   EXPECT_GE(contrast, 4.5) << widget.objectName().toStdString();
 }
 
+// Of a dialog of the toolkit, whose arrow the program's style leaves alone.
+TEST(Contrast, IsEnoughForTheArrowOfAPlainDropDown) {
+  QComboBox paper;
+  paper.addItem(QStringLiteral("A4"));
+  paper.resize(160, 32);
+  const QImage image = paper.grab().toImage();
+  const QRgb ground = image.pixel(100, 16);
+  double contrast = 1;
+  for (int x = 136; x < 154; ++x)
+    contrast = std::max(contrast, Contrast(image.pixel(x, 16), ground));
+  EXPECT_GE(contrast, 3);
+}
+
 void CheckForm(Program& program, forms::Form& form) {
   FormWindow& window = program.host.WindowOf(form);
   SCOPED_TRACE(form.name);
