@@ -52,7 +52,7 @@ void PicturePage::Print(std::string_view text) {
   if (y_ < picture.height) {
     picture.items.emplace_back(Lettering{.text = std::string(text),
                                          .at = {x_, y_ + measure_.Ascent(font_)},
-                                         .size = font_.size * kTwipsPerPoint,
+                                         .size = measure_.LetterSize(font_),
                                          .bold = font_.bold,
                                          .colour = colour_,
                                          .face = font_.name,

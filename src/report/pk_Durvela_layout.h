@@ -19,7 +19,7 @@ inline constexpr int kRows = 31;
 
 // The place line grows to the left from here.
 inline constexpr float kPlaceLineRight = 12390 + 75;
-inline constexpr float kPlaceLineLeft = 5400;  // at the most, in ever smaller letters
+inline constexpr float kPlaceLineLeft = 3700;  // at the most; the longest place then has 7.2 points
 inline constexpr float kPlaceLineSize = 11.25F;
 
 // A head in the legacy Hindi encoding.

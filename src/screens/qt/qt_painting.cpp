@@ -69,9 +69,11 @@ void Paint(QPainter& painter, const forms::Outline& outline) {
   }
 }
 
-// The measures of the legacy Hindi face, in its size, and how much smaller an open face has to be
-// to stand where it would: its letters reach further up and down.
-constexpr double kLegacyLine = 1.05, kLegacyAscent = 0.8, kLegacyScale = 0.78;
+// The measures of the legacy Hindi face, in its size. The letters of an open face reach further up
+// and down, so it must be smaller to fit in the same place, and smaller still in the title of a
+// page, between two rules.
+constexpr double kLegacyLine = 1.05, kLegacyAscent = 0.775;
+constexpr double kStandInScale = 0.78, kLargestStandIn = 270;  // twips
 
 bool IsStandInForLegacyHindi(const forms::Font& font) {
   static const bool installed =
@@ -85,14 +87,19 @@ QString Readable(std::string_view text, const forms::Font& font) {
   return screens::qt::ToQt(legacy ? foundation::FromLegacyHindi(text) : std::string(text));
 }
 
+// The font at a size in units of a picture, which are pixels while it is painted.
+QFont InPicture(forms::Font font, double size) {
+  font.size = static_cast<float>(size * kTwipsPerPixel / kTwipsPerPoint);
+  return screens::qt::ToQt(font);
+}
+
 void Paint(QPainter& painter, const forms::Lettering& lettering) {
-  forms::Font face = {.size = static_cast<float>(lettering.size * kTwipsPerPixel / kTwipsPerPoint),
-                      .bold = lettering.bold,
+  forms::Font face = {.bold = lettering.bold,
                       .italic = lettering.italic,
                       .underline = lettering.underline,
                       .strikethrough = lettering.strikethrough};
   if (!lettering.face.empty()) face.name = lettering.face;
-  const QFont font = screens::qt::ToQt(face);
+  const QFont font = InPicture(face, lettering.size);
   const QString text = Readable(lettering.text, face);
   const double width = QFontMetricsF(font).horizontalAdvance(text);
   QPointF at = ToQt(lettering.at);
@@ -133,8 +140,7 @@ QFont ToQt(const forms::Font& font) {
   } else if (!HasOpenStandIn(font.name)) {
     result.setFamilies(QStringList{ToQt(font.name)} + result.families());
   }
-  const double scale = IsStandInForLegacyHindi(font) ? kLegacyScale : 1;
-  result.setPixelSize(qMax(1, qRound(scale * font.size * kTwipsPerPoint / kTwipsPerPixel)));
+  result.setPixelSize(qMax(1, ToPixels(font.size * kTwipsPerPoint)));
   result.setBold(font.bold);
   result.setItalic(font.italic);
   result.setUnderline(font.underline);
@@ -161,8 +167,10 @@ QFont FittedInto(QFont font, const QString& text, QSizeF box) {
   return font;
 }
 
+// As it will be painted, at a size that is not rounded to whole pixels of the screen.
 double QtTextMeasure::TextWidth(std::string_view text, const forms::Font& font) const {
-  return QFontMetricsF(ToQt(font)).horizontalAdvance(Readable(text, font)) * kTwipsPerPixel;
+  const QFontMetricsF metrics(InPicture(font, LetterSize(font)));
+  return metrics.horizontalAdvance(Readable(text, font));
 }
 
 double QtTextMeasure::LineHeight(const forms::Font& font) const {
@@ -173,6 +181,11 @@ double QtTextMeasure::LineHeight(const forms::Font& font) const {
 double QtTextMeasure::Ascent(const forms::Font& font) const {
   if (IsStandInForLegacyHindi(font)) return kLegacyAscent * font.size * kTwipsPerPoint;
   return QFontMetricsF(ToQt(font)).ascent() * kTwipsPerPixel;
+}
+
+double QtTextMeasure::LetterSize(const forms::Font& font) const {
+  const double size = font.size * kTwipsPerPoint;
+  return IsStandInForLegacyHindi(font) ? qMin(kStandInScale * size, kLargestStandIn) : size;
 }
 
 void PaintPicture(QPainter& painter, const forms::Picture& picture, const QRectF& into) {

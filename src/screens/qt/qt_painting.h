@@ -39,6 +39,7 @@ class QtTextMeasure : public forms::TextMeasure {
   double TextWidth(std::string_view text, const forms::Font& font) const override;
   double LineHeight(const forms::Font& font) const override;
   double Ascent(const forms::Font& font) const override;
+  double LetterSize(const forms::Font& font) const override;
 };
 
 // The picture stretched to the rectangle.

@@ -1,0 +1,95 @@
+// The page of a report in dots, which are at first as many as the page has pixels: 15 twips each.
+
+#include <gtest/gtest.h>
+
+#include "report/page_files.h"
+#include "screens/qt/whole_program.h"
+#include "support/app_folder.h"
+
+namespace screens::qt {
+namespace {
+
+// The pages of some months of 2011 at a place.
+struct Pages : WholeProgram {
+  Pages(int first, int last, const char* place = "Delhi") {
+    frmDurvela& timetable = program.Timetable();
+    program.host.WindowOf(timetable);
+    timetable.lblCity.caption = place;
+    timetable.DT1.moment = foundation::DateFromParts(2011, first, 1);
+    timetable.DT2.moment = foundation::DateFromParts(2011, last + 1, 0);
+    timetable.cmdPreview_Click();
+  }
+
+  static QImage Page(int number) {
+    const forms::RasterPtr dots = DotsOf(*report::LoadPage(static_cast<std::int16_t>(number)));
+    return ImageOf(*dots).copy();
+  }
+
+  support::AppFolderScope folder;
+};
+
+// The box of what is drawn inside a box; of anything that is not quite white, or of ink.
+constexpr int kAnything = 230, kInk = 128;
+
+QRect Drawn(const QImage& page, const QRect& inside, int darkerThan) {
+  QRect drawn;
+  for (int y = inside.top(); y <= inside.bottom(); ++y) {
+    for (int x = inside.left(); x <= inside.right(); ++x) {
+      if (qGray(page.pixel(x, y)) < darkerThan) drawn |= QRect(x, y, 1, 1);
+    }
+  }
+  return drawn;
+}
+
+// Inside the frame of the head, between the rules at 270 and 690 twips.
+constexpr QRect kHead(49, 19, 808, 27);
+
+TEST(DrawnPage, KeepsItsTitleClearOfItsFrameAndAsLargeAsThatAllows) {
+  const Pages pages(1, 12);
+  for (int month = 1; month <= 12; ++month) {
+    const QImage page = Pages::Page(month);
+    EXPECT_EQ(Drawn(page, {0, 18, 909, 1}, kInk), QRect(48, 18, 811, 1));
+    EXPECT_EQ(Drawn(page, {0, 46, 909, 1}, kInk), QRect(48, 46, 811, 1));
+    const QRect head = Drawn(page, kHead, kAnything);
+    EXPECT_GT(head.top(), kHead.top()) << month;
+    EXPECT_LT(head.bottom(), kHead.bottom()) << month;
+    EXPECT_GE(head.height(), kHead.height() - 4) << month;
+  }
+}
+
+// The letters of "दिनमान" take three quarters of the 19 pixels that the head's size is.
+TEST(DrawnPage, HasHeadsAsLargeAsTheLegacyFaceDrawsThem) {
+  const Pages pages(1, 1);
+  EXPECT_NEAR(Drawn(Pages::Page(1), {300, 64, 75, 21}, kInk).height(), 14, 1);
+}
+
+TEST(DrawnPage, HasARowADayWithinItsColumns) {
+  const Pages pages(1, 2);
+  const QImage january = Pages::Page(1), february = Pages::Page(2);
+  const int lefts[] = {1125, 2250, 3420, 4500, 5730, 6810, 8010, 9120, 10320, 11460};
+  for (int row = 0; row < 31; ++row) {
+    for (const int left : lefts) {
+      // From a pixel before the column to a pixel behind its figures.
+      const QRect cell(left / 15 - 2, (1320 + 270 * row) / 15, 56, 18);
+      const QRect figures = Drawn(january, cell, kInk);
+      EXPECT_GT(figures.width(), 20) << row << ", " << left;
+      EXPECT_LT(figures.right(), cell.right()) << row << ", " << left;
+      EXPECT_EQ(Drawn(february, cell, kInk).isEmpty(), row >= 28) << row << ", " << left;
+    }
+  }
+}
+
+TEST(DrawnPage, FitsTheLongestPlaceBetweenTheTitleAndTheFrame) {
+  const Pages pages(
+      9, 9,  // the month with the longest name
+      "Rancho de Guadalupe(Guanajuato - Dolores Hidalgo Cuna de la Independencia Nacional)");
+  const QImage page = Pages::Page(1);
+  const QRect title = Drawn(page, {49, 19, 190, 27}, kAnything);
+  const QRect place = Drawn(page, {240, 19, 617, 27}, kAnything);
+  EXPECT_LT(title.right(), 235);
+  EXPECT_NEAR(place.left(), 247, 2);   // 3700 twips
+  EXPECT_NEAR(place.right(), 830, 2);  // 12465 twips
+}
+
+}  // namespace
+}  // namespace screens::qt
