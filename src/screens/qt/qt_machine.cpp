@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDesktopServices>
-#include <QLocale>
 #include <QMessageBox>
 #include <QUrl>
 #include <QWindow>
@@ -73,8 +72,7 @@ void QtBrowser::Open(std::string_view address) {
   QDesktopServices::openUrl(QUrl(screens::qt::ToQt(address)));
 }
 
-foundation::LocaleNames SystemNames() {
-  const QLocale locale = QLocale::system();
+foundation::LocaleNames SystemNames(const QLocale& locale) {
   if (locale.language() == QLocale::C) return foundation::EnglishNames();
   foundation::LocaleNames names;
   for (int month = 1; month <= 12; ++month) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QLocale>
 #include <functional>
 
 #include "foundation/locale_names.h"
@@ -37,7 +38,8 @@ class QtBrowser : public foundation::Browser {
   void Open(std::string_view address) override;
 };
 
-// Months and weekdays of the user's locale.
-foundation::LocaleNames SystemNames();
+// Months and weekdays of a locale, by default the user's; the English ones where it has no
+// language.
+foundation::LocaleNames SystemNames(const QLocale& locale = QLocale::system());
 
 }  // namespace screens::qt
