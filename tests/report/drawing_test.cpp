@@ -4,7 +4,6 @@
 
 #include "bitmap/libjpeg_library.h"
 #include "pdf/paper.h"
-#include "report/display_settings.h"
 #include "report/modDispRUNTIME.h"
 #include "report/modPrint.h"
 #include "support/app_folder.h"
@@ -84,9 +83,9 @@ TEST(DisplayColours, AreThoseOfThePlanetsNamed) {
   ColourForm(chart, true);
   std::vector<forms::Colour> colours;
   for (const forms::Control& control : chart.Controls()) colours.push_back(control.foreColour);
-  const auto& planets = display::kPlanetColours;
-  const forms::Colour black, sun = planets[1].colour, moon = planets[2].colour;
-  EXPECT_EQ(colours, (std::vector{moon, black, sun, sun, planets[4].colour, black, black}));
+  const forms::Colour black, sun = forms::Rgb(0xB83A17), moon = forms::Rgb(0x5A6B85),
+                             mercury = forms::Rgb(0x1E7A3C);
+  EXPECT_EQ(colours, (std::vector{moon, black, sun, sun, mercury, black, black}));
   EXPECT_EQ(chart.Box.borderColour, forms::Rgb(0xF5B017));  // 1552629
 }
 

@@ -31,12 +31,9 @@ TEST(Tick, MovesOnAtTheMomentOfSunrise) {
 
 TEST(Tick, FallsBackIntoTheMonthBefore) {
   Dashboard d;
+  // The sun of Monday, 28 February, and of it Tuesday's seventh eighth.
   d.TickAt(2011, 3, 1, 0, 0, 0);
-  const std::string beforeSunrise = d.Figures();
-  d.TickAt(2011, 2, 28, 12, 0, 0);
-  // Sun of 28 February; Tuesday's seventh eighth against Monday's second.
-  EXPECT_EQ(beforeSunrise.substr(0, 17), d.Figures().substr(0, 17));
-  EXPECT_NE(beforeSunrise, d.Figures());
+  EXPECT_EQ(d.Figures(), "06:48:00 18:20:00 15:27:00-16:53:30");
 }
 
 TEST(Tick, ShowsNothingButZerosBeyond63Degrees) {
@@ -49,11 +46,10 @@ TEST(Tick, ShowsNothingButZerosBeyond63Degrees) {
 TEST(Tick, KeepsSunriseAndEmptiesDurvelaWhereTheSunDoesNotSet) {
   Dashboard d;
   d.TickAt(2011, 6, 21, 12, 0, 0);
-  const std::string figures = d.Figures();
   d.SaveDefault("lat", "70.00N");
   d.TickAt(2011, 6, 21, 12, 0, 1);
   EXPECT_EQ(Words(d.form.lblTime.caption, d.form.lblLat.caption), "12:0:1 70.00N ");
-  EXPECT_EQ(d.Figures(), figures.substr(0, 18) + "-");
+  EXPECT_EQ(d.Figures(), "05:24:00 19:22:00 -");  // Delhi's
 }
 
 TEST(Tick, ReadsItsDateBackInTheUsersLanguage) {

@@ -14,6 +14,7 @@
 #include <set>
 
 #include "forms/moment_picker.h"
+#include "report/display_settings.h"
 #include "screens/day_sky.h"
 #include "screens/palette.h"
 #include "screens/qt/control_widget.h"
@@ -138,6 +139,15 @@ TEST(Contrast, IsEnoughForTheArrowOfAPlainDropDown) {
   for (int x = 136; x < 154; ++x)
     contrast = std::max(contrast, Contrast(image.pixel(x, 16), ground));
   EXPECT_GE(contrast, 3);
+}
+
+TEST(Contrast, IsEnoughForThePlanetsOnAPage) {
+  std::set<QRgb> colours;
+  for (const auto& planet : report::display::kPlanetColours) {
+    colours.insert(ToQt(planet.colour).rgb());
+    EXPECT_GE(Contrast(ToQt(planet.colour).rgb(), 0xFFFFFFFF), 4.5) << planet.name;
+  }
+  EXPECT_EQ(colours.size(), 13U);
 }
 
 void CheckForm(Program& program, forms::Form& form) {
