@@ -1,5 +1,5 @@
-// main() for tests: takes the process locale from the environment, as toolkit programs do, and checks
-// locale and zone if the run expects certain ones.
+// main() for tests: takes the process locale from the environment, as toolkit programs do, and
+// checks locale and zone if the run expects certain ones.
 
 #include <gtest/gtest.h>
 
