@@ -4,7 +4,6 @@
 #include <fstream>
 #include <utility>
 
-#include "foundation/error.h"
 #include "foundation/files.h"
 #include "foundation/modFileFx.h"
 #include "foundation/text.h"
@@ -14,10 +13,11 @@ namespace atlas {
 namespace fs = std::filesystem;
 
 fs::path CityFile(std::string_view country) {
+  const fs::path file = foundation::AtlasFolder() / std::string(country).append(kCityExtension);
   if (country.find('/') != std::string_view::npos) {
-    throw foundation::Error(foundation::ErrorKind::FileNotFound);
+    throw foundation::FileError(foundation::ErrorKind::FileNotFound, file, "does not exist");
   }
-  return foundation::AtlasFolder() / std::string(country).append(kCityExtension);
+  return file;
 }
 
 std::vector<std::string> Countries() {
@@ -69,7 +69,9 @@ void WriteLines(const fs::path& file, Writing writing,
   std::ofstream stream(file, std::ios::binary | std::ios::out | mode);
   for (const foundation::ByteText& line : lines) stream << line.Bytes() << "\r\n";
   stream.close();
-  if (!stream) throw foundation::Error(foundation::ErrorKind::FileAccess);
+  if (!stream) {
+    throw foundation::FileError(foundation::ErrorKind::FileAccess, file, "cannot be written");
+  }
 }
 
 }  // namespace atlas

@@ -2,7 +2,7 @@
 
 #include "atlas/city_file.h"
 #include "atlas/modEncDec.h"
-#include "foundation/error.h"
+#include "foundation/files.h"
 
 namespace atlas {
 namespace {
@@ -55,10 +55,12 @@ ByteText Scrambled(std::string_view country, const PlaceRecord& r) {
 class clsAtlas::OpenFile {
  public:
   OpenFile(const clsAtlas& atlas, const std::filesystem::path& file)
-      : atlas_(atlas), openedAt_(atlas.closings_), reader_(file) {}
+      : atlas_(atlas), openedAt_(atlas.closings_), file_(file), reader_(file) {}
 
   bool AtEnd() {
-    if (atlas_.closings_ != openedAt_) throw foundation::Error(foundation::ErrorKind::FileAccess);
+    if (atlas_.closings_ != openedAt_) {
+      throw foundation::FileError(foundation::ErrorKind::FileAccess, file_, "has been closed");
+    }
     return reader_.AtEnd();
   }
   ByteText ReadItem() { return reader_.Item(); }
@@ -66,6 +68,7 @@ class clsAtlas::OpenFile {
  private:
   const clsAtlas& atlas_;
   unsigned openedAt_;
+  std::filesystem::path file_;
   CityReader reader_;
 };
 

@@ -6,7 +6,6 @@
 #include <string_view>
 #include <utility>
 
-#include "foundation/error.h"
 #include "foundation/files.h"
 #include "foundation/numbers.h"
 
@@ -66,8 +65,9 @@ struct Layout {
   }
 };
 
-Layout LayoutOf(std::string_view bytes) {
-  if (bytes.size() < kHeaderSize || !bytes.starts_with("BM")) throw Error(ErrorKind::InvalidCall);
+Layout LayoutOf(std::string_view bytes, const std::filesystem::path& file) {
+  const Error foreign = foundation::FileError(ErrorKind::InvalidCall, file, "is not a bitmap");
+  if (bytes.size() < kHeaderSize || !bytes.starts_with("BM")) throw foreign;
   const auto height = static_cast<std::int32_t>(Get(bytes, 22, 4));
   const std::uint32_t bits = Get(bytes, 28, 2);
   const Layout layout = {Get(bytes, 10, 4), bits / 8, static_cast<std::int32_t>(Get(bytes, 18, 4)),
@@ -78,7 +78,7 @@ Layout LayoutOf(std::string_view bytes) {
       layout.start > bytes.size() || Get(bytes, 2, 4) > bytes.size() ||
       Get(bytes, 34, 4) > bytes.size() - layout.start ||
       static_cast<std::size_t>(layout.height) > (bytes.size() - layout.start) / layout.Stride()) {
-    throw Error(ErrorKind::InvalidCall);
+    throw foreign;
   }
   return layout;
 }
@@ -104,12 +104,12 @@ void WriteBmp(const std::filesystem::path& file, const Pixels& pixels, int dotsP
   stream.write(reinterpret_cast<const char*>(bytes.data()),
                static_cast<std::streamsize>(bytes.size()));
   stream.close();
-  if (!stream) throw Error(ErrorKind::FileAccess);
+  if (!stream) throw foundation::FileError(ErrorKind::FileAccess, file, "cannot be written");
 }
 
 BmpPicture ReadBmp(const std::filesystem::path& file) {
   const std::string bytes = foundation::ReadFile(file);
-  const Layout layout = LayoutOf(bytes);
+  const Layout layout = LayoutOf(bytes, file);
   const auto height = static_cast<std::int32_t>(layout.height);
   Pixels pixels(layout.width, height);
   for (std::int32_t y = 0; y < height; ++y) {

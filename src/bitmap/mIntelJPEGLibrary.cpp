@@ -6,6 +6,7 @@
 
 #include <optional>
 
+#include "foundation/files.h"
 #include "foundation/version.h"
 
 namespace bitmap {
@@ -23,7 +24,9 @@ std::optional<FindData> Find(const std::filesystem::path& file) {
 }
 
 void Delete(const std::filesystem::path& file) {
-  if (unlink(file.c_str()) != 0) throw Error(ErrorKind::FileAccess);
+  if (unlink(file.c_str()) != 0) {
+    throw foundation::FileError(ErrorKind::FileAccess, file, "cannot be deleted");
+  }
 }
 
 void RestoreTimesAndMode(const std::filesystem::path& file, const FindData& former) {
@@ -50,8 +53,7 @@ void Describe(const cDIBSection& dib, const std::filesystem::path& file, std::in
 }  // namespace
 
 JpegLibraryError::JpegLibraryError(int result)
-    : Error(kNoJpegLibrary),
-      text_("Failed to initialise the IJL library: " + std::to_string(result)) {}
+    : Error(kNoJpegLibrary, "Failed to initialise the IJL library: " + std::to_string(result)) {}
 
 std::string JpegLibraryError::Source() const {
   return std::string(kProgramName) + ".mIntelJPEGLibrary";

@@ -20,10 +20,6 @@ class JpegLibraryError : public foundation::Error {
   explicit JpegLibraryError(int result);
 
   std::string Source() const;
-  const char* what() const noexcept override { return text_.c_str(); }
-
- private:
-  std::string text_;
 };
 
 // Returns true if the file was written; false, after a message, if the library failed. An existing

@@ -3,6 +3,7 @@
 namespace foundation {
 
 const char* Error::what() const noexcept {
+  if (!context_.empty()) return context_.c_str();
   switch (kind_) {
     case ErrorKind::InvalidCall:
       return "Invalid procedure call or argument";

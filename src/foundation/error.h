@@ -1,7 +1,10 @@
-// The one error type of the system: a number and a fixed English description.
+// The one error type of the system: a number, a fixed English description and, where something can
+// be named, what failed.
 #pragma once
 
 #include <exception>
+#include <string>
+#include <utility>
 
 namespace foundation {
 
@@ -20,16 +23,22 @@ enum class ErrorKind : int {
 
 class Error : public std::exception {
  public:
-  explicit Error(ErrorKind kind) : kind_(kind) {}
+  explicit Error(ErrorKind kind, std::string context = {})
+      : kind_(kind), context_(std::move(context)) {}
 
   ErrorKind Kind() const { return kind_; }
   int Number() const { return static_cast<int>(kind_); }
 
-  // What the user is told, such as "Overflow".
+  // What failed, a sentence without its full stop: "The file prv1.tmp cannot be read". Empty if
+  // nothing can be named.
+  const std::string& Context() const { return context_; }
+
+  // For the user: the context or, without one, the description of the kind, such as "Overflow".
   const char* what() const noexcept override;
 
  private:
   ErrorKind kind_;
+  std::string context_;
 };
 
 }  // namespace foundation

@@ -4,25 +4,30 @@
 #include <new>
 #include <stdexcept>
 
-#include "foundation/error.h"
-
 namespace foundation {
+
+Error FileError(ErrorKind kind, const std::filesystem::path& file, std::string_view trouble) {
+  return Error(kind, "The file " + file.string() + " " + std::string(trouble));
+}
 
 std::string ReadFile(const std::filesystem::path& file) {
   std::error_code failure;
-  if (!std::filesystem::exists(file, failure)) throw Error(ErrorKind::FileNotFound);
+  if (!std::filesystem::exists(file, failure)) {
+    throw FileError(ErrorKind::FileNotFound, file, "does not exist");
+  }
+  const Error unreadable = FileError(ErrorKind::FileAccess, file, "cannot be read");
   const auto size = std::filesystem::file_size(file, failure);  // fails for a folder
   std::ifstream stream(file, std::ios::binary);
-  if (failure || !stream) throw Error(ErrorKind::FileAccess);
+  if (failure || !stream) throw unreadable;
   try {
     std::string bytes(size, '\0');
     stream.read(bytes.data(), static_cast<std::streamsize>(size));
-    if (!stream) throw Error(ErrorKind::FileAccess);
+    if (!stream) throw unreadable;
     return bytes;
   } catch (const std::bad_alloc&) {
-    throw Error(ErrorKind::FileAccess);  // more than memory holds
+    throw unreadable;  // more than memory holds
   } catch (const std::length_error&) {
-    throw Error(ErrorKind::FileAccess);
+    throw unreadable;
   }
 }
 

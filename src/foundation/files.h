@@ -1,11 +1,16 @@
-// Reading files and lines.
+// Reading files and lines, and errors that name a file.
 #pragma once
 
 #include <filesystem>
 #include <string>
 #include <string_view>
 
+#include "foundation/error.h"
+
 namespace foundation {
+
+// "The file x.afm cannot be read", from a file and its trouble.
+Error FileError(ErrorKind kind, const std::filesystem::path& file, std::string_view trouble);
 
 // The contents of a file. FileNotFound if it does not exist, FileAccess if it cannot be read.
 std::string ReadFile(const std::filesystem::path& file);

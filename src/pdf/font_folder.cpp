@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "foundation/error.h"
 #include "foundation/files.h"
 #include "foundation/text.h"
 
@@ -20,9 +19,12 @@ constexpr std::string_view kExtension = ".afm";
 // Names of the metric files, sorted ignoring case.
 std::vector<std::string> MetricFileNames(const fs::path& folder) {
   std::error_code failure;
-  if (!fs::is_directory(folder, failure)) throw Error(ErrorKind::FileNotFound);
+  const std::string named = "The folder " + folder.string();
+  if (!fs::is_directory(folder, failure)) {
+    throw Error(ErrorKind::FileNotFound, named + " does not exist");
+  }
   const fs::directory_iterator entries(fs::absolute(folder), failure);
-  if (failure) throw Error(ErrorKind::FileAccess);
+  if (failure) throw Error(ErrorKind::FileAccess, named + " cannot be read");
   std::vector<std::pair<std::string, std::string>> files;  // folded name, name
   for (const auto& entry : entries) {
     if (!entry.is_regular_file(failure)) continue;
@@ -46,6 +48,15 @@ fs::path FileOf(const fs::path& folder, const std::string& name) {
     if (foundation::FoldCase(entry->path().filename().string()) == folded) return entry->path();
   }
   return folder / name;
+}
+
+WidthTable WidthsOf(const fs::path& file) {
+  const std::string metrics = foundation::ReadFile(file);
+  try {
+    return ReadWidths(metrics);
+  } catch (const Error& error) {
+    throw foundation::FileError(error.Kind(), file, "is not a font metric file");
+  }
 }
 
 std::string WithoutExtension(std::string_view name) {
@@ -88,7 +99,7 @@ const WidthTable& FontFolder::Widths(std::string_view name) {
   const auto time = fs::last_write_time(path, failure);
   if (failure || known == files_.end() || known->second.size != size ||
       known->second.time != time) {
-    const MetricFile read = {size, time, ReadWidths(foundation::ReadFile(path)), true};
+    const MetricFile read = {size, time, WidthsOf(path), true};
     return (files_.insert_or_assign(std::string(name), read).first)->second.widths;
   }
   known->second.isFresh = true;

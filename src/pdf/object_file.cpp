@@ -2,7 +2,7 @@
 
 #include <cerrno>
 
-#include "foundation/error.h"
+#include "foundation/files.h"
 #include "foundation/numbers.h"
 #include "pdf/tokens.h"
 
@@ -16,6 +16,7 @@ std::string_view FileNameOf(std::string_view path) {
 }  // namespace
 
 void ObjectFile::Open(const std::string& path, ReaderWindows& readers) {
+  path_ = path;
   OpenStream(path);
   if (stream_ || errno != EACCES) return;
   readers.Close("Adobe Reader - [" + std::string(FileNameOf(path)) + "]");
@@ -31,9 +32,16 @@ void ObjectFile::OpenStream(const std::string& path) {
   stream_.open(path, std::ios::binary | std::ios::trunc);
 }
 
+// Without an open document there is no file to name.
+foundation::Error ObjectFile::Unwritable(foundation::ErrorKind kind) const {
+  return path_.empty() ? foundation::Error(kind)
+                       : foundation::FileError(kind, path_, "cannot be written");
+}
+
 void ObjectFile::Close() {
   stream_.close();
-  if (!stream_) throw foundation::Error(foundation::ErrorKind::FileAccess);
+  if (!stream_) throw Unwritable(foundation::ErrorKind::FileAccess);
+  path_.clear();
 }
 
 void ObjectFile::Restart() {
@@ -61,9 +69,9 @@ void ObjectFile::EndObject() {
 }
 
 void ObjectFile::WriteLine(std::string_view text) {
-  if (!stream_.is_open()) throw foundation::Error(foundation::ErrorKind::ObjectNotSet);
+  if (!stream_.is_open()) throw Unwritable(foundation::ErrorKind::ObjectNotSet);
   stream_ << text << "\r\n";
-  if (!stream_) throw foundation::Error(foundation::ErrorKind::FileAccess);
+  if (!stream_) throw Unwritable(foundation::ErrorKind::FileAccess);
 }
 
 void ObjectFile::PDFAddOffset(std::size_t length) {

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "foundation/error.h"
 #include "pdf/reader_windows.h"
 
 namespace pdf {
@@ -42,6 +43,9 @@ class ObjectFile {
  private:
   void OpenStream(const std::string& path);
 
+  foundation::Error Unwritable(foundation::ErrorKind kind) const;
+
+  std::string path_;
   std::vector<char> streamBuffer_;
   std::ofstream stream_;
   std::string buffer_;

@@ -1,7 +1,7 @@
 #include "report/frmSPkun.h"
 
 #include "engine/record_chart.h"
-#include "foundation/error.h"
+#include "foundation/files.h"
 #include "foundation/modFileFx.h"
 #include "foundation/numbers.h"
 #include "foundation/resume.h"
@@ -120,10 +120,12 @@ void frmSPkun::ShowPage(std::int16_t& PageNum, std::string_view Pname, std::stri
   const std::string_view number = mark == std::string_view::npos ? PTitle : PTitle.substr(mark + 1);
   PageNum = foundation::RoundToInt16(foundation::LeadingNumber(number));
   PIC.picture = nullptr;
-  const forms::PicturePtr page = LoadPage(PageNum);
-  // What stands under its name then is a page of a former report.
-  if (unwritten_.contains(PageNum)) throw foundation::Error(foundation::ErrorKind::FileAccess);
-  PIC.picture = page;
+  // An earlier report's page may still have its name.
+  if (unwritten_.contains(PageNum)) {
+    throw foundation::FileError(foundation::ErrorKind::FileAccess, PageFile(PageNum),
+                                "cannot be written");
+  }
+  PIC.picture = LoadPage(PageNum);
   PIC.spokenText = words_[PageNum];
   if (ToPrinter) {
     services_.printer.PaintPicture(PIC.picture, 0, 0, PIC.picture->width, PIC.picture->height);

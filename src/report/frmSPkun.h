@@ -84,9 +84,8 @@ class frmSPkun : public forms::Form {
   void cmdHide_Click();
   void cmdPrintPage_Click();
 
-  // A page onto PIC or the printer. PageNum takes the number that the title tells. Errors as of
-  // GenHoro and LoadPage, FileAccess where a former page stands in place of one that could not be
-  // written; PIC has lost its picture by then.
+  // Puts a page onto PIC or the printer. PageNum takes the number in the title. Errors of GenHoro
+  // and LoadPage, and FileAccess for a page that could not be written; PIC has no picture by then.
   void ShowPage(std::int16_t& PageNum, std::string_view Pname, std::string_view PTitle,
                 bool ToPrinter);
 

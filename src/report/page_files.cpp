@@ -19,11 +19,11 @@ namespace fs = std::filesystem;
 constexpr std::string_view kExtension = ".tmp";
 constexpr int kUsualDotsPerInch = 96;
 
-fs::path PageFile(std::int16_t number) {
-  return foundation::TempFolder() / ("prv" + std::to_string(number) + std::string(kExtension));
-}
-
 }  // namespace
+
+fs::path PageFile(std::int16_t PageNum) {
+  return foundation::TempFolder() / ("prv" + std::to_string(PageNum) + std::string(kExtension));
+}
 
 void SavePage(std::int16_t PageNum, const forms::Raster& dots) {
   std::error_code failure;

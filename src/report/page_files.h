@@ -2,10 +2,14 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 
 #include "forms/picture.h"
 
 namespace report {
+
+// Where a page is kept.
+std::filesystem::path PageFile(std::int16_t PageNum);
 
 // Writes a page over a former one of its number; makes the folder where it has no files. FileAccess
 // where it cannot be written, InvalidCall for no dots.

@@ -38,6 +38,9 @@ TEST(LanguagePhrases, ComeFromTheFirstMatchingLine) {
   EXPECT_EQ(LanguagePhrase("SUN", session), "सूर्य \xA7 rest");
   EXPECT_ERROR(FileNotFound, LanguagePhrase("Sun", 2));
   EXPECT_ERROR(FileAccess, LanguagePhrase("Sun", 5));
+  EXPECT_EQ(support::FailureOf([] { LanguagePhrase("Sun", 2); }),
+            "The file " + (folder.path / "Language/emarathi.txt").string() + " does not exist");
+  EXPECT_EQ(support::FailureOf([] { ReadFile("/proc"); }), "The file /proc cannot be read");
 }
 
 TEST(Lines, EndWithCrLfCrOrLf) {

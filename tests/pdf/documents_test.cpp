@@ -114,9 +114,17 @@ TEST_F(Documents, AreConfirmedAndClosed) {
   printer.PDFEndDoc();
   EXPECT_EQ(TakeMessages(), "Génération du Fichier PDF - vrPDF 4.0: Fichier PDF généré.\n");
   EXPECT_ERROR(ObjectNotSet, printer.PDFBeginDoc());
-  printer.PDFFileName("/dev/full");
-  printer.PDFBeginDoc();
-  EXPECT_ERROR(FileAccess, printer.PDFEndDoc());
+}
+
+TEST_F(Documents, NameAFileThatCannotBeWritten) {
+  for (const std::string file : {"/dev/full", "/none/a.pdf"}) {
+    printer.PDFFileName(file);
+    const auto write = [&] {
+      printer.PDFBeginDoc();
+      printer.PDFEndDoc();
+    };
+    EXPECT_EQ(support::FailureOf(write), "The file " + file + " cannot be written");
+  }
 }
 
 // Blocks a folder, even for root, until it is asked to close.

@@ -40,6 +40,10 @@ TEST_F(FontFolders, OverwriteNamesFromTheFirst) {
   EXPECT_EQ(fonts.NumberOf("Zapf"), 2);
   EXPECT_EQ(fonts.Widths("Zapf")[65], 700);  // the extension's case does not matter
   EXPECT_ERROR(FileNotFound, fonts.PDFLoadAfm(folder.path / "none"));
+  folder.Write("more/Zapf.AFM", "StartCharMetrics 1\nC 65 ;\n");
+  fonts.LookAgain();
+  EXPECT_EQ(support::FailureOf([&] { fonts.Widths("Zapf"); }),
+            "The file " + (folder.path / "more/Zapf.AFM").string() + " is not a font metric file");
 }
 
 TEST_F(FontFolders, NoticeAChangedFileOnTheNextPage) {

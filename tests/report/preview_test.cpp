@@ -143,15 +143,16 @@ TEST_F(Preview, TellsWhatFailsInPrinting) {
   boxes.answer = foundation::MessageAnswer::Yes;
   EXPECT_EQ(Print(preview.cmdPrint),
             "AskUser|Orientation 1|Print 0 240 |NewPage|page|NewPage|page|NewPage|EndDoc|");
+  const std::string name = "DocumentName Durvela January 2011 to March 2011, Delhi|";
+  const std::string failure = "The file " + PageFile(1).string() + " is not a bitmap";
   boxes.answer = foundation::MessageAnswer::No;
   printer.cancelled = true;
   EXPECT_EQ(Print(preview.cmdPrint), "AskUser|EndDoc|");
   std::string told;
   for (const auto& box : boxes.shown) told += box.text + "\n";
-  EXPECT_EQ(told,
-            "Printing Cancelled: Invalid procedure call or argument\n"
-            "Invalid procedure call or argument. Do you want to continue with the next page?\n"
-            "Cancel was selected. Do you want to continue with the next page?\n");
+  EXPECT_EQ(told, "Printing Cancelled: " + failure + "\n" + failure +
+                      ". Do you want to continue with the next page?\n"
+                      "Cancel was selected. Do you want to continue with the next page?\n");
 }
 
 TEST_F(Preview, TakesTheDirectPathForOtherPages) {
@@ -178,7 +179,8 @@ TEST_F(Preview, ShowsNoFormerPageInstead) {
   rasteriser.dots = {};
   preview.CreateTMPfile(1, preview.PIC);
   std::int16_t number = 1;
-  EXPECT_ERROR(FileAccess, preview.ShowPage(number, kCachePage, "May ..P1", false));
+  EXPECT_EQ(support::FailureOf([&] { preview.ShowPage(number, kCachePage, "May ..P1", false); }),
+            "The file " + PageFile(1).string() + " cannot be written");
 }
 
 using PageFiles = ReportingTest;

@@ -1,10 +1,28 @@
-// Expects an expression to raise a kind of error.
+// Checks how an operation fails.
 #pragma once
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "foundation/error.h"
 
+namespace support {
+
+// What the user reads of its error; empty if there is none.
+template <typename Operation>
+std::string FailureOf(Operation operation) {
+  try {
+    operation();
+  } catch (const foundation::Error& error) {
+    return error.what();
+  }
+  return {};
+}
+
+}  // namespace support
+
+// With one kind of error.
 #define EXPECT_ERROR(kind, ...)                                             \
   try {                                                                     \
     static_cast<void>(__VA_ARGS__);                                         \
