@@ -5,7 +5,7 @@
 #include <QMap>
 #include <QTemporaryFile>
 
-#include "foundation/error.h"
+#include "foundation/files.h"
 #include "screens/qt/qt_painting.h"
 
 namespace screens::qt {
@@ -15,8 +15,13 @@ QString Entry(std::string_view section, std::string_view key) {
   return ToQt(section) + u'/' + ToQt(key);
 }
 
-// The toolkit takes a file that was written in part for a whole one, and puts it over the former
-// file. FileAccess, with that file as it was, where a disk is all but full.
+foundation::Error Unwritable(const QFileInfo& file) {
+  return foundation::FileError(foundation::ErrorKind::FileAccess, file.filePath().toStdString(),
+                               "cannot be written");
+}
+
+// QSettings does not notice a short write and replaces the old file. FileAccess, with the old file
+// untouched, if a disk is nearly full.
 void RequireRoomFor(const QFileInfo& file) {
   constexpr qint64 kSpare = 16384;  // for what is saved, a lock, and the blocks of the disk
   const QDir folder = file.absoluteDir();
@@ -24,7 +29,7 @@ void RequireRoomFor(const QFileInfo& file) {
   const QByteArray bytes(file.size() + kSpare, ' ');
   if (!folder.mkpath(QStringLiteral(".")) || !trial.open() || trial.write(bytes) != bytes.size() ||
       !trial.flush()) {
-    throw foundation::Error(foundation::ErrorKind::FileAccess);
+    throw Unwritable(file);
   }
 }
 
@@ -54,8 +59,11 @@ std::string QtSettings::GetSetting(std::string_view application, std::string_vie
 
 void QtSettings::SaveSettings(std::string_view application, std::string_view section,
                               std::span<const foundation::Setting> settings) {
+  // An object that has failed once, to read too, counts every later save as failed.
+  if (const auto used = stores_.find(application); used != stores_.end()) stores_.erase(used);
   QSettings& store = StoreOf(application);
-  RequireRoomFor(QFileInfo(store.fileName()));
+  const QFileInfo file(store.fileName());
+  RequireRoomFor(file);
   QMap<QString, QVariant> before;
   for (const auto& [key, value] : settings) {
     const QString entry = Entry(section, key);
@@ -63,10 +71,10 @@ void QtSettings::SaveSettings(std::string_view application, std::string_view sec
     store.setValue(entry, ToQt(value));
   }
   store.sync();
-  // A file with a line that cannot be read is written all the same.
+  // A file with a line that cannot be read is still written.
   if (store.status() != QSettings::AccessError) return;
 
-  // What was not saved is not shown either; and the next try gets an object without this error.
+  // What was not saved is not shown either.
   for (auto entry = before.cbegin(); entry != before.cend(); ++entry) {
     if (entry->isValid()) {
       store.setValue(entry.key(), *entry);
@@ -74,8 +82,7 @@ void QtSettings::SaveSettings(std::string_view application, std::string_view sec
       store.remove(entry.key());
     }
   }
-  stores_.erase(stores_.find(application));
-  throw foundation::Error(foundation::ErrorKind::FileAccess);
+  throw Unwritable(file);
 }
 
 }  // namespace screens::qt
