@@ -28,6 +28,6 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   screens::qt::DressApplication();
   screens::qt::Program program;
-  screens::qt::RunHandler([&] { program.Start(); });
+  screens::qt::RunHandler(program.dashboard.name, "Form_Load", [&] { program.Start(); });
   return QApplication::exec();
 }

@@ -44,12 +44,14 @@ forms::Key KeyOf(const QKeyEvent& event) {
 FormWindow::FormWindow(forms::Form& form) : form_(form) {
   setObjectName(ToQt(form.name));
   setMouseTracking(true);
-  const auto dispatch = [this](const std::function<void()>& handler) { Dispatch(handler); };
   std::map<const forms::Control*, QWidget*> containers = {{nullptr, this}};
   for (forms::Control& control : form.Controls()) {
+    const auto dispatch = [this, &control](const std::function<void()>& handler) {
+      Dispatch(control.name, handler);
+    };
     if (control.kind == forms::Kind::Timer) {
       timers_.push_back(new FormTimer(
-          control, [this, &control] { Dispatch(control.onTimer); }, this));
+          control, [dispatch, &control] { dispatch(control.onTimer); }, this));
     } else {
       ControlView* view = MakeView(control, dispatch, containers.at(control.container));
       views_.push_back(view);
@@ -88,10 +90,10 @@ void FormWindow::Retire() {
   if (handlers_ == 0) deleteLater();
 }
 
-void FormWindow::Dispatch(const std::function<void()>& handler) {
+void FormWindow::Dispatch(std::string_view step, const std::function<void()>& handler) {
   if (retired_ || !handler) return;
   ++handlers_;
-  RunHandler(handler);
+  RunHandler(form_.name, step, handler);
   Mirror();
   emit HandlerDone();
   --handlers_;
@@ -108,7 +110,7 @@ void FormWindow::paintEvent(QPaintEvent*) {
 }
 
 void FormWindow::resizeEvent(QResizeEvent*) {
-  Dispatch([this] {
+  Dispatch("Form_Resize", [this] {
     form_.scaleWidth = static_cast<float>(width() * kTwipsPerPixel);
     form_.scaleHeight = static_cast<float>(height() * kTwipsPerPixel);
     shownSize_ = size();
@@ -128,7 +130,7 @@ void FormWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::ActivationChange) ActivationChanged();
   if (event->type() != QEvent::WindowStateChange) return;
-  Dispatch([this] {
+  Dispatch("Form_Resize", [this] {
     const bool back = form_.windowState == forms::WindowState::Minimised && !isMinimized();
     form_.windowState = isMinimized()   ? forms::WindowState::Minimised
                         : isMaximized() ? forms::WindowState::Maximised
@@ -140,7 +142,7 @@ void FormWindow::changeEvent(QEvent* event) {
 
 void FormWindow::closeEvent(QCloseEvent* event) {
   bool cancel = false;
-  Dispatch([&] { form_.Form_QueryUnload(cancel); });
+  Dispatch("Form_QueryUnload", [&] { form_.Form_QueryUnload(cancel); });
   event->setAccepted(!cancel);
   if (!cancel && !retired_) emit ClosedByUser();
 }
@@ -150,11 +152,11 @@ void FormWindow::hideEvent(QHideEvent* event) {
 }
 
 void FormWindow::mouseMoveEvent(QMouseEvent*) {
-  Dispatch([this] { form_.Form_MouseMove(); });
+  Dispatch("Form_MouseMove", [this] { form_.Form_MouseMove(); });
 }
 
 void FormWindow::leaveEvent(QEvent*) {
-  Dispatch([this] { form_.Form_MouseLeave(); });
+  Dispatch("Form_MouseLeave", [this] { form_.Form_MouseLeave(); });
 }
 
 // Asked again once the toolkit has settled: a drop-down of the window's own is no other window.
@@ -166,7 +168,7 @@ void FormWindow::ActivationChanged() {
       [this] {
         if (isActiveWindow() || QApplication::activePopupWidget() != nullptr) return;
         active_ = false;
-        if (isVisible()) Dispatch([this] { form_.Form_Deactivate(); });
+        if (isVisible()) Dispatch("Form_Deactivate", [this] { form_.Form_Deactivate(); });
       },
       Qt::QueuedConnection);
 }
@@ -201,10 +203,10 @@ bool FormWindow::PressKey(const QKeyEvent& event, const QObject* widget) {
   // A key held down since before the window was there has not been pressed in it.
   const bool once = press.key == forms::Key::Enter || press.key == forms::Key::Escape;
   if (press.key == forms::Key::Other || (once && event.isAutoRepeat())) return false;
-  Dispatch([&] { form_.Form_KeyDown(press); });
+  Dispatch("Form_KeyDown", [&] { form_.Form_KeyDown(press); });
   const ControlView* view = ViewOf(widget);
   if (!press.handled && view != nullptr && view->Model().onKeyDown) {
-    Dispatch([&] { view->Model().onKeyDown(press); });
+    Dispatch(view->Model().name, [&] { view->Model().onKeyDown(press); });
   }
   return press.handled;
 }

@@ -3,6 +3,7 @@
 
 #include <QWidget>
 #include <functional>
+#include <string_view>
 #include <vector>
 
 #include "forms/form.h"
@@ -45,8 +46,8 @@ class FormWindow : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;  // of the controls' widgets
 
  private:
-  // Runs a handler of the form, if there is one, and then mirrors.
-  void Dispatch(const std::function<void()>& handler);
+  // Runs a handler of the form, if there is one, by the name of its control or event, and mirrors.
+  void Dispatch(std::string_view step, const std::function<void()>& handler);
   void MirrorControls();
   void MirrorBackground();
   void MirrorSize();

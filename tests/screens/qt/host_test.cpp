@@ -3,11 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QTest>
 #include <QTimer>
 #include <functional>
 
-#include "foundation/error.h"
+#include "foundation/files.h"
 #include "screens/qt/qt_host.h"
 #include "screens/qt/run_handler.h"
 
@@ -96,14 +97,24 @@ TEST_F(Host, LaysAFormOutAgainWhenItComesBack) {
   EXPECT_FALSE(window.isMaximized());
 }
 
-TEST(FailedHandlers, EndTheProgramAfterOneBox) {
+// Ends the process after a box, whose text goes to the log.
+void RunAndFail(const foundation::Error& error) {
+  QTimer::singleShot(0, [] {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    qInfo().noquote() << box->text();
+    box->close();
+  });
+  RunHandler("frmCity", "lstCity", [&] { throw error; });
+}
+
+TEST(FailedHandlers, EndTheProgramAfterABoxThatNamesTheFileOrTheHandler) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
+  EXPECT_EXIT(RunAndFail(foundation::Error(foundation::ErrorKind::Subscript)),
+              testing::ExitedWithCode(1),
+              "Durvela has to close: Subscript out of range in frmCity.lstCity\\.");
   EXPECT_EXIT(
-      {
-        QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
-        RunHandler([] { throw foundation::Error(foundation::ErrorKind::Subscript); });
-      },
-      testing::ExitedWithCode(1), "");
+      RunAndFail(foundation::FileError(foundation::ErrorKind::FileAccess, "a.city", "is cut")),
+      testing::ExitedWithCode(1), "Durvela has to close: The file a.city is cut\\.");
 }
 
 }  // namespace
