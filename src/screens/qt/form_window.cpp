@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <map>
 
+#include "screens/qt/dialog_owner.h"
 #include "screens/qt/qt_painting.h"
 #include "screens/qt/run_handler.h"
 
@@ -92,6 +93,7 @@ void FormWindow::Retire() {
 
 void FormWindow::Dispatch(std::string_view step, const std::function<void()>& handler) {
   if (retired_ || !handler) return;
+  const RunningHandler running(*this);
   ++handlers_;
   RunHandler(form_.name, step, handler);
   Mirror();

@@ -5,10 +5,9 @@
 #include <QDesktopServices>
 #include <QMessageBox>
 #include <QUrl>
-#include <QWindow>
 
 #include "foundation/version.h"
-#include "screens/qt/form_window.h"
+#include "screens/qt/dialog_owner.h"
 #include "screens/qt/qt_painting.h"
 #include "screens/signs.h"
 
@@ -16,16 +15,6 @@ namespace screens::qt {
 namespace {
 
 constexpr int kSign = 40;  // pixels, of a message box
-
-// The active window of a form; or any, when it is a window manager that asks for a close.
-QWindow* Owner() {
-  QWindow* owner = nullptr;
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (qobject_cast<FormWindow*>(window) == nullptr || !window->isVisible()) continue;
-    if (owner == nullptr || window->isActiveWindow()) owner = window->windowHandle();
-  }
-  return owner;
-}
 
 }  // namespace
 
@@ -44,10 +33,7 @@ foundation::MessageAnswer QtMessageBoxes::Show(std::string_view text, foundation
   QMessageBox box(
       QMessageBox::NoIcon, screens::qt::ToQt(title.empty() ? foundation::kProgramName : title),
       screens::qt::ToQt(text), question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
-  // The owner of its native window alone: a form may go while the box is open, the box stays.
-  box.winId();
-  box.windowHandle()->setTransientParent(Owner());
-  box.setWindowModality(Qt::ApplicationModal);
+  GiveOwner(box);
   box.setTextFormat(Qt::PlainText);
   if (const forms::PicturePtr sign = BoxSign(icon)) {
     box.setIconPixmap(ToIcon(*sign).pixmap(QSize(kSign, kSign), box.devicePixelRatio()));

@@ -6,10 +6,12 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 #include <functional>
 
 #include "foundation/files.h"
 #include "screens/qt/qt_host.h"
+#include "screens/qt/qt_machine.h"
 #include "screens/qt/run_handler.h"
 
 namespace screens::qt {
@@ -95,6 +97,32 @@ TEST_F(Host, LaysAFormOutAgainWhenItComesBack) {
   form.windowState = forms::WindowState::Normal;
   window.Mirror();
   EXPECT_FALSE(window.isMaximized());
+}
+
+// The box of the form whose handler runs, though another form is the active one.
+TEST_F(Host, GivesABoxTheWindowThatAsks) {
+  form.Timer1.interval = 0;
+  inner.Timer1.interval = 0;
+  form.Timer1.onTimer = [&] {
+    QtMessageBoxes().Show("", foundation::MessageIcon::None, foundation::MessageButtons::Ok, {});
+  };
+  host.Show(form);
+  host.Show(inner);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&host.WindowOf(inner)));
+  const QWindow* owner = nullptr;
+  QTimer poll;
+  QObject::connect(&poll, &QTimer::timeout, [&] {
+    QWidget* const box = QApplication::activeModalWidget();
+    if (box == nullptr) return;
+    owner = box->windowHandle()->transientParent();
+    box->close();
+  });
+  poll.start(5);
+  form.Timer1.interval = 5;
+  host.MirrorAll();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return owner != nullptr; }));
+  form.Timer1.interval = 0;
+  EXPECT_EQ(owner, host.WindowOf(form).windowHandle());
 }
 
 // Ends the process after a box, whose text goes to the log.
