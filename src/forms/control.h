@@ -66,6 +66,12 @@ struct KeyPress {
   bool handled = false;
 };
 
+// Where the mouse is, in twips from the control's corner. Handlers that need only the place take a
+// Point.
+struct MousePoint : Point {
+  bool shift = false;  // with Shift, Ctrl or Alt held down
+};
+
 struct Control;
 
 // What a form writes down for a control; the rest starts as it stands here.
@@ -120,9 +126,9 @@ struct Control : Properties {
   std::function<void()> onDoubleClick;
   std::function<void()> onChange;  // of its text, moment, refusal or scroll value
   std::function<void(KeyPress&)> onKeyDown;
-  std::function<void(Point)> onMouseDown;  // by the left button; in twips from the control's corner
-  std::function<void(Point)> onMouseUp;
-  std::function<void(Point)> onMouseMove;
+  std::function<void(MousePoint)> onMouseDown;  // of the left button
+  std::function<void(MousePoint)> onMouseUp;
+  std::function<void(MousePoint)> onMouseMove;
   std::function<void(int)> onMouseWheel;  // steps, up above 0
   std::function<void(int)> onHover;       // of a list: the place under the mouse, -1 for none
   std::function<void()> onTimer;

@@ -45,8 +45,8 @@ frmSPkun::frmSPkun(Services services)
   cmdGO.onClick = [this] { cmdGO_Click(); };
   VScroll1.onChange = [this] { VScroll1_Change(); };
   HScroll1.onChange = [this] { HScroll1_Change(); };
-  PIC.onMouseDown = [this](forms::Point at) { PIC_MouseDown(at); };
-  PIC.onMouseMove = [this](forms::Point at) { PIC_MouseMove(at); };
+  PIC.onMouseDown = [this](forms::MousePoint at) { PIC_MouseDown(at); };
+  PIC.onMouseMove = [this](forms::MousePoint at) { PIC_MouseMove(at); };
   PIC.onMouseUp = [this](forms::Point) { PIC_MouseUp(); };
   PIC.onMouseWheel = [this](int steps) {
     SetScroll(VScroll1, VScroll1.scroll.value - steps * VScroll1.scroll.smallChange);

@@ -101,8 +101,8 @@ class frmSPkun : public forms::Form {
   void lstPage_Hover(int row);
   void VScroll1_Change();
   void HScroll1_Change();
-  void PIC_MouseDown(forms::Point at);
-  void PIC_MouseMove(forms::Point at);
+  void PIC_MouseDown(forms::MousePoint at);
+  void PIC_MouseMove(forms::MousePoint at);
   void PIC_MouseUp();
   void Timer1_Timer();  // the side panel closes
   void Timer2_Timer();  // and opens

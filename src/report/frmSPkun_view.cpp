@@ -50,7 +50,8 @@ void frmSPkun::Form_KeyDown(forms::KeyPress& press) {
   press.handled = true;  // nor does it turn the page
 }
 
-void frmSPkun::PIC_MouseDown(forms::Point at) {
+void frmSPkun::PIC_MouseDown(forms::MousePoint at) {
+  if (at.shift) return;
   Resume([&] {
     dragX_ = foundation::RoundToInt32(at.x);
     dragY_ = foundation::RoundToInt32(at.y);
@@ -59,8 +60,8 @@ void frmSPkun::PIC_MouseDown(forms::Point at) {
 }
 
 // The page follows the mouse in the directions in which there is something to scroll.
-void frmSPkun::PIC_MouseMove(forms::Point at) {
-  if (!dragging_) return;
+void frmSPkun::PIC_MouseMove(forms::MousePoint at) {
+  if (!dragging_ || at.shift) return;
   const auto offset = [](const forms::Control& bar, float present, double moved) {
     if (!bar.enabled) return present;
     const double wanted = -(present + moved);

@@ -93,6 +93,9 @@ TEST_F(Preview, ScrollsByKeysAndByHand) {
   EXPECT_EQ(preview.VScroll1.scroll.value, 200);
   preview.PIC.onMouseMove({0, 0});
   EXPECT_EQ(page.top, -200);
+  preview.PIC.onMouseDown({{500, 500}, true});
+  preview.PIC.onMouseMove({400, 300});
+  EXPECT_EQ(page.top, -200);
 
   preview.Form_Load();  // large enough for the whole page
   EXPECT_EQ(std::tuple(preview.VScroll1.enabled, page.top), std::tuple(false, 0));

@@ -53,11 +53,13 @@ void ControlWidget::Click() {
   dispatch_(control_.onClick);
 }
 
-void ControlWidget::TellMouse(const std::function<void(forms::Point)>& handler,
+void ControlWidget::TellMouse(const std::function<void(forms::MousePoint)>& handler,
                               const QMouseEvent& event) {
   if (!handler) return;
   const QPointF at = event.position() * kTwipsPerPixel;
-  dispatch_([&] { handler({at.x(), at.y()}); });
+  const bool shift =
+      event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+  dispatch_([&] { handler({{at.x(), at.y()}, shift}); });
 }
 
 void ControlWidget::mouseMoveEvent(QMouseEvent* event) {

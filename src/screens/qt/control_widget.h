@@ -31,7 +31,7 @@ class ControlWidget : public QWidget, public ControlView {
  private:
   static constexpr int kShadow = 18;  // pixels on every side of a card
 
-  void TellMouse(const std::function<void(forms::Point)>& handler, const QMouseEvent& event);
+  void TellMouse(const std::function<void(forms::MousePoint)>& handler, const QMouseEvent& event);
   int Margin() const { return control_.look == forms::Look::Card ? kShadow : 0; }
   QRect Geometry() const;
   QRectF Body() const;  // without the margin
