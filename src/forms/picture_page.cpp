@@ -11,7 +11,10 @@ PicturePage::PicturePage(Control& pictureBox, const TextMeasure& measure)
       measure_(measure),
       picture_(NewPicture(pictureBox.place.width, pictureBox.place.height)),
       font_(pictureBox.font),
-      colour_(pictureBox.foreColour) {}
+      colour_(pictureBox.foreColour) {
+  if (!box_.picture) return;
+  picture_->items.emplace_back(Inset{box_.picture, {}, picture_->width, picture_->height});
+}
 
 // Once something else holds the picture, it no longer changes: the page continues on a copy, so
 // that comparing pointers reveals the change.

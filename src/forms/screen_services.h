@@ -23,7 +23,7 @@ class FormHost {
   // Draws on a picture box, of a form that need not be loaded. The same until the form is unloaded
   // or the target forgotten.
   virtual DrawingTarget& TargetOf(Control& pictureBox) = 0;
-  // The next target of the box begins anew, with its present size.
+  // The next target of the box begins with its present size and picture.
   virtual void ForgetTarget(Control& pictureBox) = 0;
 };
 

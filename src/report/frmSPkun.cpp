@@ -158,6 +158,13 @@ void frmSPkun::PaintForm(forms::Form& page, double X, double Y) {
     services_.host.TargetOf(PIC).Cls();
   }
   forms::DrawingTarget& target = services_.host.TargetOf(PIC);
+  if (X == 0 && Y == 0) {
+    PIC.picture = ImageOf(page);
+    services_.host.ForgetTarget(PIC);  // the next one draws on this picture
+  } else {
+    services_.host.TargetOf(PIC).PaintPicture(ImageOf(page), X, Y, page.scaleWidth,
+                                              page.scaleHeight);
+  }
   target.PaintPicture(ImageOf(page), X, Y, page.scaleWidth, page.scaleHeight);
   for (const forms::Control& box : page.Controls()) {
     if (box.kind != forms::Kind::PictureBox || box.tag == "no") continue;

@@ -68,8 +68,9 @@ class frmSPkun : public forms::Form {
   // Empties the lists of pages and deletes the page files of the report before.
   void RESET();
 
-  // The direct path, both alike: the form's picture and its picture boxes onto PIC, moved by X and
-  // Y twips; the first page clears it and gives it its size.
+  // The direct path, both alike: the form's image and its picture boxes onto PIC, moved by X and Y
+  // twips. Without an offset the image replaces what PIC shows. The first page clears PIC and gives
+  // it its size.
   void setPage(forms::Form& page, double X = 0, double Y = 0);
   void setPage2(forms::Form& page, double X = 0, double Y = 0);
 
