@@ -38,14 +38,16 @@ class Rasteriser {
 enum class Orientation { Portrait = 1, Landscape = 2 };
 
 // Pages of a printer, drawn like any target. The first call that draws opens the document; a page
-// on which nothing was drawn is not printed. FileAccess where the printer does not take a page.
+// on which nothing was drawn is not printed. FileAccess if the printer does not take a page.
 class Printer : public DrawingTarget {
  public:
+  // Of the next document: the title that a print queue, a reader and a file's name show.
+  virtual void SetDocumentName(std::string_view name) = 0;
   // The system's dialog. Cancelled when the user cancels it.
   virtual void AskUser() = 0;
   virtual void SetOrientation(Orientation orientation) = 0;
   virtual void NewPage() = 0;
-  virtual void EndDoc() = 0;
+  virtual void EndDoc() = 0;  // and forget the printer that the user chose
 };
 
 class Clipboard {

@@ -58,6 +58,7 @@ frmSPkun::frmSPkun(Services services)
 void frmSPkun::RESET() {
   colPageName_.clear();
   colPageTitle_.clear();
+  city.clear();
   lstPage.items->Clear();
   cmbPage.items->Clear();
   PIC.picture = nullptr;
@@ -157,7 +158,6 @@ void frmSPkun::PaintForm(forms::Form& page, double X, double Y) {
     services_.host.ForgetTarget(PIC);  // which had another size
     services_.host.TargetOf(PIC).Cls();
   }
-  forms::DrawingTarget& target = services_.host.TargetOf(PIC);
   if (X == 0 && Y == 0) {
     PIC.picture = ImageOf(page);
     services_.host.ForgetTarget(PIC);  // the next one draws on this picture
@@ -165,7 +165,7 @@ void frmSPkun::PaintForm(forms::Form& page, double X, double Y) {
     services_.host.TargetOf(PIC).PaintPicture(ImageOf(page), X, Y, page.scaleWidth,
                                               page.scaleHeight);
   }
-  target.PaintPicture(ImageOf(page), X, Y, page.scaleWidth, page.scaleHeight);
+  forms::DrawingTarget& target = services_.host.TargetOf(PIC);
   for (const forms::Control& box : page.Controls()) {
     if (box.kind != forms::Kind::PictureBox || box.tag == "no") continue;
     target.PaintPicture(ImageOf(box), X + box.place.left, Y + box.place.top, box.place.width,

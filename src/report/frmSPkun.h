@@ -62,6 +62,8 @@ class frmSPkun : public forms::Form {
   CONTROL(Timer, Timer1, {.enabled = false, .interval = preview_layout::kSlideInterval});
   CONTROL(Timer, Timer2, {.enabled = false, .interval = preview_layout::kSlideInterval});
 
+  std::string city;  // of the report
+
   // Runs the form's own printing.
   void SendToPrint(forms::Form& myObject) { myObject.PrintForm(); }
 
@@ -116,6 +118,7 @@ class frmSPkun : public forms::Form {
   void OpenPanel(bool open);
   void ResizePanel(float width);
   void LayOut();
+  void NameDocument(int first, int last);  // by its pages
   void SetOrientation();
 
   Services services_;

@@ -26,6 +26,7 @@ class ReportMaker {
     TakePlace();
     services_.host.Unload(preview_);
     preview_.RESET();
+    preview_.city = input_.city;
     DateTime day = input_.DT1;
     int month = foundation::FieldsOf(day).month;
     BeginPage();

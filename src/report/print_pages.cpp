@@ -50,15 +50,30 @@ void frmSPkun::SetOrientation() {
                                        : forms::Orientation::Portrait);
 }
 
+// "Durvela March 2011, Delhi", or "Durvela January 2011 to March 2011, Delhi".
+void frmSPkun::NameDocument(int first, int last) {
+  const auto heading = [this](int number) {
+    const std::string& title = PageTitle(number);
+    return title.substr(0, title.find(" ..P"));
+  };
+  std::string range = heading(first);
+  if (last != first) {
+    const std::string until = heading(last);
+    range += " to " + until.substr(until.find(' ') + 1);
+  }
+  services_.printer.SetDocumentName(city.empty() ? range : range + ", " + city);
+}
+
 void frmSPkun::cmdPrint_Click() {
   forms::Printer& printer = services_.printer;
   AskingUser user(services_.boxes, printer);
+  const int pages = cmbPage.items->ListCount();
+  foundation::Resume([&] { NameDocument(1, pages); });
   user.Do([&] { printer.AskUser(); });
   user.Do([&] { SetOrientation(); });
   user.Do([&] { printer.Print(""); });
-  // Two pages may bear the same number in their titles, which puts i back: no more are printed than
+  // Two pages may have the same number in their titles, which puts i back: no more are printed than
   // there are.
-  const int pages = cmbPage.items->ListCount();
   int printed = 0;
   for (std::int16_t i = 1; !user.Stopped() && i <= pages && printed < pages; ++i, ++printed) {
     user.Do([&] { ShowPage(i, PageName(i), PageTitle(i), true); });
@@ -69,14 +84,16 @@ void frmSPkun::cmdPrint_Click() {
 
 void frmSPkun::cmdPrintPage_Click() {
   forms::Printer& printer = services_.printer;
+  const int number = cmbPage.items->ListIndex() + 1;
+  foundation::Resume([&] { NameDocument(number, number); });
   foundation::Resume([&] { SetOrientation(); });
   foundation::Resume([&] { printer.Print(""); });
   try {
-    const int number = cmbPage.items->ListIndex() + 1;
     auto page = static_cast<std::int16_t>(number);
     ShowPage(page, PageName(number), PageTitle(number), true);
     printer.EndDoc();
   } catch (const foundation::Error& error) {
+    foundation::Resume([&] { printer.EndDoc(); });
     services_.boxes.Show("Printing Cancelled: " + std::string(error.what()),
                          foundation::MessageIcon::Exclamation);
   }

@@ -132,25 +132,27 @@ TEST_F(Preview, SlidesItsPanelInAndOut) {
 
 TEST_F(Preview, PrintsAllPagesOrThatWhichItShows) {
   EXPECT_EQ(Print(preview.cmdPrint),
+            "DocumentName Durvela January 2011 to March 2011, Delhi|"
             "AskUser|Orientation 1|Print 0 0 |page|NewPage|page|NewPage|page|NewPage|EndDoc|");
   preview.PIC.place.width = 21001;
-  EXPECT_EQ(Print(preview.cmdPrintPage), "Orientation 2|Print 0 240 |page|EndDoc|");
+  EXPECT_EQ(Print(preview.cmdPrintPage),
+            "DocumentName Durvela January 2011, Delhi|Orientation 2|Print 0 240 |page|EndDoc|");
   preview.AddPage(kCachePage, "Durvela again ..P1");  // goes back, but no more than four pages
   Print(preview.cmdPrint);
-  EXPECT_EQ(printer.calls.size(), 3 + 4 * 2 + 1U);
+  EXPECT_EQ(printer.calls.size(), 4 + 4 * 2 + 1U);
 }
 
 TEST_F(Preview, TellsWhatFailsInPrinting) {
-  folder.Write("temp/prv1.tmp", "no bitmap");
-  Print(preview.cmdPrintPage);
-  boxes.answer = foundation::MessageAnswer::Yes;
-  EXPECT_EQ(Print(preview.cmdPrint),
-            "AskUser|Orientation 1|Print 0 240 |NewPage|page|NewPage|page|NewPage|EndDoc|");
   const std::string name = "DocumentName Durvela January 2011 to March 2011, Delhi|";
   const std::string failure = "The file " + PageFile(1).string() + " is not a bitmap";
+  folder.Write("temp/prv1.tmp", "no bitmap");
+  EXPECT_TRUE(Print(preview.cmdPrintPage).ends_with("Print 0 0 |EndDoc|"));
+  boxes.answer = foundation::MessageAnswer::Yes;
+  EXPECT_EQ(Print(preview.cmdPrint),
+            name + "AskUser|Orientation 1|Print 0 240 |NewPage|page|NewPage|page|NewPage|EndDoc|");
   boxes.answer = foundation::MessageAnswer::No;
   printer.cancelled = true;
-  EXPECT_EQ(Print(preview.cmdPrint), "AskUser|EndDoc|");
+  EXPECT_EQ(Print(preview.cmdPrint), name + "AskUser|EndDoc|");
   std::string told;
   for (const auto& box : boxes.shown) told += box.text + "\n";
   EXPECT_EQ(told, "Printing Cancelled: " + failure + "\n" + failure +

@@ -52,6 +52,7 @@ class RecordingTarget : public forms::Printer {
   }
   double TextHeight(std::string_view) const override { return 240; }
 
+  void SetDocumentName(std::string_view name) override { Note("DocumentName", name); }
   void AskUser() override {
     Note("AskUser");
     if (cancelled) throw foundation::Error(foundation::ErrorKind::Cancelled);

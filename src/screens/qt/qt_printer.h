@@ -8,6 +8,7 @@
 
 #include "forms/picture_page.h"
 #include "forms/screen_services.h"
+#include "foundation/error.h"
 #include "screens/qt/qt_painting.h"
 
 namespace screens::qt {
@@ -19,17 +20,17 @@ class QtRasteriser : public forms::Rasteriser {
 };
 
 // The toolkit's printer and its dialog. A page is drawn as a picture and goes onto the paper when
-// it is whole; one on which nothing was drawn does not.
+// it is complete, unless nothing was drawn on it.
 class QtPrinter : public forms::Printer {
  public:
   QtPrinter() = default;
   // Into a PDF file, without asking anybody.
   explicit QtPrinter(QString pdfFile) : pdfFile_(std::move(pdfFile)) {}
 
+  void SetDocumentName(std::string_view name) override;
   void AskUser() override;
-  // A document that was left open ends.
   void SetOrientation(forms::Orientation orientation) override;
-  // NewPage and EndDoc put the page onto the paper; FileAccess where the printer does not take it.
+  // Both put the page onto the paper; FileAccess if the printer does not take it.
   void NewPage() override;
   void EndDoc() override;
 
@@ -55,23 +56,25 @@ class QtPrinter : public forms::Printer {
                     double height) override {
     page_.PaintPicture(picture, x, y, width, height);
   }
-  // Opens the document. FileAccess where the printer takes none.
+  // Opens the document. FileAccess if the printer takes none.
   void Print(std::string_view text) override;
   double TextWidth(std::string_view text) const override { return page_.TextWidth(text); }
   double TextHeight(std::string_view text) const override { return page_.TextHeight(text); }
 
  private:
   QPrinter& Device();
+  foundation::Error Refusal();  // names the file, or the printer if there is one
   void Open();
   void Release();
 
   QString pdfFile_;
+  QString documentName_;
   QtTextMeasure measure_;
   forms::Control paper_ = Paper();
   forms::PicturePage page_{paper_, measure_};
-  std::unique_ptr<QPrinter> printer_;
+  std::unique_ptr<QPrinter> printer_;  // until the document ends, however it ends
   std::unique_ptr<QPainter> painter_;  // while a document is open
-  bool begun_ = false;                 // a page stands on the paper
+  bool begun_ = false;                 // the paper has a page
 
   static forms::Control Paper();
 };

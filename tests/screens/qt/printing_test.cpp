@@ -2,26 +2,40 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QFile>
+#include <QLineEdit>
+#include <QPaintEngine>
+#include <QPrintDialog>
+#include <QPrinterInfo>
 #include <QTemporaryDir>
+#include <QTimer>
+#include <QWindow>
 
+#include "report/page_files.h"
 #include "report/reporting.h"
 #include "screens/qt/qt_host.h"
 #include "screens/qt/qt_printer.h"
+#include "support/errors.h"
+#include "support/full_disk.h"
 
 namespace screens::qt {
 namespace {
 
+using namespace Qt::StringLiterals;
 using foundation::DateFromParts;
 
-// A report that draws as the program does.
+// A report of Delhi from 1 January 2011, which draws as the program does.
 struct Printing {
-  Printing(const QString& file, foundation::DateTime end) : printer(file) {
+  explicit Printing(foundation::DateTime end, const QString& file = {}) : printer(file) {
     MakeReport({DateFromParts(2011, 1, 1), end, 0.5, "28.40N", "77.13E", "82.30E", "-5.30", "Delhi",
                 "India", fakes.status},
                preview, services);
   }
   ~Printing() { host.Unload(preview); }
+
+  std::string Told() const { return fakes.boxes.shown.at(0).text; }
 
   report::Reporting fakes;
   QtHost host;
@@ -32,21 +46,129 @@ struct Printing {
   report::frmSPkun preview{services};
 };
 
-TEST(Printing, GivesASheetForEachMonth) {
-  const QTemporaryDir folder;
-  const QString file = folder.filePath(QStringLiteral("quarter.pdf"));
-  Printing printing(file, DateFromParts(2011, 3, 31));
-  printing.preview.cmdPrint_Click();
-  EXPECT_TRUE(printing.fakes.boxes.shown.empty());
+QByteArray BytesOf(const QString& file) {
   QFile pdf(file);
-  ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
-  EXPECT_EQ(pdf.readAll().count("/Type /Page\n"), 3);  // and no blank sheet behind them
+  EXPECT_TRUE(pdf.open(QIODevice::ReadOnly));
+  return pdf.readAll();
 }
 
-TEST(Printing, TellsThatItCannotPrint) {
-  Printing printing(QStringLiteral("/nowhere/at/all.pdf"), DateFromParts(2011, 1, 2));
+// An ASCII text as a document's title has it.
+QByteArray Utf16(std::string_view text) {
+  QByteArray bytes;
+  for (const char c : text) bytes.append('\0').append(c);
+  return bytes;
+}
+
+// A page of 909 by 682 logical pixels, as sharp as the screen.
+TEST(Printing, GivesAPageOfPixelsAndASheetForEachMonth) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(u"quarter.pdf"_s);
+  Printing printing(DateFromParts(2011, 3, 31), file);
+  const int ratio = qRound(qApp->devicePixelRatio());
+  const forms::PicturePtr page = report::LoadPage(1);
+  EXPECT_NEAR(page->width, 13635, 1);
+  const forms::Raster& dots = *std::get<forms::Dots>(page->items.at(0)).raster;
+  EXPECT_EQ(std::tuple(dots.width, dots.height), std::tuple(909 * ratio, 682 * ratio));
+  printing.preview.cmdPrint_Click();
+  EXPECT_TRUE(printing.fakes.boxes.shown.empty());
+  const QByteArray pdf = BytesOf(file);
+  EXPECT_EQ(pdf.count("/Type /Page\n"), 3);  // and no blank sheet behind them
+  EXPECT_EQ(pdf.count(QByteArray("/Width ") + QByteArray::number(909 * ratio)), 3);
+}
+
+TEST(Printing, NamesAFileThatItCannotWrite) {
+  Printing beginning(DateFromParts(2011, 1, 2), u"/nowhere/at/all.pdf"_s);
+  beginning.preview.cmdPrintPage_Click();
+  EXPECT_EQ(beginning.Told(), "Printing Cancelled: The file /nowhere/at/all.pdf cannot be written");
+
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(u"cut.pdf"_s);
+  Printing ending(DateFromParts(2011, 2, 1), file);
+  const support::FullDiskScope full(4096);
+  ending.preview.cmdPrint_Click();
+  EXPECT_EQ(ending.Told(), "The file " + file.toStdString() +
+                               " cannot be written. Do you want to continue with the next page?");
+}
+
+struct Sheet : forms::Form {
+  Sheet() : Form("Sheet", "", 6000, 4000) { picture = forms::NewPicture(6000, 4000); }
+  CONTROL(PictureBox, Rule, {.place = {300, 200, 5400, 15}});
+};
+
+TEST(DirectPages, TakeAFormsImageWithoutAnOffsetAndPaintItElsewhere) {
+  Printing printing(DateFromParts(2011, 1, 1));
+  Sheet sheet;
+  const auto& box = printing.preview.PIC;
+  for (int time = 1; time <= 2; ++time) {  // the second image replaces the first
+    printing.preview.setPage(sheet);
+    ASSERT_EQ(box.picture->items.size(), 2U);
+    EXPECT_EQ(std::get<forms::Inset>(box.picture->items[0]),
+              (forms::Inset{sheet.picture, {}, 6000, 4000}));
+    EXPECT_EQ(std::get<forms::Inset>(box.picture->items[1]).width, 5400);
+  }
+  printing.preview.setPage2(sheet, 0, 500);
+  ASSERT_EQ(box.picture->items.size(), 4U);
+  EXPECT_EQ(std::get<forms::Inset>(box.picture->items[2]).at, (forms::Point{0, 500}));
+}
+
+// Without a printer the dialog prints into a file.
+struct PrintDialog : testing::Test {
+  PrintDialog() {
+    QObject::connect(&poll, &QTimer::timeout, [this] {
+      auto* const dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return;
+      poll.stop();
+      for (const char* choice : {"gbPrintRange", "reverse"}) {
+        offersOtherPages |= dialog->findChild<QWidget*>(QLatin1String(choice))->isEnabled();
+      }
+      owner = dialog->windowHandle()->transientParent();
+      device = dialog->printer();
+      auto* const name = dialog->findChild<QLineEdit*>(u"filename"_s);
+      proposed = name->text();
+      name->setText(file);
+      dialog->accept();
+    });
+    poll.start(5);
+  }
+  void SetUp() override {
+    if (!QPrinterInfo::availablePrinterNames().isEmpty()) GTEST_SKIP() << "would print on paper";
+  }
+
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(u"both.pdf"_s);
+  QTimer poll;
+  bool offersOtherPages = false;
+  const QWindow* owner = nullptr;
+  QPrinter* device = nullptr;
+  QString proposed;
+};
+
+TEST_F(PrintDialog, PrintsIntoAFileAfterThereWasNoPrinter) {
+  Printing printing(DateFromParts(2011, 2, 1));
   printing.preview.cmdPrintPage_Click();
-  EXPECT_EQ(printing.fakes.boxes.shown.at(0).text, "Printing Cancelled: Path/File access error");
+  EXPECT_EQ(printing.Told(), "Printing Cancelled: There is no printer");
+
+  FormWindow& window = printing.host.WindowOf(printing.preview);
+  window.findChild<QAbstractButton*>(u"cmdPrint"_s)->click();
+  EXPECT_EQ(printing.fakes.boxes.shown.size(), 1U);
+  EXPECT_FALSE(offersOtherPages);
+  EXPECT_EQ(owner, window.windowHandle());
+  EXPECT_TRUE(proposed.endsWith(u"/Durvela January 2011 to February 2011, Delhi.pdf"_s));
+  const QByteArray pdf = BytesOf(file);
+  EXPECT_EQ(pdf.count("/Type /Page\n"), 2);
+  EXPECT_EQ(pdf.count(Utf16("Durvela January 2011 to February 2011, Delhi")), 1);
+}
+
+TEST_F(PrintDialog, NamesAFileThatTakesNoFurtherPage) {
+  QtPrinter printer;
+  printer.AskUser();
+  printer.Print("one");
+  printer.NewPage();
+  device->paintEngine()->end();
+  printer.Print("two");
+  EXPECT_EQ(support::FailureOf([&] { printer.NewPage(); }),
+            "The file " + file.toStdString() + " cannot be written");
+  printer.EndDoc();
 }
 
 }  // namespace
