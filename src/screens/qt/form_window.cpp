@@ -6,10 +6,12 @@
 #include <QPainter>
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "screens/qt/dialog_owner.h"
 #include "screens/qt/qt_painting.h"
 #include "screens/qt/run_handler.h"
+#include "screens/qt/window_place.h"
 
 namespace screens::qt {
 namespace {
@@ -102,7 +104,16 @@ void FormWindow::Dispatch(std::string_view step, const std::function<void()>& ha
   if (retired_ && handlers_ == 0) deleteLater();
 }
 
+void FormWindow::showEvent(QShowEvent* event) {
+  if (!event->spontaneous()) fitted_ = false;
+}
+
+// When a window is first painted, the desktop has given it its frame.
 void FormWindow::paintEvent(QPaintEvent*) {
+  if (!std::exchange(fitted_, true)) {
+    QMetaObject::invokeMethod(
+        this, [this] { FitOnScreen(*this); }, Qt::QueuedConnection);
+  }
   QPainter painter(this);
   painter.fillRect(rect(), ToQt(shownColour_));
   if (!shownPicture_) return;

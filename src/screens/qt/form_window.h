@@ -34,6 +34,7 @@ class FormWindow : public QWidget {
   void HandlerDone();   // which may have changed other forms too
 
  protected:
+  void showEvent(QShowEvent*) override;
   void paintEvent(QPaintEvent*) override;
   void resizeEvent(QResizeEvent*) override;
   void moveEvent(QMoveEvent*) override;
@@ -72,6 +73,7 @@ class FormWindow : public QWidget {
   forms::WindowState shownState_ = forms::WindowState::Normal;
   const forms::Control* shownFocus_ = nullptr;
   bool active_ = false;
+  bool fitted_ = false;
   int handlers_ = 0;  // running, one inside another where one lets the event loop run
   bool retired_ = false;
 };

@@ -4,6 +4,7 @@
 
 #include "screens/qt/form_window.h"
 #include "screens/qt/qt_painting.h"
+#include "screens/qt/window_place.h"
 
 namespace screens::qt {
 namespace {
@@ -47,7 +48,7 @@ void FormWindow::MirrorBackground() {
 
 // Only what the form itself has changed; the user's own changes have come in by resizeEvent.
 void FormWindow::MirrorSize() {
-  setMinimumSize(ToPixels(form_.minimumWidth, form_.minimumHeight));
+  setMinimumSize(ToPixels(form_.minimumWidth, form_.minimumHeight).boundedTo(RoomOnScreen(*this)));
   const QSize wanted = ToPixels(form_.scaleWidth, form_.scaleHeight);
   if (std::exchange(shownSize_, wanted) != wanted) resize(wanted);
 }

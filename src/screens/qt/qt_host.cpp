@@ -2,10 +2,11 @@
 
 #include <QEventLoop>
 #include <QPointer>
-#include <QScreen>
 #include <QWindow>
 #include <cstdlib>
 #include <vector>
+
+#include "screens/qt/window_place.h"
 
 namespace screens::qt {
 
@@ -47,6 +48,7 @@ void QtHost::Show(forms::Form& form) {
   window.Mirror();
   window.setWindowModality(Qt::NonModal);
   window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  if (!window.isVisible()) FitOnScreen(window);
   window.show();
   window.raise();
   window.activateWindow();
@@ -59,8 +61,11 @@ void QtHost::ShowModal(forms::Form& form, forms::Form& owner) {
   window->hide();  // a modality takes effect at the next show
   window->setWindowModality(Qt::ApplicationModal);
   window->winId();  // makes the native window, which alone is told its owner
-  window->windowHandle()->setTransientParent(WindowOf(owner).windowHandle());
-  CentreOn(WindowOf(owner), *window);
+  const FormWindow& behind = WindowOf(owner);
+  window->windowHandle()->setTransientParent(behind.windowHandle());
+  window->setScreen(behind.screen());
+  FitOnScreen(*window);
+  CentreOn(behind, *window);
   QEventLoop until;
   QObject::connect(window, &FormWindow::Hidden, &until, &QEventLoop::quit);
   QObject::connect(window, &QObject::destroyed, &until, &QEventLoop::quit);
@@ -72,17 +77,6 @@ void QtHost::ShowModal(forms::Form& form, forms::Form& owner) {
   } else {
     until.exec();
   }
-}
-
-void QtHost::CentreOn(const FormWindow& owner, FormWindow& window) {
-  QRect place(QPoint(), window.size());
-  place.moveCenter(owner.geometry().center());
-  const QRect screen = owner.screen()->availableGeometry();
-  place.moveLeft(
-      qBound(screen.left(), place.left(), qMax(screen.left(), screen.right() - place.width())));
-  place.moveTop(
-      qBound(screen.top(), place.top(), qMax(screen.top(), screen.bottom() - place.height())));
-  window.move(place.topLeft());
 }
 
 void QtHost::Hide(forms::Form& form) {

@@ -35,7 +35,6 @@ class QtHost : public forms::FormHost {
 
  private:
   void MirrorOthers(const FormWindow* window);
-  static void CentreOn(const FormWindow& owner, FormWindow& window);
 
   std::map<const forms::Form*, FormWindow*> windows_;
   std::map<forms::Control*, forms::PicturePage> pages_;

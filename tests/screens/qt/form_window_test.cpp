@@ -17,6 +17,7 @@ using namespace Qt::StringLiterals;
 struct DashboardWindow : testing::Test, Dashboard {
   DashboardWindow() {
     toolkit.Show(form);
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     QApplication::processEvents();
   }
 

@@ -1,0 +1,85 @@
+// Where windows open on a screen of 800 by 800 pixels, each with a frame of 2 pixels.
+
+#include "screens/qt/window_place.h"
+
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QTest>
+#include <QTimer>
+
+#include "screens/qt/qt_host.h"
+
+namespace screens::qt {
+namespace {
+
+struct SizedForm : forms::Form {
+  SizedForm(float width, float height)
+      : Form("SizedForm", "Sized", width * kTwips, height * kTwips) {
+    minimumWidth = scaleWidth;
+    minimumHeight = scaleHeight;
+  }
+  static constexpr auto kTwips = static_cast<float>(kTwipsPerPixel);
+};
+
+struct WindowPlace : testing::Test {
+  QRect Shown(forms::Form& form) {
+    FormWindow& window = host.WindowOf(form);
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    QTest::qWait(0);  // for what its first painting has put off
+    return window.frameGeometry();
+  }
+
+  QRect ShownModal(forms::Form& form) {
+    QRect place;
+    QTimer::singleShot(0, [&] {
+      place = Shown(form);
+      host.Hide(form);
+    });
+    host.ShowModal(form, owner);
+    return place;
+  }
+
+  QRect MoveOwner(int left, int top) {
+    host.Show(owner);
+    Shown(owner);
+    host.WindowOf(owner).move(left, top);
+    return Shown(owner);
+  }
+
+  SizedForm owner{300, 200}, dialog{200, 100}, large{2000, 1500};
+  QtHost host;
+  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+};
+
+TEST_F(WindowPlace, IsTheScreenForALargerWindow) {
+  host.Show(large);
+  EXPECT_EQ(host.WindowOf(large).size().boundedTo(screen.size()), host.WindowOf(large).size());
+  EXPECT_EQ(Shown(large), screen);
+  EXPECT_EQ(large.scaleWidth, static_cast<float>(screen.width() - 4) * SizedForm::kTwips);
+  host.WindowOf(large).Mirror();
+  EXPECT_EQ(Shown(large), screen);  // though its form's least size is larger
+  host.Unload(large);
+  MoveOwner(100, 100);
+  EXPECT_EQ(ShownModal(large), screen);
+}
+
+TEST_F(WindowPlace, OfAModalWindowIsTheMiddleOfItsOwner) {
+  const QRect behind = MoveOwner(250, 350);
+  EXPECT_EQ(ShownModal(dialog), behind.adjusted(50, 50, -50, -50));
+}
+
+TEST_F(WindowPlace, OfAModalWindowIsOnTheScreen) {
+  QWidget behind, before;
+  before.resize(200, 100);
+  behind.setGeometry(-280, 790, 300, 200);
+  CentreOn(behind, before);
+  EXPECT_EQ(before.geometry().bottomLeft(), screen.bottomLeft());
+  behind.move(790, -180);
+  CentreOn(behind, before);
+  EXPECT_EQ(before.geometry().topRight(), screen.topRight());
+}
+
+}  // namespace
+}  // namespace screens::qt
