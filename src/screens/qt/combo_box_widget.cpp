@@ -12,7 +12,8 @@ namespace screens::qt {
 namespace {
 
 constexpr int kEntriesShown = 14;
-constexpr int kArrowInset = 14;  // pixels from the right edge to its middle
+constexpr int kArrowInset = 14;          // pixels from the right edge to its middle
+constexpr double kLeastLines = 4.0 / 3;  // its height in those of its font
 
 }  // namespace
 
@@ -36,10 +37,16 @@ void ComboBoxWidget::Mirror() {
     for (int i = 0; i < control_.items->ListCount(); ++i) addItem(ToQt(control_.items->List(i)));
   }
   if (currentIndex() != control_.items->ListIndex()) setCurrentIndex(control_.items->ListIndex());
-  if (!TakeProperties()) return;
+  if (TakeProperties()) MirrorLook();
+}
+
+void ComboBoxWidget::MirrorLook() {
   const forms::Properties& now = control_;
-  Dress(*this, control_, PlaceInPixels(control_));
   setFont(ToQt(now.font));
+  // Resizing leaves the height of a drop-down alone, but enlarges its font.
+  QRect place = PlaceInPixels(control_);
+  place.setHeight(qMax(place.height(), qRound(kLeastLines * fontMetrics().height())));
+  Dress(*this, control_, place);
   name_->setText(accessibleName());
 }
 

@@ -22,6 +22,8 @@ class ComboBoxWidget : public QComboBox, public ControlView {
   void wheelEvent(QWheelEvent*) override;
 
  private:
+  void MirrorLook();
+
   QLabel* name_;  // for assistive programs, which are told what is chosen in place of a name
   bool entriesChanged_ = true;
 };

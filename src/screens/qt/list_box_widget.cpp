@@ -121,11 +121,26 @@ void ListBoxWidget::Mirror() {
   if (std::exchange(entriesChanged_, false)) MirrorEntries();
   MirrorSelection();
   mirroring_ = false;
+  const std::string searched = shown_ ? shown_->emphasis : "";
   if (!TakeProperties()) return;
-  const forms::Properties& now = control_;
+  MirrorLook();
+  // A search that finds the same entry again brings it back too.
+  if (control_.emphasis != searched) scrollTo(currentIndex(), PositionAtTop);
+}
+
+// In another size the same row stays first, and the chosen one in view.
+void ListBoxWidget::MirrorLook() {
+  const auto measures = [this] { return std::pair(size(), font().pixelSize()); };
+  const auto before = measures();
+  const QModelIndex first = indexAt({0, 0}), chosen = currentIndex();
+  const bool inView = viewport()->rect().contains(visualRect(chosen).center());
   Dress(*this, control_, PlaceInPixels(control_));
-  setFont(ToQt(now.font));
+  setFont(ToQt(control_.font));
   viewport()->update();
+  if (measures() == before) return;
+  doItemsLayout();
+  scrollTo(first, PositionAtTop);
+  if (inView) scrollTo(chosen);
 }
 
 // While entries come in, the user may look through those that are there.
@@ -150,6 +165,11 @@ void ListBoxWidget::MirrorSelection() {
   if (!index.isValid()) return;
   const bool neighbour = before >= 0 && std::abs(now - before) == 1;
   scrollTo(index, neighbour ? EnsureVisible : PositionAtTop);
+}
+
+void ListBoxWidget::showEvent(QShowEvent* event) {
+  QListView::showEvent(event);
+  scrollTo(currentIndex());
 }
 
 void ListBoxWidget::paintEvent(QPaintEvent* event) {

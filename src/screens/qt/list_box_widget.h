@@ -36,6 +36,7 @@ class ListBoxWidget : public QListView, public ControlView {
   void Mirror() override;
 
  protected:
+  void showEvent(QShowEvent*) override;
   void paintEvent(QPaintEvent*) override;
   void focusInEvent(QFocusEvent*) override;
   void mouseMoveEvent(QMouseEvent*) override;
@@ -48,6 +49,7 @@ class ListBoxWidget : public QListView, public ControlView {
   void TakeNoteOfChange();
   void MirrorEntries();
   void MirrorSelection();
+  void MirrorLook();
 
   EntriesModel model_;
   QTimer soon_;            // entries that come in one after another are shown some at a time

@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListView>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
@@ -24,6 +25,23 @@ struct PickerWindow : testing::Test, Picker {
     form.Load("India", "Delhi", caller);
     window.show();
     window.activateWindow();
+    QApplication::processEvents();
+  }
+
+  // Behind the others.
+  void AddPlaces(int count) {
+    for (int i = 0; i < count; ++i) form.lstCity.items->AddItem("Zira " + std::to_string(100 + i));
+    window.Mirror();
+  }
+
+  void ScrollDown() { list->verticalScrollBar()->setValue(list->verticalScrollBar()->maximum()); }
+
+  bool IsInView(int row) const {
+    return list->viewport()->rect().contains(list->visualRect(list->model()->index(row, 0)));
+  }
+
+  void Resize(int width, int height) {
+    window.resize(width, height);
     QApplication::processEvents();
   }
 
@@ -61,6 +79,43 @@ TEST_F(PickerWindow, ShowsTheCountryThatIsChosenWithoutAChoiceOfAPlace) {
   EXPECT_FALSE(list->currentIndex().isValid());
   EXPECT_EQ(Picker::Chosen(), "none");
   EXPECT_EQ(Chosen(list, Qt::Key_Down), u"Nadi, Western, Fiji");
+}
+
+TEST_F(PickerWindow, KeepsItsTextsWholeAndItsRowWhereItIsResized) {
+  AddPlaces(100);
+  Select(form.lstCity, 60);
+  window.Mirror();
+  for (const auto& [width, height] : {std::pair(636, 524), {400, 780}, {700, 300}, {318, 262}}) {
+    Resize(width, height);
+    EXPECT_GE(countries->height(), countries->fontMetrics().height() + 4);
+    EXPECT_LE(countries->geometry().bottom(), text->y());
+    EXPECT_TRUE(IsInView(60)) << width << " by " << height;
+  }
+  // A user who looks elsewhere stays there.
+  list->scrollTo(list->model()->index(20, 0), QListView::PositionAtTop);
+  Resize(636, 524);
+  EXPECT_EQ(list->indexAt({0, 0}).row(), 20);
+}
+
+TEST_F(PickerWindow, ComesBackToThePlaceThatIsSought) {
+  AddPlaces(100);
+  QTest::keyClicks(text, u"del"_s);
+  ScrollDown();
+  QTest::keyClicks(text, u"h"_s);
+  EXPECT_EQ(Picker::Chosen(), "Delhi, Delhi, India");
+  EXPECT_TRUE(IsInView(list->currentIndex().row()));
+  ScrollDown();
+  window.hide();
+  window.show();
+  EXPECT_TRUE(IsInView(list->currentIndex().row()));
+}
+
+TEST_F(PickerWindow, ShowsItsLastRowAndRowsBesideTheirScrollBar) {
+  AddPlaces(100);
+  ScrollDown();
+  EXPECT_TRUE(IsInView(103));
+  EXPECT_TRUE(list->verticalScrollBar()->isVisible());
+  EXPECT_LE(list->viewport()->geometry().right(), list->verticalScrollBar()->parentWidget()->x());
 }
 
 TEST_F(PickerWindow, HidesBehindAnotherWindow) {
