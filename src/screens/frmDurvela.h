@@ -48,7 +48,7 @@ class frmDurvela : public ScaledForm {
   CONTROL(Label, CountryCaption, timetable_layout::Caption(296, "Country"));
   CONTROL(Label, lblCountry, timetable_layout::Value(296));
   CONTROL(Label, CityCaption, timetable_layout::Caption(324, "City"));
-  CONTROL(Label, lblCity, timetable_layout::Value(324));
+  CONTROL(Label, lblCity, timetable_layout::LongValue(324));
   CONTROL(Label, LattitudeCaption, timetable_layout::Caption(352, "Lattitude"));
   CONTROL(Label, lblLat, timetable_layout::Value(352));
   CONTROL(Label, LongitudeCaption, timetable_layout::Caption(380, "Longitude"));

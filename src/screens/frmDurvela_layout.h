@@ -88,6 +88,13 @@ inline Properties Value(float top) {
           .alignment = Alignment::Right};
 }
 
+// A text that may be long, beside a short caption.
+inline Properties LongValue(float top) {
+  Properties value = Value(top);
+  value.place = At(92, top, 248, 24);
+  return value;
+}
+
 inline Properties CardTitle(float top, std::string_view caption) {
   return {.place = At(44, top, 296, 28),
           .caption = std::string(caption),

@@ -2,10 +2,10 @@
 
 #include <QPainter>
 #include <QPointer>
-#include <QStyledItemDelegate>
 #include <QWheelEvent>
 #include <utility>
 
+#include "screens/qt/entry_delegate.h"
 #include "screens/qt/qt_painting.h"
 
 namespace screens::qt {
@@ -20,7 +20,7 @@ constexpr double kLeastLines = 4.0 / 3;  // its height in those of its font
 ComboBoxWidget::ComboBoxWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
     : QComboBox(parent), ControlView(control, std::move(dispatch)), name_(new QLabel(parent)) {
   setMaxVisibleItems(kEntriesShown);
-  setItemDelegate(new QStyledItemDelegate(this));  // takes the rows' height from the style sheet
+  setItemDelegate(new EntryDelegate(this));  // takes the rows' height from the style sheet
   control_.items->onEntriesChanged = [self = QPointer(this)] {
     if (self) self->entriesChanged_ = true;
   };
@@ -38,6 +38,12 @@ void ComboBoxWidget::Mirror() {
   }
   if (currentIndex() != control_.items->ListIndex()) setCurrentIndex(control_.items->ListIndex());
   if (TakeProperties()) MirrorLook();
+  setToolTip(ToQt(control_.toolTip));
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  const QRect room =
+      style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+  if (fontMetrics().horizontalAdvance(currentText()) > room.width()) setToolTip(currentText());
 }
 
 void ComboBoxWidget::MirrorLook() {

@@ -127,21 +127,31 @@ void ControlWidget::PaintRendered(QPainter& painter, const QRectF& into) {
   painter.drawPixmap(into.topLeft(), rendered_);
 }
 
-void ControlWidget::PaintCaption(QPainter& painter) {
+QFont ControlWidget::CaptionFont() const {
   const QString text = screens::qt::ToQt(control_.caption);
-  const double width = Body().width();
   const QFont font = screens::qt::ToQt(control_.font);
-  painter.setFont(control_.wordWrap ? FittedInto(font, text, Body().size())
-                                    : Fitted(font, text, width));
+  return control_.wordWrap ? FittedInto(font, text, Body().size())
+                           : Fitted(font, text, Body().width());
+}
+
+// A line that is too long even in the smallest font is cut short.
+QString ControlWidget::ShownCaption() const {
+  const QString text = screens::qt::ToQt(control_.caption);
+  return control_.wordWrap
+             ? text
+             : QFontMetrics(CaptionFont()).elidedText(text, Qt::ElideRight, qFloor(Body().width()));
+}
+
+void ControlWidget::PaintCaption(QPainter& painter) {
+  painter.setFont(CaptionFont());
   painter.setPen(screens::qt::ToQt(control_.foreColour));
   const Qt::Alignment alignment = ToQt(control_.alignment);
   if (control_.wordWrap) {
-    painter.drawText(Body(), int(alignment | Qt::AlignTop) | Qt::TextWordWrap, text);
-    return;
+    painter.drawText(Body(), int(alignment | Qt::AlignTop) | Qt::TextWordWrap, ShownCaption());
+  } else {
+    painter.drawText(Body(), int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine,
+                     ShownCaption());
   }
-  const QString shown =
-      painter.fontMetrics().elidedText(text, Qt::ElideRight, static_cast<int>(width));
-  painter.drawText(Body(), int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
 }
 
 }  // namespace screens::qt

@@ -16,12 +16,6 @@ ControlWidget::ControlWidget(forms::Control& control, Dispatch dispatch, QWidget
     : QWidget(parent), ControlView(control, std::move(dispatch)) {
   setMouseTracking(true);
   setAttribute(Qt::WA_NoSystemBackground);
-  // A label without a click of its own lets the mouse through to what lies below it. What may hold
-  // other controls does not: the mouse would pass them by too.
-  const bool deaf =
-      !control.onClick && !control.onMouseMove && !control.onMouseDown && !control.onMouseWheel;
-  setAttribute(Qt::WA_TransparentForMouseEvents,
-               deaf && control.toolTip.empty() && control.kind != forms::Kind::PictureBox);
   Mirror();
 }
 
@@ -30,7 +24,17 @@ void ControlWidget::Mirror() {
   if (!TakeProperties()) return;
   const forms::Properties& now = control_;
   Dress(*this, control_, Geometry());
-  if (control_.kind == forms::Kind::Label) setVisible(now.visible && !now.caption.empty());
+  if (control_.kind == forms::Kind::Label) {
+    setVisible(now.visible && !now.caption.empty());
+    const QString caption = ToQt(now.caption);
+    if (now.toolTip.empty() && ShownCaption() != caption) setToolTip(caption);
+  }
+  // What neither answers nor shows a tool tip lets the mouse through to what lies below it. What
+  // may hold other controls does not: the mouse would pass them by too.
+  const bool deaf =
+      !control_.onClick && !control_.onMouseMove && !control_.onMouseDown && !control_.onMouseWheel;
+  setAttribute(Qt::WA_TransparentForMouseEvents,
+               deaf && toolTip().isEmpty() && control_.kind != forms::Kind::PictureBox);
   setCursor(now.grabCursor                  ? Qt::ClosedHandCursor
             : now.handCursor && now.enabled ? Qt::PointingHandCursor
                                             : Qt::ArrowCursor);

@@ -36,6 +36,8 @@ class ControlWidget : public QWidget, public ControlView {
   QRect Geometry() const;
   QRectF Body() const;  // without the margin
   QRectF PlaceOfPicture() const;
+  QFont CaptionFont() const;
+  QString ShownCaption() const;
   void PaintLine(QPainter& painter);
   void PaintBody(QPainter& painter);
   void PaintShadow(QPainter& painter);

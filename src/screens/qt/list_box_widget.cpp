@@ -5,13 +5,14 @@
 #include <QPainter>
 #include <QPointer>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <utility>
 
 #include "foundation/text.h"
 #include "screens/palette.h"
+#include "screens/qt/entry_delegate.h"
 #include "screens/qt/qt_painting.h"
 
 namespace screens::qt {
@@ -24,10 +25,10 @@ constexpr double kHoverOpacity = 0.4;
 constexpr int kShownEvery = 50;  // milliseconds
 
 // A row: the typed beginning bold, the chosen one on gold.
-class RowDelegate : public QStyledItemDelegate {
+class RowDelegate : public EntryDelegate {
  public:
   RowDelegate(const forms::Control& control, QObject* parent)
-      : QStyledItemDelegate(parent), control_(control) {}
+      : EntryDelegate(parent), control_(control) {}
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
     return {0, std::max(kRowHeight, option.fontMetrics.height() + kRowMargin)};
@@ -42,28 +43,43 @@ class RowDelegate : public QStyledItemDelegate {
     }
     painter->setPen(ToQt(control_.foreColour));
     QRect room = option.rect.adjusted(kRowMargin, 0, -kRowMargin, 0);
-    const std::string text = index.data().toString().toStdString();
-    const std::string_view bold = Emphasised(text);
-    QFont font = option.font;
-    font.setBold(true);
-    room.setLeft(room.left() + Draw(*painter, font, room, ToQt(bold)));
-    Draw(*painter, option.font, room, ToQt(std::string_view(text).substr(bold.size())));
+    for (const auto& [text, font] : PartsOf(option, index)) {
+      const QFontMetrics metrics(font);
+      painter->setFont(font);
+      painter->drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                        metrics.elidedText(text, Qt::ElideRight, room.width()));
+      room.setLeft(room.left() + metrics.horizontalAdvance(text));
+    }
+  }
+
+ protected:
+  int WidthOf(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    int width = 2 * kRowMargin;
+    for (const auto& [text, font] : PartsOf(option, index)) {
+      width += QFontMetrics(font).horizontalAdvance(text);
+    }
+    return width;
   }
 
  private:
+  struct Part {
+    QString text;
+    QFont font;
+  };
+
+  std::array<Part, 2> PartsOf(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const std::string text = index.data().toString().toStdString();
+    const std::string_view bold = Emphasised(text);
+    QFont boldFont = option.font;
+    boldFont.setBold(true);
+    return {Part{ToQt(bold), boldFont},
+            Part{ToQt(std::string_view(text).substr(bold.size())), option.font}};
+  }
+
   std::string_view Emphasised(std::string_view text) const {
     if (!foundation::BeginsWith(text, control_.emphasis)) return {};
     const auto count = foundation::Characters(control_.emphasis).size();
     return foundation::FirstCharacters(text, static_cast<int>(count));
-  }
-
-  // Its width.
-  static int Draw(QPainter& painter, const QFont& font, const QRect& room, const QString& text) {
-    painter.setFont(font);
-    const QFontMetrics metrics(font);
-    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     metrics.elidedText(text, Qt::ElideRight, room.width()));
-    return metrics.horizontalAdvance(text);
   }
 
   const forms::Control& control_;

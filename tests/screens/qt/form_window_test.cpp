@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "screens/qt/qt_host.h"
+#include "screens/qt/qt_painting.h"
 #include "support/dashboard.h"
 
 namespace screens::qt {
@@ -87,6 +88,19 @@ TEST_F(DashboardWindow, MovesAlongItsMenuByKeys) {
   EXPECT_EQ(press({Qt::Key_Home}), "1");
   EXPECT_EQ(press({Qt::Key_Up, Qt::Key_Down}), "1");
   EXPECT_EQ(press({Qt::Key_Tab}), "2");
+}
+
+// One that is cut short shows all of it in a tool tip, and only then gets in the mouse's way.
+TEST_F(DashboardWindow, ShowsALongPlaceInATip) {
+  const auto* city = window.findChild<QWidget*>(u"lblCity"_s);
+  EXPECT_TRUE(city->toolTip().isEmpty());
+  EXPECT_NE(Under(form.lblCity), city);
+  const std::string place = "Valle Huejucar (Fraccionamiento Popular)(Aguascalientes)";
+  SaveDefault("city", place);
+  form.Timer1_Timer();
+  window.Mirror();
+  EXPECT_EQ(city->toolTip(), ToQt(place));
+  EXPECT_EQ(Under(form.lblCity), city);
 }
 
 }  // namespace

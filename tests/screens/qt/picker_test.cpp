@@ -5,15 +5,18 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
 #include "screens/find_in_list.h"
 #include "screens/qt/qt_host.h"
 #include "screens/qt/qt_machine.h"
+#include "screens/qt/qt_painting.h"
 
 namespace screens::qt {
 namespace {
@@ -116,6 +119,32 @@ TEST_F(PickerWindow, ShowsItsLastRowAndRowsBesideTheirScrollBar) {
   EXPECT_TRUE(IsInView(103));
   EXPECT_TRUE(list->verticalScrollBar()->isVisible());
   EXPECT_LE(list->viewport()->geometry().right(), list->verticalScrollBar()->parentWidget()->x());
+}
+
+TEST_F(PickerWindow, ShowsLongTextsInTips) {
+  const auto tipOver = [](QAbstractItemView* view, int row) {
+    const QPoint at = view->visualRect(view->model()->index(row, 0)).center();
+    QHelpEvent help(QEvent::ToolTip, at, view->viewport()->mapToGlobal(at));
+    QToolTip::hideText();
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+    QApplication::sendEvent(view->viewport(), &help);
+    return QToolTip::isVisible() ? QToolTip::text() : QString();
+  };
+  const std::string place = "Valle Huejucar (Fraccionamiento Popular), Aguascalientes";
+  form.lstCity.items->AddItem(place);
+  form.cmbCountry.items->AddItem(place);
+  window.Mirror();
+  const int last = form.cmbCountry.items->ListCount() - 1;
+  EXPECT_EQ(tipOver(list, 1), QString());
+  EXPECT_EQ(tipOver(list, 4), ToQt(place));
+  countries->showPopup();
+  EXPECT_EQ(tipOver(countries->view(), 0), QString());
+  EXPECT_EQ(tipOver(countries->view(), last), ToQt(place));
+  countries->hidePopup();
+  EXPECT_EQ(countries->toolTip(), QString());
+  form.cmbCountry.items->SetListIndex(last);
+  window.Mirror();
+  EXPECT_EQ(countries->toolTip(), ToQt(place));
 }
 
 TEST_F(PickerWindow, HidesBehindAnotherWindow) {

@@ -167,6 +167,12 @@ TEST_F(TimetableWindow, DropsItsCalendarDownByKeyAndMouse) {
   EXPECT_EQ(form.DT1.moment, foundation::DateFromParts(2011, 3, 19));
 }
 
+TEST_F(TimetableWindow, GivesALongPlaceTheRoomBesideItsCaption) {
+  form.lblCity.caption = "Leisure Village West(New Jersey)";
+  window.Mirror();
+  EXPECT_EQ(window.findChild<QWidget*>(u"lblCity"_s)->toolTip(), QString());  // it is not cut short
+}
+
 // What is drawn is seen, and a move of the form moves its window.
 TEST_F(TimetableWindow, ShowsItsPageAndMoves) {
   const auto page = [&] { return window.findChild<QWidget*>(u"frRes"_s)->grab().toImage(); };
