@@ -6,21 +6,14 @@
 
 #include "forms/moment_picker.h"
 #include "foundation/error.h"
-#include "foundation/resume.h"
 #include "screens/frmCity.h"
 #include "screens/place_labels.h"
-#include "screens/quick_view.h"
 
 namespace screens {
 namespace {
 
-using foundation::Resume;
-
 constexpr float kTwips = layout::kTwipsPerPixel;
 constexpr double kNoon = 0.5;
-constexpr float kMargin = 8 * kTwips;  // between frame and page
-constexpr float kScrollStep = 0.06F;   // of the page's width: a row and a little
-
 constexpr int kSlideInterval = 20;  // milliseconds
 constexpr float kSlideStep = 10 * kTwips;
 
@@ -49,9 +42,7 @@ frmDurvela::frmDurvela(Services services, forms::Form& dashboard, Ways ways)
     picker->onChange = [picker, remark] { remark->visible = !picker->refusal.empty(); };
   }
   Label9.onClick = [this] { OpenWebsite(services_.browser); };
-  VScroll1.onChange = [this] {
-    picRes.place.top = kMargin - static_cast<float>(VScroll1.scroll.value);
-  };
+  VScroll1.onChange = [this] { VScroll1_Change(); };
   picRes.onMouseWheel = [this](int steps) {
     SetScroll(VScroll1, VScroll1.scroll.value - steps * VScroll1.scroll.smallChange);
   };
@@ -87,35 +78,9 @@ void frmDurvela::Form_Resize() {
   FitPage();
 }
 
-// The page is as wide as its frame and keeps its shape; what stands below the frame is scrolled to.
-void frmDurvela::FitPage() {
-  const float width = frRes.place.width - VScroll1.place.width - kMargin;
-  const float shape = timetable_layout::kPageHeight / timetable_layout::kPageWidth;
-  const float scrolled =
-      picRes.place.height > 0 ? (kMargin - picRes.place.top) / picRes.place.height : 0;
-  picRes.place = {kMargin, kMargin, width, width * shape};
-  const float below = picRes.place.height + 2 * kMargin - frRes.place.height;
-  VScroll1.scroll = {.maximum = static_cast<int>(std::max(0.0F, below)),
-                     .smallChange = static_cast<int>(kScrollStep * width),
-                     .largeChange = static_cast<int>(frRes.place.height)};
-  SetScroll(VScroll1, static_cast<int>(scrolled * picRes.place.height));
-}
-
 void frmDurvela::Form_KeyDown(forms::KeyPress& press) {
   press.handled = press.key == forms::Key::Escape;
   if (press.handled) cmdClose_Click();
-}
-
-// An error ends the list where it arose, without a word.
-void frmDurvela::cmdShow_Click() {
-  Resume([&] {
-    CopyPlace(PlaceLabelsOf(*this), services_.session.Current());
-    const foundation::DateTimeFields time = foundation::FieldsOf(dtTime.moment);
-    const foundation::DateTime start =
-        DT1.moment + foundation::TimeFromParts(time.hour, time.minute, time.second);
-    DrawQuickView(services_.host.TargetOf(picRes), start, DT2.moment, services_.session);
-  });
-  SetScroll(VScroll1, 0);  // a list begins at its first row
 }
 
 void frmDurvela::cmdPreview_Click() {

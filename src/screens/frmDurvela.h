@@ -83,6 +83,7 @@ class frmDurvela : public ScaledForm {
   void cmdClose_Click();
   void cmdMinimize_Click();
   void SaveTempVals();  // between maximised and normal
+  void VScroll1_Change();
   void lblTitle_MouseDown(forms::Point at);
   void lblTitle_MouseMove(forms::Point at);
   void lblTitle_MouseUp();
@@ -96,6 +97,7 @@ class frmDurvela : public ScaledForm {
   Services services_;
   forms::Form& dashboard_;
   Ways ways_;
+  float listEnd_ = 0;     // of the rows on the page, in twips
   bool picking_ = false;  // the picker is opening, or open
   bool moving_ = false;
   float pressedX_ = 0, pressedY_ = 0;

@@ -17,8 +17,8 @@ inline constexpr float kHeight = 680;
 inline constexpr float kFrameLeft = 384, kFrameTop = 88, kFrameWidth = 552, kFrameHeight = 568;
 inline constexpr float kScrollWidth = 16;
 
-// The page: rows of a month of 31 days in the size of its list.
-inline constexpr float kPageWidth = kFrameWidth - kScrollWidth;
+// The page: room for the rows of a month in the size of its list, in the narrowest window too.
+inline constexpr float kPageWidth = 400;
 inline constexpr float kPageHeight = 1000;
 
 inline Properties Head() {
@@ -122,14 +122,14 @@ inline Properties Frame() {
 inline Properties Page(forms::Control& frame) {
   return {.container = &frame,
           .place = At(0, 0, kPageWidth, kPageHeight),
-          .tag = "nr",  // it keeps its shape in the frame
+          .tag = "nr",  // its rows keep their size
           .spokenName = "Durvela of each day",
           .foreColour = palette::kInk};
 }
 
 inline Properties PageScroll(forms::Control& frame) {
   return {.container = &frame,
-          .place = At(kPageWidth, 0, kScrollWidth, kFrameHeight),
+          .place = At(kFrameWidth - kScrollWidth, 0, kScrollWidth, kFrameHeight),
           .spokenName = "Rows of the page",
           .tabStop = true,
           .tabIndex = 9};

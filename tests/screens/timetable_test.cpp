@@ -175,6 +175,27 @@ TEST(Timetable, MovesWithTheMouseOnItsTitle) {
   EXPECT_EQ(std::pair(t.form.left, t.form.top), std::pair(1530.0F, 2970.0F));
 }
 
+// A larger window shows more days, and the scroll bar covers none of them.
+TEST(Timetable, KeepsItsRowsInTheirSize) {
+  Timetable t;
+  const float pitch = 240 + 100, bottom = 31 * pitch - 100;
+  const auto shownAt = [&](int width, int height) {
+    t.form.scaleWidth = static_cast<float>(width) * layout::kTwipsPerPixel;
+    t.form.scaleHeight = static_cast<float>(height) * layout::kTwipsPerPixel;
+    t.form.Form_Resize();
+    const forms::Place &page = t.form.picRes.place, &frame = t.form.frRes.place;
+    EXPECT_LE(page.left + page.width, t.form.VScroll1.place.left);
+    SetScroll(t.form.VScroll1, t.form.VScroll1.scroll.maximum);
+    const float scale = page.width / (timetable_layout::kPageWidth * layout::kTwipsPerPixel);
+    EXPECT_LE(page.top + scale * bottom, frame.height);
+    SetScroll(t.form.VScroll1, 0);
+    return std::pair(scale, static_cast<int>((frame.height - page.top) / (scale * pitch)));
+  };
+  ExpectRows(shownAt, Row(720, 680, std::pair(1.0F, 24)), Row(960, 680, std::pair(1.0F, 24)),
+             Row(1366, 680, std::pair(1.0F, 24)), Row(1360, 510, std::pair(1.0F, 18)),
+             Row(1920, 1080, std::pair(1.0F, 39)), Row(360, 510, std::pair(0.5025F, 36)));
+}
+
 TEST(Timetable, ScrollsItsPageAndStopsItsSun) {
   Timetable t;
   const float& top = t.form.picRes.place.top;

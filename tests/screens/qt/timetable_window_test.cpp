@@ -11,10 +11,10 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
-#include <QWheelEvent>
 
 #include "screens/palette.h"
 #include "screens/qt/qt_painting.h"
+#include "screens/qt/wheel.h"
 #include "screens/qt/whole_program.h"
 #include "support/app_folder.h"
 #include "support/locales.h"
@@ -179,13 +179,13 @@ TEST_F(TimetableWindow, ShowsItsPageAndMoves) {
   const QImage month = page();
   EXPECT_EQ(Field(u"DT2"_s)->text(), u"5/April/2011");
   form.DT2.moment = foundation::DateFromParts(2011, 3, 6);
-  window.findChild<QPushButton*>(u"cmdShow"_s)->click();
+  auto* quickView = window.findChild<QPushButton*>(u"cmdShow"_s);
+  quickView->click();
   EXPECT_NE(page(), month);
+  form.DT2.moment = foundation::DateFromParts(2011, 4, 5);
+  quickView->click();
   // The mouse reaches the page inside its frame.
-  const QPointF over(600, 400);
-  QWheelEvent wheel(over, over, QPoint(), QPoint(0, -240), Qt::NoButton, Qt::NoModifier,
-                    Qt::NoScrollPhase, false);
-  QApplication::sendEvent(window.childAt(600, 400), &wheel);
+  EXPECT_TRUE(TakesWheel(*window.childAt(600, 400)));
   EXPECT_LT(form.picRes.place.top, 0);
   EXPECT_GT(window.findChild<QScrollBar*>(u"VScroll1"_s)->value(), 0);
   form.left += 300;

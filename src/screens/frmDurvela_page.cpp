@@ -1,0 +1,53 @@
+// The page of the timetable: how its list is drawn and scrolled.
+
+#include <algorithm>
+
+#include "foundation/resume.h"
+#include "screens/frmDurvela.h"
+#include "screens/place_labels.h"
+#include "screens/quick_view.h"
+
+namespace screens {
+namespace {
+
+using foundation::Resume;
+
+constexpr float kTwips = layout::kTwipsPerPixel;
+constexpr float kMargin = 8 * kTwips;  // above and below the page
+constexpr int kScrollStep = 480;       // twips: a row and a little
+
+}  // namespace
+
+// An error ends the list where it arose, without a word.
+void frmDurvela::cmdShow_Click() {
+  Resume([&] {
+    CopyPlace(PlaceLabelsOf(*this), services_.session.Current());
+    const foundation::DateTimeFields time = foundation::FieldsOf(dtTime.moment);
+    const foundation::DateTime start =
+        DT1.moment + foundation::TimeFromParts(time.hour, time.minute, time.second);
+    DrawQuickView(services_.host.TargetOf(picRes), start, DT2.moment, services_.session);
+  });
+  Resume([&] { listEnd_ = static_cast<float>(services_.host.TargetOf(picRes).CurrentY()); });
+  FitPage();
+  SetScroll(VScroll1, 0);  // a list begins at its first row
+}
+
+// The page keeps its size, unless the frame is too narrow. Rows below the frame are scrolled to.
+void frmDurvela::FitPage() {
+  constexpr float kWidth = timetable_layout::kPageWidth * kTwips;
+  constexpr float kHeight = timetable_layout::kPageHeight * kTwips;
+  const float scale = std::min(1.0F, (frRes.place.width - VScroll1.place.width) / kWidth);
+  const int scrolled = VScroll1.scroll.value;
+  picRes.place = {0, kMargin, scale * kWidth, scale * kHeight};
+  const float below = scale * std::min(listEnd_, kHeight) + 2 * kMargin - frRes.place.height;
+  VScroll1.scroll = {.maximum = static_cast<int>(std::max(0.0F, below)),
+                     .smallChange = kScrollStep,
+                     .largeChange = static_cast<int>(frRes.place.height)};
+  SetScroll(VScroll1, scrolled);
+}
+
+void frmDurvela::VScroll1_Change() {
+  picRes.place.top = kMargin - static_cast<float>(VScroll1.scroll.value);
+}
+
+}  // namespace screens

@@ -1,0 +1,19 @@
+// A wheel turned one step down over a widget.
+#pragma once
+
+#include <QApplication>
+#include <QWheelEvent>
+#include <QWidget>
+
+namespace screens::qt {
+
+// Whether the widget has used it, so that nothing else scrolls.
+inline bool TakesWheel(QWidget& widget) {
+  const QPointF over = QRectF(widget.rect()).center();
+  QWheelEvent wheel(over, widget.mapToGlobal(over), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&widget, &wheel);
+  return wheel.isAccepted();
+}
+
+}  // namespace screens::qt
