@@ -108,6 +108,7 @@ struct Properties {
   bool dragHandle = false;  // moves the form where only the screen can move windows
   bool hot = false;         // under the mouse, as far as the form says so
   bool pressed = false;
+  bool faded = false;  // shows what is out of date
   Look look = Look::Plain;
   PicturePtr picture;
   int interval = 0;  // a Timer's, in milliseconds; 0 is off

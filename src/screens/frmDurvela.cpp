@@ -26,6 +26,9 @@ frmDurvela::frmDurvela(Services services, forms::Form& dashboard, Ways ways)
       ways_(std::move(ways)) {
   backColour = palette::kPaper;
 
+  for (forms::Control* picker : {&DT1, &DT2, &dtTime}) {
+    picker->onChange = [this] { MarkOldList(); };
+  }
   cmdShow.onClick = [this] { cmdShow_Click(); };
   cmdPreview.onClick = [this] { cmdPreview_Click(); };
   cmdSave.onClick = [this] { cmdSave_Click(); };
@@ -116,6 +119,7 @@ void frmDurvela::cmdEditPlace_Click() {
   // Closed by the user while the places were being read.
   if (services_.host.IsShown(*this)) services_.host.ShowModal(picker, *this);
   picking_ = false;
+  MarkOldList();
 }
 
 void frmDurvela::cmdClose_Click() {

@@ -1,7 +1,9 @@
 // frmDurvela, the timetable: Durvela for every day of a range of dates at a place.
 #pragma once
 
+#include <array>
 #include <functional>
+#include <string>
 
 #include "report/make_report.h"
 #include "screens/contact.h"
@@ -66,6 +68,7 @@ class frmDurvela : public ScaledForm {
   CONTROL(Label, lblStatus, timetable_layout::Status());
   CONTROL(Label, Label9, timetable_layout::Details(kWebsite));
 
+  CONTROL(Label, lblOldList, timetable_layout::OldList());
   CONTROL(PictureBox, frRes, timetable_layout::Frame());
   CONTROL(PictureBox, picRes, timetable_layout::Page(frRes));
   CONTROL(VScrollBar, VScroll1, timetable_layout::PageScroll(frRes));
@@ -90,13 +93,23 @@ class frmDurvela : public ScaledForm {
   void Timer1_Timer();
 
  private:
+  // What a list is made from.
+  struct Wanted {
+    foundation::DateTime from = 0, to = 0, time = 0;
+    std::array<std::string, foundation::kPlaceSettings.size()> place;
+    friend bool operator==(const Wanted&, const Wanted&) = default;
+  };
+
   void FillFromDefaults();
   void FitPage();
+  Wanted ReadWanted();
+  void MarkOldList();
   void StartSlide();
 
   Services services_;
   forms::Form& dashboard_;
   Ways ways_;
+  Wanted shown_;
   float listEnd_ = 0;     // of the rows on the page, in twips
   bool picking_ = false;  // the picker is opening, or open
   bool moving_ = false;

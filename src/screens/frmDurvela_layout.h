@@ -20,6 +20,7 @@ inline constexpr float kScrollWidth = 16;
 // The page: room for the rows of a month in the size of its list, in the narrowest window too.
 inline constexpr float kPageWidth = 400;
 inline constexpr float kPageHeight = 1000;
+inline constexpr std::string_view kPageName = "Durvela of each day";
 
 inline Properties Head() {
   return {.place = At(0, 0, kWidth, 64), .backColour = palette::kEarth};
@@ -123,7 +124,7 @@ inline Properties Page(forms::Control& frame) {
   return {.container = &frame,
           .place = At(0, 0, kPageWidth, kPageHeight),
           .tag = "nr",  // its rows keep their size
-          .spokenName = "Durvela of each day",
+          .spokenName = std::string(kPageName),
           .foreColour = palette::kInk};
 }
 
@@ -133,6 +134,13 @@ inline Properties PageScroll(forms::Control& frame) {
           .spokenName = "Rows of the page",
           .tabStop = true,
           .tabIndex = 9};
+}
+
+// Above the frame.
+inline Properties OldList() {
+  return {.place = At(kFrameLeft, 66, kFrameWidth, 20),
+          .font = {.size = 9.375F, .bold = true},
+          .foreColour = palette::kDurvelaOnPaper};
 }
 
 inline Properties Slide() {

@@ -1,7 +1,8 @@
-// The page of the timetable: how its list is drawn and scrolled.
+// The page of the timetable: how its list is drawn, scrolled, and marked when it is out of date.
 
 #include <algorithm>
 
+#include "foundation/date_text.h"
 #include "foundation/resume.h"
 #include "screens/frmDurvela.h"
 #include "screens/place_labels.h"
@@ -30,6 +31,29 @@ void frmDurvela::cmdShow_Click() {
   Resume([&] { listEnd_ = static_cast<float>(services_.host.TargetOf(picRes).CurrentY()); });
   FitPage();
   SetScroll(VScroll1, 0);  // a list begins at its first row
+  shown_ = ReadWanted();
+  MarkOldList();
+}
+
+frmDurvela::Wanted frmDurvela::ReadWanted() {
+  Wanted wanted = {DT1.moment, DT2.moment, dtTime.moment, {}};
+  std::ranges::transform(PlaceLabelsOf(*this), wanted.place.begin(),
+                         [](const forms::Control* label) { return label->caption; });
+  return wanted;
+}
+
+// The list of a former place or former dates stays until Quick View, and says so.
+void frmDurvela::MarkOldList() {
+  picRes.faded = ReadWanted() != shown_;
+  picRes.spokenName = timetable_layout::kPageName;
+  lblOldList.caption.clear();
+  if (!picRes.faded) return;
+  const auto& [country, city, latitude, longitude, zone, zoneTime] = shown_.place;
+  const foundation::DateTimeFields from = foundation::FieldsOf(shown_.from);
+  lblOldList.caption = "Shown: " + city + ", from " +
+                       foundation::DayMonthYear(from.day, from.month, from.year, ' ') +
+                       ". Press Quick View.";
+  picRes.spokenName += ". " + lblOldList.caption;
 }
 
 // The page keeps its size, unless the frame is too narrow. Rows below the frame are scrolled to.

@@ -196,6 +196,29 @@ TEST(Timetable, KeepsItsRowsInTheirSize) {
              Row(1920, 1080, std::pair(1.0F, 39)), Row(360, 510, std::pair(0.5025F, 36)));
 }
 
+TEST(Timetable, MarksAListThatIsNotWhatIsAskedFor) {
+  Timetable t;
+  const auto mark = [&] {
+    EXPECT_EQ(t.form.picRes.faded, !t.form.lblOldList.caption.empty());
+    EXPECT_EQ(t.form.picRes.spokenName.ends_with(t.form.lblOldList.caption), true);
+    return t.form.lblOldList.caption;
+  };
+  const std::string old = "Shown: Delhi, from 5 March 2011. Press Quick View.";
+  EXPECT_EQ(mark(), "");
+  for (forms::Control* picker : {&t.form.DT1, &t.form.DT2, &t.form.dtTime}) {
+    const double before = picker->moment;
+    forms::SetMoment(*picker, before + 0.25);
+    EXPECT_EQ(mark(), old);
+    forms::SetMoment(*picker, before);
+    EXPECT_EQ(mark(), "");
+  }
+  t.host.whileModal = [&] { t.picker.form.lstCity.onDoubleClick(); };
+  t.form.cmdEditPlace.onClick();
+  EXPECT_EQ(mark(), old);
+  t.form.cmdShow.onClick();
+  EXPECT_EQ(mark(), "");
+}
+
 TEST(Timetable, ScrollsItsPageAndStopsItsSun) {
   Timetable t;
   const float& top = t.form.picRes.place.top;

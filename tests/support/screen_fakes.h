@@ -2,6 +2,7 @@
 // records what is drawn.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -80,7 +81,9 @@ struct FakeHost : forms::FormHost {
   void Show(forms::Form& form) override { calls.push_back("Show " + form.name); }
   void ShowModal(forms::Form& form, forms::Form& owner) override {
     calls.push_back("ShowModal " + form.name + " of " + owner.name);
+    if (whileModal) whileModal();
   }
+  std::function<void()> whileModal;
   void Hide(forms::Form& form) override { calls.push_back("Hide " + form.name); }
   bool shown = true;
   bool IsShown(const forms::Form&) const override { return shown; }

@@ -15,6 +15,7 @@ namespace {
 constexpr double kTileRadius = 12;
 constexpr double kTileField = 56;  // of a tile's picture, where the tile is high enough
 constexpr double kDisabledOpacity = 0.5;
+constexpr double kFadedOpacity = 0.7;  // still read
 
 Qt::Alignment ToQt(forms::Alignment alignment) {
   switch (alignment) {
@@ -42,6 +43,7 @@ void ControlWidget::paintEvent(QPaintEvent*) {
     return;
   }
   if (control_.look == forms::Look::Card) PaintShadow(painter);
+  if (control_.faded) painter.setOpacity(kFadedOpacity);
   if (!control_.enabled) painter.setOpacity(kDisabledOpacity);
   if (control_.look == forms::Look::Tile) {
     PaintTile(painter);
