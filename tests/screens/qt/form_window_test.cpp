@@ -64,6 +64,13 @@ TEST_F(DashboardWindow, OpensMenuItemsByTheirCaptionToo) {
   EXPECT_TRUE(form.PIC[1].pressed && opened == 0);
   QTest::mouseRelease(Under(caption), Qt::LeftButton);
   EXPECT_EQ(opened, 1);
+  // A press that is released outside opens nothing.
+  const forms::Control& tile = form.PIC[1];
+  for (QWidget* part : {Under(caption), Under(tile)}) {
+    QTest::mousePress(part, Qt::LeftButton);
+    QTest::mouseRelease(part, Qt::LeftButton, {}, {-20, -20});
+    EXPECT_TRUE(!tile.pressed && opened == 1);
+  }
 }
 
 TEST_F(DashboardWindow, MovesAlongItsMenuByKeys) {

@@ -17,6 +17,7 @@
 #include "screens/qt/qt_host.h"
 #include "screens/qt/qt_machine.h"
 #include "screens/qt/qt_painting.h"
+#include "screens/qt/wheel.h"
 
 namespace screens::qt {
 namespace {
@@ -145,6 +146,14 @@ TEST_F(PickerWindow, ShowsLongTextsInTips) {
   form.cmbCountry.items->SetListIndex(last);
   window.Mirror();
   EXPECT_EQ(countries->toolTip(), ToQt(place));
+}
+
+TEST_F(PickerWindow, KeepsItsCountryWhenAWheelIsTurnedOverIt) {
+  const int before = countries->currentIndex();
+  EXPECT_FALSE(TakesWheel(*countries));
+  countries->setFocus();
+  EXPECT_FALSE(TakesWheel(*countries));
+  EXPECT_EQ(countries->currentIndex(), before);
 }
 
 TEST_F(PickerWindow, HidesBehindAnotherWindow) {

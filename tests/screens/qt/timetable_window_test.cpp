@@ -167,6 +167,16 @@ TEST_F(TimetableWindow, DropsItsCalendarDownByKeyAndMouse) {
   EXPECT_EQ(form.DT1.moment, foundation::DateFromParts(2011, 3, 19));
 }
 
+// A wheel that is turned over them on the way down a page changes nothing.
+TEST_F(TimetableWindow, LeavesFieldsWithoutTheFocusAlone) {
+  window.findChild<QWidget*>(u"cmdShow"_s)->setFocus();
+  for (auto* field : window.findChildren<QDateTimeEdit*>()) {
+    const QDateTime before = field->dateTime();
+    EXPECT_FALSE(TakesWheel(*field));
+    EXPECT_EQ(field->dateTime(), before);
+  }
+}
+
 TEST_F(TimetableWindow, GivesALongPlaceTheRoomBesideItsCaption) {
   form.lblCity.caption = "Leisure Village West(New Jersey)";
   window.Mirror();
@@ -188,6 +198,9 @@ TEST_F(TimetableWindow, ShowsItsPageAndMoves) {
   EXPECT_TRUE(TakesWheel(*window.childAt(600, 400)));
   EXPECT_LT(form.picRes.place.top, 0);
   EXPECT_GT(window.findChild<QScrollBar*>(u"VScroll1"_s)->value(), 0);
+  QTest::mousePress(quickView, Qt::LeftButton);
+  QTest::mouseRelease(quickView, Qt::LeftButton, {}, {-20, -20});
+  EXPECT_LT(form.picRes.place.top, 0);  // released outside, it leaves the list as it is
   form.left += 300;
   window.Mirror();
   EXPECT_EQ(window.x(), ToPixels(form.left));
