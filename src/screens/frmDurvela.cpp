@@ -26,9 +26,6 @@ frmDurvela::frmDurvela(Services services, forms::Form& dashboard, Ways ways)
       ways_(std::move(ways)) {
   backColour = palette::kPaper;
 
-  for (forms::Control* picker : {&DT1, &DT2, &dtTime}) {
-    picker->onChange = [this] { MarkOldList(); };
-  }
   cmdShow.onClick = [this] { cmdShow_Click(); };
   cmdPreview.onClick = [this] { cmdPreview_Click(); };
   cmdSave.onClick = [this] { cmdSave_Click(); };
@@ -42,7 +39,10 @@ frmDurvela::frmDurvela(Services services, forms::Form& dashboard, Ways ways)
   }
   for (const auto& [picker, remark] :
        {std::pair(&DT1, &StartRemark), {&DT2, &EndRemark}, {&dtTime, &TimeRemark}}) {
-    picker->onChange = [picker, remark] { remark->visible = !picker->refusal.empty(); };
+    picker->onChange = [this, picker, remark] {
+      remark->visible = !picker->refusal.empty();
+      MarkOldList();
+    };
   }
   Label9.onClick = [this] { OpenWebsite(services_.browser); };
   VScroll1.onChange = [this] { VScroll1_Change(); };
