@@ -9,8 +9,8 @@
 
 namespace forms {
 
-// A page of fixed size in twips that starts with the box's picture; drawing below its bottom edge is
-// lost. The box may show it at another size.
+// A page of fixed size in twips that starts with the box's picture; drawing below its bottom edge
+// is lost. The box may show it at another size.
 class PicturePage : public DrawingTarget {
  public:
   // Box and measure must outlive the page.

@@ -176,7 +176,7 @@ TEST(Contrast, IsEnoughOnEveryScreen) {
     list->items->SetListIndex(0);
   }
   program.host.WindowOf(program.Timetable());
-  forms::TypeMoment(program.Timetable().DT1, "soon");                         // its remark shows
+  forms::TypeMoment(program.Timetable().DT1, "soon");  // its remark shows
   program.Timetable().lblOldList.caption = "Shown: Delhi. Press Quick View.";
   for (int tick = 0; tick < 100; ++tick) program.Timetable().Timer1_Timer();  // its sun is at rest
   for (forms::Form* form : std::initializer_list<forms::Form*>{
