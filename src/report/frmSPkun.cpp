@@ -103,7 +103,7 @@ const std::string& frmSPkun::PageTitle(int number) const {
 
 void frmSPkun::ShowPage(std::int16_t& PageNum, std::string_view Pname, std::string_view PTitle,
                         bool ToPrinter) {
-  // For its errors alone: a record that has no chart shows no page either.
+  // Only for its errors: if the record has no chart, no page is shown either.
   const foundation::SessionRecord& record = services_.session.Current();
   engine::clsPP chart;
   engine::GenRecordHoro(chart, record, record.Day, record.Month, record.Year, record.Hour,
@@ -121,7 +121,7 @@ void frmSPkun::ShowPage(std::int16_t& PageNum, std::string_view Pname, std::stri
   const std::string_view number = mark == std::string_view::npos ? PTitle : PTitle.substr(mark + 1);
   PageNum = foundation::RoundToInt16(foundation::LeadingNumber(number));
   PIC.picture = nullptr;
-  // An earlier report's page may still have its name.
+  // A page of an earlier report may still have this name.
   if (unwritten_.contains(PageNum)) {
     throw foundation::FileError(foundation::ErrorKind::FileAccess, PageFile(PageNum),
                                 "cannot be written");
@@ -155,12 +155,12 @@ void frmSPkun::PaintForm(forms::Form& page, double X, double Y) {
     PIC.place.width = page.scaleWidth;
     PIC.place.height = page.scaleHeight;
     autoRedraw = true;
-    services_.host.ForgetTarget(PIC);  // which had another size
+    services_.host.ForgetTarget(PIC);  // it had another size
     services_.host.TargetOf(PIC).Cls();
   }
   if (X == 0 && Y == 0) {
     PIC.picture = ImageOf(page);
-    services_.host.ForgetTarget(PIC);  // the next one draws on this picture
+    services_.host.ForgetTarget(PIC);  // the next target starts with this picture
   } else {
     services_.host.TargetOf(PIC).PaintPicture(ImageOf(page), X, Y, page.scaleWidth,
                                               page.scaleHeight);
@@ -199,7 +199,7 @@ void frmSPkun::cmdNext_Click() {
   if (index < cmbPage.items->ListCount()) Select(cmbPage, index);
 }
 
-// Counts from 0, as the list does.
+// `row` counts from 0, as the list does.
 void frmSPkun::cmdGO_Click() {
   int number = foundation::RoundToInt16(foundation::LeadingNumber(txtPage.caption));
   const int pages = cmbPage.items->ListCount();

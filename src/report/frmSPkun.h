@@ -1,5 +1,5 @@
-// frmSPkun, the print preview: the pages of a report one at a time, as pictures. A page comes from
-// its file, or by the direct path, for which a form is drawn at once and which no report takes.
+// frmSPkun, the print preview: shows the pages of a report one at a time. Pages come from page
+// files; the alternative, drawing forms directly, is not used by reports.
 #pragma once
 
 #include <cstdint>
@@ -15,14 +15,14 @@
 
 namespace report {
 
-// A page that lives in a page file.
+// The name of pages that are kept in page files.
 inline constexpr std::string_view kCachePage = "cachepage";
 
 class frmSPkun : public forms::Form {
  public:
   explicit frmSPkun(Services services);
 
-  // The table of controls, lowest first.
+  // The table of controls, bottom first.
   CONTROL(PictureBox, picPage, preview_layout::Desk());
   CONTROL(PictureBox, PIC, preview_layout::Page(picPage));
   CONTROL(HScrollBar, HScroll1, preview_layout::ScrollBar("Across the page", 9));
@@ -62,24 +62,24 @@ class frmSPkun : public forms::Form {
   CONTROL(Timer, Timer1, {.enabled = false, .interval = preview_layout::kSlideInterval});
   CONTROL(Timer, Timer2, {.enabled = false, .interval = preview_layout::kSlideInterval});
 
-  std::string city;  // of the report
+  std::string city;  // the report's place, for the document name
 
-  // Runs the form's own printing.
+  // Prints a form by its own PrintForm.
   void SendToPrint(forms::Form& myObject) { myObject.PrintForm(); }
 
-  // Empties the lists of pages and deletes the page files of the report before.
+  // Clears the lists of pages and deletes the last report's page files.
   void RESET();
 
-  // The direct path, both alike: the form's image and its picture boxes onto PIC, moved by X and Y
-  // twips. Without an offset the image replaces what PIC shows. The first page clears PIC and gives
-  // it its size.
+  // Draw a form directly: its image and its picture boxes on PIC, offset by X and Y twips. Without
+  // an offset the image replaces what PIC shows. The first page clears PIC and sets its size. Both
+  // do the same.
   void setPage(forms::Form& page, double X = 0, double Y = 0);
   void setPage2(forms::Form& page, double X = 0, double Y = 0);
 
   void KillAllTmpFile();
-  // Writes what stands on the picture box; failures are ignored.
+  // Saves the picture of a picture box as a page file; ignores failures.
   void CreateTMPfile(std::int16_t PageNum, const forms::Control& pictureBox);
-  // Pname "cachepage" for a page file, whose number the title tells after its first "P".
+  // Use kCachePage as Pname for a page file; its number follows the first "P" in the title.
   void AddPage(std::string_view Pname, std::string_view PTitle);
 
   void cmbPage_Click();
@@ -87,8 +87,8 @@ class frmSPkun : public forms::Form {
   void cmdHide_Click();
   void cmdPrintPage_Click();
 
-  // Puts a page onto PIC or the printer. PageNum takes the number in the title. Errors of GenHoro
-  // and LoadPage, and FileAccess for a page that could not be written; PIC has no picture by then.
+  // Shows or prints a page and sets PageNum to the number in its title. Errors of GenHoro and
+  // LoadPage, and FileAccess for a page that could not be written; PIC is then empty.
   void ShowPage(std::int16_t& PageNum, std::string_view Pname, std::string_view PTitle,
                 bool ToPrinter);
 
@@ -107,8 +107,8 @@ class frmSPkun : public forms::Form {
   void PIC_MouseDown(forms::MousePoint at);
   void PIC_MouseMove(forms::MousePoint at);
   void PIC_MouseUp();
-  void Timer1_Timer();  // the side panel closes
-  void Timer2_Timer();  // and opens
+  void Timer1_Timer();  // slides the side panel shut
+  void Timer2_Timer();  // and open
 
  private:
   const std::string& PageName(int number) const;  // from 1; Subscript outside
@@ -118,7 +118,7 @@ class frmSPkun : public forms::Form {
   void OpenPanel(bool open);
   void ResizePanel(float width);
   void LayOut();
-  void NameDocument(int first, int last);  // by its pages
+  void NameDocument(int first, int last);  // after its pages
   void SetOrientation();
 
   Services services_;
@@ -127,7 +127,7 @@ class frmSPkun : public forms::Form {
   bool dragging_ = false;
   int dragX_ = 0, dragY_ = 0;
   int directPages_ = 0;
-  std::map<std::int16_t, std::string> words_;  // of the pages in files, which are dots
+  std::map<std::int16_t, std::string> words_;  // the text of each page file, for assistive programs
   std::set<std::int16_t> unwritten_;
 };
 

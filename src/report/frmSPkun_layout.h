@@ -1,5 +1,5 @@
-// Rows of the preview's table of controls: where things stand on a window of 1100 by 760 logical
-// pixels before the form lays out its panels.
+// Rows of the preview's table of controls: positions in a window of 1100 by 760 logical pixels,
+// before the form lays out its panels.
 #pragma once
 
 #include <string>
@@ -17,8 +17,8 @@ using forms::layout::kTwipsPerPixel;
 inline constexpr float kWidth = 1100;  // logical pixels
 inline constexpr float kHeight = 760;
 inline constexpr float kToolHeight = 56, kBar = 16;
-inline constexpr float kInset = 16;        // of the tool bar, at both ends
-inline constexpr float kPanelWidth = 268;  // whole steps shut it to its button's width
+inline constexpr float kInset = 16;        // at both ends of the tool bar
+inline constexpr float kPanelWidth = 268;  // minus the button's width, a multiple of the slide step
 inline constexpr float kPanelGap = 200;    // twips, between panel and page
 inline constexpr int kSlideInterval = 10;  // milliseconds
 

@@ -1,4 +1,4 @@
-// How the preview lays itself out, scrolls, and slides its side panel.
+// Layout, scrolling and the sliding side panel of the preview.
 
 #include <algorithm>
 
@@ -12,11 +12,11 @@ namespace {
 using foundation::Resume;
 
 constexpr float kTwips = preview_layout::kTwipsPerPixel;
-constexpr int kKeyStep = 1000;                        // twips that an arrow key scrolls
+constexpr int kKeyStep = 1000;                        // twips per arrow key
 constexpr float kSlideStep = 100;                     // twips
-constexpr double kSmallStep = 0.1, kLargeStep = 0.5;  // of the whole way
+constexpr double kSmallStep = 0.1, kLargeStep = 0.5;  // of the full range
 
-// A bar with nothing to scroll is taken out of use. Overflow beyond 16 bits.
+// Disables a bar that has nothing to scroll. Overflow beyond 16 bits.
 void SetRange(forms::Control& bar, float way, double largeStep) {
   const std::int16_t maximum = foundation::RoundToInt16(std::max(way, 0.0F));
   bar.enabled = bar.visible = maximum > 0;
@@ -47,7 +47,7 @@ void frmSPkun::Form_KeyDown(forms::KeyPress& press) {
                                                    : 0;
   if (step == 0) return;
   SetScroll(VScroll1, VScroll1.scroll.value + step);
-  press.handled = true;  // nor does it turn the page
+  press.handled = true;  // even if there is nothing to scroll
 }
 
 void frmSPkun::PIC_MouseDown(forms::MousePoint at) {
@@ -59,7 +59,7 @@ void frmSPkun::PIC_MouseDown(forms::MousePoint at) {
   });
 }
 
-// The page follows the mouse in the directions in which there is something to scroll.
+// The page follows the mouse in directions that can scroll.
 void frmSPkun::PIC_MouseMove(forms::MousePoint at) {
   if (!dragging_ || at.shift) return;
   const auto offset = [](const forms::Control& bar, float present, double moved) {
@@ -80,7 +80,7 @@ void frmSPkun::PIC_MouseUp() {
   });
 }
 
-// The other way, if it is still going on, ends: against each other neither would.
+// Stops sliding the other way: two opposed timers would never finish.
 void frmSPkun::cmdHide_Click() {
   Timer1.enabled = true;
   Timer2.enabled = false;
@@ -93,8 +93,7 @@ void frmSPkun::cmdShow_Click() {
   OpenPanel(true);
 }
 
-// The keyboard does not stay behind on what goes out of sight. The list shows until the panel is
-// shut.
+// Moves the focus away from what disappears. The list stays visible until the panel is shut.
 void frmSPkun::OpenPanel(bool open) {
   cmdHide.visible = lstPage.tabStop = open;
   if (open) lstPage.visible = true;
@@ -119,7 +118,7 @@ void frmSPkun::Timer2_Timer() {
   LayOut();
 }
 
-// Its controls keep to its right edge.
+// Keeps the panel's controls at its right edge.
 void frmSPkun::ResizePanel(float panelWidth) {
   picLeft.place.width = panelWidth;
   for (forms::Control* control : {&cmdHide, &cmdShow, &lstPage}) {
@@ -127,7 +126,7 @@ void frmSPkun::ResizePanel(float panelWidth) {
   }
 }
 
-// Starts with the panel open, however the preview was left.
+// Always starts with the panel open.
 void frmSPkun::Form_Load() {
   scaleWidth = preview_layout::kWidth * kTwips;
   scaleHeight = preview_layout::kHeight * kTwips;

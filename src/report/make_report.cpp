@@ -32,7 +32,7 @@ class ReportMaker {
     BeginPage();
     preview_.PIC.place.width = page_->scaleWidth;
     preview_.PIC.place.height = page_->scaleHeight;
-    // By days: a day and a time added up would not always come out at the last one.
+    // Counts days: with times added, rounding could miss the last one.
     while (day <= input_.DT2) {
       const int monthOfDay = foundation::FieldsOf(day).month;
       if (monthOfDay != month) {
@@ -52,7 +52,7 @@ class ReportMaker {
   }
 
  private:
-  // Others write their place into the record while the report yields.
+  // The dashboard writes its own place to the record while the report yields.
   void TakePlace() {
     foundation::SessionRecord& record = services_.session.Current();
     record.LatitudeText = input_.latitude;
@@ -79,14 +79,14 @@ class ReportMaker {
     FillRow(*page_, row_++, date, services_.session);
   }
 
-  // The day that comes next.
+  // Shows the next day.
   void ShowStatus(DateTime day) {
     const DateTimeFields at = foundation::FieldsOf(day);
     input_.lblStatus.caption =
         "Loading.. " + foundation::DayMonthYear(at.day, at.month, at.year, ' ');
   }
 
-  // `next` is the first day that is not on the page; its year goes into the title.
+  // `next` is the first day after the page; the title uses its year.
   void EndPage(int month, DateTime next) {
     forms::DrawingTarget& target = services_.host.TargetOf(preview_.PIC);
     target.Cls();

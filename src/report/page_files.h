@@ -1,4 +1,4 @@
-// The pages of a report as bitmap files in the temp folder, prv1.tmp, prv2.tmp and so on.
+// The pages of a report as bitmap files in the temp folder: prv1.tmp, prv2.tmp and so on.
 #pragma once
 
 #include <cstdint>
@@ -8,18 +8,18 @@
 
 namespace report {
 
-// Where a page is kept.
+// The file of a page.
 std::filesystem::path PageFile(std::int16_t PageNum);
 
-// Writes a page over a former one of its number; makes the folder where it has no files. FileAccess
-// where it cannot be written, InvalidCall for no dots.
+// Writes a page, replacing any of the same number, and creates the folder if necessary. FileAccess
+// if it cannot be written, InvalidCall for an empty raster.
 void SavePage(std::int16_t PageNum, const forms::Raster& dots);
 
-// The page as a picture in twips. FileNotFound where there is none, FileAccess where it cannot be
-// read, InvalidCall where it is no bitmap file.
+// Reads a page as a picture in twips. FileNotFound if it does not exist, FileAccess if it cannot be
+// read, InvalidCall if it is not a bitmap file.
 forms::PicturePtr LoadPage(std::int16_t PageNum);
 
-// Deletes every file of the folder that ends in ".tmp"; one that cannot be deleted stays.
+// Deletes all ".tmp" files in the folder; ignores failures.
 void DeletePages();
 
 }  // namespace report

@@ -1,4 +1,4 @@
-// Rows of the report page's table of controls, in twips of a page of 13635 by 10230.
+// Rows of the report page's table of controls, in twips, for a page of 13635 by 10230.
 #pragma once
 
 #include <string>
@@ -17,12 +17,12 @@ inline constexpr float kWidth = 13635;
 inline constexpr float kHeight = 10230;
 inline constexpr int kRows = 31;
 
-// The place line grows to the left from here.
+// The place line extends to the left from here.
 inline constexpr float kPlaceLineRight = 12390 + 75;
-inline constexpr float kPlaceLineLeft = 3700;  // at the most; the longest place then has 7.2 points
+inline constexpr float kPlaceLineLeft = 3700;  // limit; the longest place then needs 7.2 points
 inline constexpr float kPlaceLineSize = 11.25F;
 
-// A head in the legacy Hindi encoding.
+// A heading in the legacy Hindi encoding.
 inline Properties Head(float left, float top, float width, float height, float size,
                        std::string_view caption) {
   return {.place = {left, top, width, height},
@@ -52,7 +52,7 @@ inline Properties Imprint() {
           .font = {.name = "Arial", .size = 6.75F}};
 }
 
-// The frame of the table: thin boxes, all black.
+// The rules of the table: thin black boxes.
 inline std::vector<Properties> Rules() {
   constexpr float kLeft = 720, kRight = 12870, kTop = 270, kBottom = 9750, kInnerTop = 690;
   constexpr float kThick = 15;
@@ -70,7 +70,7 @@ inline std::vector<Properties> Rules() {
   return rules;
 }
 
-// A column of the rows, the last four a little further left.
+// A column of rows; the last four are slightly further left.
 inline std::vector<Properties> Column(float left, float width, std::string_view caption) {
   constexpr float kFirstTop = 1320, kRowStep = 270, kRowHeight = 240;
   constexpr int kFirstFurtherLeft = 27;

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double kWidestPortrait = 21000;  // twips
 
-// Statement by statement: after one that fails the user says whether the next is tried.
+// Runs statements one by one; after a failure the user decides whether to go on.
 class AskingUser {
  public:
   AskingUser(foundation::MessageBoxes& boxes, forms::Printer& printer)
@@ -72,8 +72,8 @@ void frmSPkun::cmdPrint_Click() {
   user.Do([&] { printer.AskUser(); });
   user.Do([&] { SetOrientation(); });
   user.Do([&] { printer.Print(""); });
-  // Two pages may have the same number in their titles, which puts i back: no more are printed than
-  // there are.
+  // ShowPage sets i to the number in the title, which two pages may share: `printed` bounds the
+  // loop.
   int printed = 0;
   for (std::int16_t i = 1; !user.Stopped() && i <= pages && printed < pages; ++i, ++printed) {
     user.Do([&] { ShowPage(i, PageName(i), PageTitle(i), true); });

@@ -14,7 +14,7 @@ std::string ShortTime(double hours) {
   return foundation::DecimalToTimeText(hours, 24, true);
 }
 
-// The next whole minute, unless the time as shown to the second is one.
+// Rounds up to the next whole minute, unless the time rounded to seconds is one already.
 std::string ShortEnd(double hours) {
   const double shown = foundation::TimeTextToDecimal(foundation::DecimalToTimeText(hours));
   return ShortTime(shown + 59.0 / 3600);
@@ -24,7 +24,7 @@ DayScene::PeriodTimes PeriodOf(const dayperiods::DaylightSegments& day, int segm
   return {segment, ShortTime(day.Boundary(segment)) + " - " + ShortEnd(day.Boundary(segment + 1))};
 }
 
-// Where the sun stands, by the whole minute: more would not be seen.
+// The sun's position, to the minute; finer steps would not be visible.
 double SunAt(const foundation::DateTimeFields& now, const dayperiods::DaylightSegments& day) {
   double hours = now.hour + now.minute / 60.0 - day.sunrise;
   hours -= 24 * std::floor(hours / 24);

@@ -1,4 +1,4 @@
-// What the dashboard's background tells: one day's light in eight parts, and the sun in it.
+// What the dashboard's background shows: a day's light in eight parts, and the sun.
 #pragma once
 
 #include <string>
@@ -12,21 +12,21 @@ struct DayScene {
   // One of the three periods.
   struct PeriodTimes {
     int segment = 0;    // 1 to 8 from sunrise
-    std::string times;  // "09:38 - 11:06": its begin rounded down, its end up
+    std::string times;  // "09:38 - 11:06": start rounded down, end rounded up
     friend bool operator==(const PeriodTimes&, const PeriodTimes&) = default;
   };
 
-  bool divided = false;  // false where the day's sun has no rise and set to go by
+  bool divided = false;  // false if the day has no sunrise or sunset
   std::string sunrise;   // "06:43"
   std::string sunset;
   PeriodTimes durvela, gulik, yum;
-  double sun = 0;  // 0 at sunrise, 1 at sunset, and on to 2 at the next sunrise
+  double sun = 0;  // 0 at sunrise, 1 at sunset, 2 at the next sunrise
 
   friend bool operator==(const DayScene&, const DayScene&) = default;
 };
 
-// The calendar day of `now` at the place of the current record, reckoned at its noon, so that the
-// hours before sunrise show the day that is coming.
+// The calendar day of `now` at the place of the current record. Calculated for noon, so that the
+// hours before sunrise show the coming day.
 DayScene SceneOf(foundation::DateTime now, const foundation::SessionTable& session);
 
 }  // namespace screens

@@ -37,7 +37,7 @@ void frmAbout::Form_MouseMove() {
   Timer1.enabled = true;
 }
 
-// So that the credits can be read.
+// Pauses the credits so that they can be read.
 void frmAbout::picS_MouseMove() {
   Timer1.enabled = false;
 }
@@ -51,7 +51,7 @@ void frmAbout::cmdOK_Click() {
   services_.host.Unload(*this);
 }
 
-// There is no such tool on this system.
+// This system has no such tool.
 void frmAbout::cmdSysInfo_Click() {
   services_.boxes.Show("System Information Is Unavailable At This Time",
                        foundation::MessageIcon::None);

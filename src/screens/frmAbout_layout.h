@@ -1,4 +1,4 @@
-// Rows of the table of controls of frmAbout, on a window of 520 by 420 logical pixels.
+// Rows of frmAbout's table of controls, for a window of 520 by 420 logical pixels.
 #pragma once
 
 #include <string>

@@ -36,7 +36,7 @@ void frmCity::Load(std::string_view Country, std::string_view City, forms::Form&
   SetText(txtCity, City);
   FindInList(City, lstCity);
   lstCity.emphasis = City;
-  searched_ = false;  // by nobody who types
+  searched_ = false;  // not typed by the user
   ShowRemarks();
 }
 
@@ -48,7 +48,7 @@ void frmCity::Form_Resize() {
   sizes_.ResizeControls(*this, foundation::kFalse16);
 }
 
-// Kept with its list to the end of the program.
+// The form and its list live until the program ends.
 void frmCity::Form_QueryUnload(bool& cancel) {
   cancel = true;
   host_.Hide(*this);
@@ -92,7 +92,7 @@ void frmCity::lstCity_DblClick() {
   Accept();
 }
 
-// Unguarded up to the record's number: with nothing selected the program cannot go on.
+// Errors up to the record's number are not caught: without a selection the program ends.
 void frmCity::Accept() {
   const std::int32_t number = lstCity.items->ItemData(lstCity.items->ListIndex());
   const std::int16_t index = foundation::RoundToInt16(number + 1.0);
@@ -115,7 +115,7 @@ forms::Control& frmCity::Result(std::string_view label) {
   return RetForm_->ControlNamed(label);
 }
 
-// Whether the search has led to an entry.
+// Whether the search found an entry.
 bool frmCity::Found() const {
   const forms::ItemList& places = *lstCity.items;
   return places.ListIndex() >= 0 &&

@@ -52,7 +52,7 @@ frmDurvela::frmDurvela(Services services, forms::Form& dashboard, Ways ways)
   Timer1.onTimer = [this] { Timer1_Timer(); };
 }
 
-// Whatever a former opening has left, the form starts as it was made.
+// The form always starts in its initial state, however it was left.
 void frmDurvela::Form_Load() {
   ScaledForm::Form_Load();
   activeControl = &DT1;
@@ -111,12 +111,12 @@ void frmDurvela::cmdSave_Click() {
                        foundation::MessageIcon::Information);
 }
 
-// A second click while the places are still being read opens nothing twice.
+// Ignores a second click while the places are still being read.
 void frmDurvela::cmdEditPlace_Click() {
   if (std::exchange(picking_, true)) return;
   frmCity& picker = ways_.picker();
   picker.Load(lblCountry.caption, lblCity.caption, *this);
-  // Closed by the user while the places were being read.
+  // The user may have closed the form while the places were being read.
   if (services_.host.IsShown(*this)) services_.host.ShowModal(picker, *this);
   picking_ = false;
   MarkOldList();
@@ -142,7 +142,7 @@ void frmDurvela::lblTitle_MouseDown(forms::Point at) {
   pressedY_ = static_cast<float>(at.y);
 }
 
-// A window that fills the screen stays where it is.
+// Maximised windows do not move.
 void frmDurvela::lblTitle_MouseMove(forms::Point at) {
   if (!moving_ || windowState != forms::WindowState::Normal) return;
   left = left - pressedX_ + static_cast<float>(at.x);
@@ -153,7 +153,7 @@ void frmDurvela::lblTitle_MouseUp() {
   moving_ = false;
 }
 
-// A small sun goes once along the head, from above the page to its place.
+// A small sun slides once along the head to its place.
 void frmDurvela::StartSlide() {
   slideTo_ = picSlide.place.left;
   picSlide.place.left = frRes.place.left;

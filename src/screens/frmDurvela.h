@@ -17,16 +17,16 @@ class frmCity;
 
 class frmDurvela : public ScaledForm {
  public:
-  // What the form leads to: the picker, asked for when a place is edited, and the report.
+  // Where the form leads: the picker, requested when a place is edited, and the report.
   struct Ways {
     std::function<frmCity&()> picker;
     std::function<void(const report::ReportInput&)> report;
   };
 
-  // The dashboard, which closing goes back to, outlives the form.
+  // Closing returns to the dashboard, which must outlive the form.
   frmDurvela(Services services, forms::Form& dashboard, Ways ways);
 
-  // The table of controls, lowest first.
+  // The table of controls, bottom first.
   CONTROL(Shape, Head, timetable_layout::Head());
   CONTROL(PictureBox, picSlide, timetable_layout::Slide());
   CONTROL(PictureBox, Picture1, timetable_layout::HeadPicture());
@@ -85,7 +85,7 @@ class frmDurvela : public ScaledForm {
   void cmdEditPlace_Click();
   void cmdClose_Click();
   void cmdMinimize_Click();
-  void SaveTempVals();  // between maximised and normal
+  void SaveTempVals();  // toggles between maximised and normal
   void VScroll1_Change();
   void lblTitle_MouseDown(forms::Point at);
   void lblTitle_MouseMove(forms::Point at);
@@ -93,7 +93,7 @@ class frmDurvela : public ScaledForm {
   void Timer1_Timer();
 
  private:
-  // What a list is made from.
+  // The inputs of a list.
   struct Wanted {
     foundation::DateTime from = 0, to = 0, time = 0;
     std::array<std::string, foundation::kPlaceSettings.size()> place;
@@ -110,8 +110,8 @@ class frmDurvela : public ScaledForm {
   forms::Form& dashboard_;
   Ways ways_;
   Wanted shown_;
-  float listEnd_ = 0;     // of the rows on the page, in twips
-  bool picking_ = false;  // the picker is opening, or open
+  float listEnd_ = 0;     // bottom of the last row, in twips
+  bool picking_ = false;  // the picker is opening or open
   bool moving_ = false;
   float pressedX_ = 0, pressedY_ = 0;
   float slideTo_ = 0;

@@ -1,5 +1,5 @@
-// Rows of the timetable's table of controls: where things stand on a window of 960 by 680 logical
-// pixels, and how they look there. It grows and shrinks from these figures.
+// Rows of the timetable's table of controls: positions and looks in a window of 960 by 680 logical
+// pixels, from which it is scaled.
 #pragma once
 
 #include <string>
@@ -17,7 +17,7 @@ inline constexpr float kHeight = 680;
 inline constexpr float kFrameLeft = 384, kFrameTop = 88, kFrameWidth = 552, kFrameHeight = 568;
 inline constexpr float kScrollWidth = 16;
 
-// The page: room for the rows of a month in the size of its list, in the narrowest window too.
+// The page has room for the rows of a month and fits the narrowest window.
 inline constexpr float kPageWidth = 400;
 inline constexpr float kPageHeight = 1000;
 inline constexpr std::string_view kPageName = "Durvela of each day";
@@ -73,7 +73,7 @@ inline Properties Picker(float top, std::string_view spokenName, int tabIndex) {
           .tabIndex = tabIndex};
 }
 
-// Below the caption of a picker whose text is no date or time.
+// Below the caption of a picker that rejects its text.
 inline Properties Remark(float top, std::string_view remark) {
   return {.place = At(44, top + 20, 116, 16),
           .caption = std::string(remark),
@@ -89,7 +89,7 @@ inline Properties Value(float top) {
           .alignment = Alignment::Right};
 }
 
-// A text that may be long, beside a short caption.
+// A possibly long text beside a short caption.
 inline Properties LongValue(float top) {
   Properties value = Value(top);
   value.place = At(92, top, 248, 24);

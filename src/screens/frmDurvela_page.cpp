@@ -1,4 +1,4 @@
-// The page of the timetable: how its list is drawn, scrolled, and marked when it is out of date.
+// The timetable's page: drawing, scrolling, and marking a list that is out of date.
 
 #include <algorithm>
 
@@ -15,11 +15,11 @@ using foundation::Resume;
 
 constexpr float kTwips = layout::kTwipsPerPixel;
 constexpr float kMargin = 8 * kTwips;  // above and below the page
-constexpr int kScrollStep = 480;       // twips: a row and a little
+constexpr int kScrollStep = 480;       // twips: slightly more than a row
 
 }  // namespace
 
-// An error ends the list where it arose, without a word.
+// If a row fails, the list ends there without a message.
 void frmDurvela::cmdShow_Click() {
   Resume([&] {
     CopyPlace(PlaceLabelsOf(*this), services_.session.Current());
@@ -30,7 +30,7 @@ void frmDurvela::cmdShow_Click() {
   });
   Resume([&] { listEnd_ = static_cast<float>(services_.host.TargetOf(picRes).CurrentY()); });
   FitPage();
-  SetScroll(VScroll1, 0);  // a list begins at its first row
+  SetScroll(VScroll1, 0);  // back to the first row
   shown_ = ReadWanted();
   MarkOldList();
 }
@@ -42,7 +42,7 @@ frmDurvela::Wanted frmDurvela::ReadWanted() {
   return wanted;
 }
 
-// The list of a former place or former dates stays until Quick View, and says so.
+// A list of another place or other dates stays until Quick View, but is dimmed and says so.
 void frmDurvela::MarkOldList() {
   picRes.faded = ReadWanted() != shown_;
   picRes.spokenName = timetable_layout::kPageName;
@@ -56,7 +56,7 @@ void frmDurvela::MarkOldList() {
   picRes.spokenName += ". " + lblOldList.caption;
 }
 
-// The page keeps its size, unless the frame is too narrow. Rows below the frame are scrolled to.
+// The page keeps its size unless the frame is too narrow; rows below the frame can be scrolled to.
 void frmDurvela::FitPage() {
   constexpr float kWidth = timetable_layout::kPageWidth * kTwips;
   constexpr float kHeight = timetable_layout::kPageHeight * kTwips;

@@ -40,7 +40,7 @@ void frmMain::SetMenuItem(int index, std::function<void()> open) {
   open_[index] = std::move(open);
 }
 
-// The first tick is not waited for: a dashboard without figures tells nothing.
+// Runs the first tick at once, so that the dashboard never shows without figures.
 void frmMain::Form_Load() {
   sizes_.SaveSizes(*this);
   Timer1_Timer();
@@ -59,7 +59,7 @@ void frmMain::Form_QueryUnload(bool& cancel) {
   if (answer == foundation::MessageAnswer::Yes) services_.host.EndProgram();
 }
 
-// Arrows, Home and End move along the menu.
+// Left, Right, Home and End move along the menu.
 void frmMain::Form_KeyDown(forms::KeyPress& press) {
   if (activeControl == nullptr) return;
   press.handled = true;
@@ -77,7 +77,7 @@ void frmMain::Form_KeyDown(forms::KeyPress& press) {
   }
 }
 
-// The first item, in the direction of the step, that can be used; none if there is none.
+// Focuses the first enabled item in the direction of the step, if any.
 void frmMain::FocusItem(int first, int step) {
   for (int i = first; i >= PIC.LBound() && i <= PIC.UBound(); i += step) {
     if (!PIC[i].enabled) continue;

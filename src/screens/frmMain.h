@@ -1,4 +1,4 @@
-// frmMain, the dashboard: today at the default place, and the way to every other screen.
+// frmMain, the dashboard: today at the default place, and the menu to all other screens.
 #pragma once
 
 #include <functional>
@@ -18,7 +18,7 @@ class frmMain : public ScaledForm {
 
   explicit frmMain(Services services);
 
-  // The table of controls, lowest first.
+  // The table of controls, bottom first.
   CONTROL(Image, Image1, dashboard_layout::Background());
   CONTROL(Shape, Card, dashboard_layout::Card());
   CONTROL(Shape, DurvelaField, dashboard_layout::DurvelaField());
@@ -55,7 +55,7 @@ class frmMain : public ScaledForm {
 
   CONTROL(Timer, Timer1, {.interval = 1000});
 
-  // Gives a menu item its screen; until then the item is disabled.
+  // Sets what a menu item opens; until then it is disabled.
   void SetMenuItem(int index, std::function<void()> open);
 
   void Form_Load() override;

@@ -23,13 +23,13 @@ using forms::Point;
 
 constexpr double kWidth = 328;
 
-// Of the arc.
+// The arc.
 constexpr Point kFoot = {164, 168};
 constexpr double kInner = 98, kOuter = 140, kPart = 180.0 / dayperiods::kSegmentsOfDaylight;
 constexpr double kGap = 1;    // degrees between the parts
-constexpr double kLine = 19;  // from one period's times to the next
+constexpr double kLine = 19;  // distance between the lines of the periods
 
-// Of the table.
+// The table.
 constexpr double kRowHeight = 30, kNameWidth = 76, kDays = 7;
 constexpr double kColumn = (kWidth - kNameWidth) / kDays;
 
@@ -51,7 +51,7 @@ foundation::DateTime Day() {
   return foundation::DateFromParts(2011, 3, 5);
 }
 
-// At the place that a first start shows.
+// At the default place of a first start.
 DayScene SampleScene() {
   foundation::SessionTable session;
   foundation::SessionRecord& record = session.Current();
