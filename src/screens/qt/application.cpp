@@ -43,7 +43,7 @@ QString InputStyle() {
            Name(palette::kGoldOnPaper), Name(palette::kFocus));
 }
 
-// A groove with a darker thumb, without buttons at its ends.
+// A groove with a darker thumb and no end buttons.
 QString ScrollBarStyle() {
   return QStringLiteral(
              "QScrollBar { background: %1; border: none; margin: 0; }"
@@ -61,7 +61,7 @@ QString ScrollBarStyle() {
            Name(palette::kFocus));
 }
 
-// Windows of the toolkit's own: the calendar, boxes and their buttons.
+// Qt's own windows: the calendar, message boxes and their buttons.
 QString OthersStyle() {
   return QStringLiteral(
              "QWidget#qt_calendar_navigationbar { background: %1; }"
@@ -87,7 +87,7 @@ QPalette Colours() {
 }
 
 QFont Letters() {
-  QStringList faces;  // of all languages
+  QStringList faces;  // for all languages
   for (int language = 0; language <= 4; ++language) {
     faces.append(ToQt(report::display::kLanguageFonts[language].face));
   }
@@ -114,7 +114,7 @@ void DressApplication() {
   QApplication::setPalette(Colours());
   qApp->setStyleSheet(InputStyle() + ScrollBarStyle() + ButtonStyle() + OthersStyle());
 
-  // Behind the style, which takes over the theme's fonts for widgets of the toolkit's own.
+  // After the style, which applies the theme's fonts to Qt's own widgets.
   QApplication::setFont(Letters());
 
   InstallAccessibility();

@@ -1,4 +1,4 @@
-// The program: every interface wired to the toolkit, and the forms on top.
+// The program: all interfaces implemented with Qt, and the forms.
 #pragma once
 
 #include <map>
@@ -18,23 +18,23 @@
 
 namespace screens::qt {
 
-// Before there is a QApplication: fonts and colours, those of a printed page too, are the program's
-// own under any theme of the desktop.
+// Call before creating the QApplication. Makes the program, printed pages included, independent of
+// the desktop theme's fonts and colours.
 void LeaveThemeAside();
 
-// Fonts, colours, icon and names of the whole program, for a fresh QApplication.
+// Sets the program's fonts, colours, icon and names. Call right after creating the QApplication.
 void DressApplication();
 
-// Everything that lives as long as the program does. Needs a QApplication.
+// Everything that lives as long as the program. Needs a QApplication.
 class Program {
  public:
-  // With the machine's own clock, or another that outlives the program.
+  // Uses the machine's clock, or another that must outlive the program.
   Program();
   explicit Program(const foundation::Clock& clock);
 
   void Start() { host.Show(dashboard); }
 
-  // Screens are made at their first use.
+  // Screens are created on first use.
   frmDurvela& Timetable();
   frmAbout& About();
   frmCity& Picker();

@@ -30,7 +30,7 @@ ButtonWidget::ButtonWidget(forms::Control& control, Dispatch dispatch, QWidget* 
   setAutoDefault(true);  // Enter presses it while it has the focus
   setProperty("look", NameOf(control.look));
   connect(this, &QPushButton::clicked, this, [this] {
-    if (control_.tabStop) setFocus(Qt::ShortcutFocusReason);  // another field may hold a new text
+    if (control_.tabStop) setFocus(Qt::ShortcutFocusReason);  // another field may have new text
     dispatch_(control_.onClick);
   });
   Mirror();

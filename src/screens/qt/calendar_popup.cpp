@@ -12,7 +12,7 @@ namespace screens::qt {
 
 using namespace Qt::StringLiterals;
 
-// With a line around it, letters for arrows, and the same colour for every weekday.
+// Adds a border, uses letters as arrows, and gives all weekdays the same colour.
 CalendarPopup::CalendarPopup(QWidget* field) : QCalendarWidget(field) {
   setWindowFlag(Qt::Popup);
   setVerticalHeaderFormat(NoVerticalHeader);
@@ -36,7 +36,7 @@ CalendarPopup::CalendarPopup(QWidget* field) : QCalendarWidget(field) {
   connect(this, &QCalendarWidget::activated, this, &QWidget::close);
 }
 
-// Above the field if there is no room below it.
+// Opens above the field if there is no room below.
 void CalendarPopup::DropDown(QDate chosen) {
   setSelectedDate(chosen);
   const QWidget& field = *parentWidget();

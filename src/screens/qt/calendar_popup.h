@@ -1,5 +1,5 @@
-// A calendar that drops down below a field. Its signals `clicked` and `activated` hand over the
-// date chosen by mouse or Enter; Escape and a click outside close it without one.
+// A calendar that drops down below a field. Its signals `clicked` and `activated` pass on the date
+// chosen by mouse or Enter; Escape or a click outside closes it without a choice.
 #pragma once
 
 #include <QCalendarWidget>

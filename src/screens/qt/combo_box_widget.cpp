@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kEntriesShown = 14;
 constexpr int kArrowInset = 14;          // pixels from the right edge to its middle
-constexpr double kLeastLines = 4.0 / 3;  // its height in those of its font
+constexpr double kLeastLines = 4.0 / 3;  // minimum height in line heights
 
 }  // namespace
 
@@ -49,21 +49,21 @@ void ComboBoxWidget::Mirror() {
 void ComboBoxWidget::MirrorLook() {
   const forms::Properties& now = control_;
   setFont(ToQt(now.font));
-  // Resizing leaves the height of a drop-down alone, but enlarges its font.
+  // Resizing a form enlarges a drop-down's font, but not its height.
   QRect place = PlaceInPixels(control_);
   place.setHeight(qMax(place.height(), qRound(kLeastLines * fontMetrics().height())));
   Dress(*this, control_, place);
   name_->setText(accessibleName());
 }
 
-// The style leaves the arrow to us.
+// The style sheet has no arrow.
 void ComboBoxWidget::paintEvent(QPaintEvent* event) {
   QComboBox::paintEvent(event);
   QPainter painter(this);
   PaintArrow(painter, {width() - static_cast<double>(kArrowInset), height() / 2.0 + 1}, 1);
 }
 
-// A wheel turned over it on the way down a page chooses nothing.
+// Scrolling past the field must not change it.
 void ComboBoxWidget::wheelEvent(QWheelEvent* event) {
   event->ignore();
 }

@@ -24,7 +24,7 @@ class ComboBoxWidget : public QComboBox, public ControlView {
  private:
   void MirrorLook();
 
-  QLabel* name_;  // for assistive programs, which are told what is chosen in place of a name
+  QLabel* name_;  // for assistive programs, which would use the selection as the name
   bool entriesChanged_ = true;
 };
 

@@ -1,4 +1,4 @@
-// How a control that the program paints itself looks.
+// Painting of controls that have no Qt widget of their kind.
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -13,9 +13,9 @@ namespace screens::qt {
 namespace {
 
 constexpr double kTileRadius = 12;
-constexpr double kTileField = 56;  // of a tile's picture, where the tile is high enough
+constexpr double kTileField = 56;  // of a tile's picture, if the tile is high enough
 constexpr double kDisabledOpacity = 0.5;
-constexpr double kFadedOpacity = 0.7;  // still read
+constexpr double kFadedOpacity = 0.7;  // still readable
 
 Qt::Alignment ToQt(forms::Alignment alignment) {
   switch (alignment) {
@@ -64,7 +64,7 @@ QRectF ControlWidget::PlaceOfPicture() const {
   return place;
 }
 
-// Through the middles of the pixels at its ends.
+// Draws through the centres of the end pixels.
 void ControlWidget::PaintLine(QPainter& painter) {
   const forms::LineEnds& e = control_.ends;
   const QPointF corner = QPointF(pos()) - QPointF(0.5, 0.5);
@@ -115,7 +115,7 @@ void ControlWidget::PaintTile(QPainter& painter) {
   PaintRendered(painter, QRectF(middle.x() - field / 2, middle.y() - field / 2, field, field));
 }
 
-// Pictures change seldom and are painted often: each is rendered once a size.
+// Pictures rarely change but are painted often, so each is rendered once per size.
 void ControlWidget::PaintRendered(QPainter& painter, const QRectF& into) {
   const double ratio = devicePixelRatioF();
   const QSize size(qCeil(into.width() * ratio), qCeil(into.height() * ratio));
@@ -136,7 +136,7 @@ QFont ControlWidget::CaptionFont() const {
                            : Fitted(font, text, Body().width());
 }
 
-// A line that is too long even in the smallest font is cut short.
+// Elides a line that is too long even in the smallest font.
 QString ControlWidget::ShownCaption() const {
   const QString text = screens::qt::ToQt(control_.caption);
   return control_.wordWrap

@@ -29,8 +29,8 @@ void ControlWidget::Mirror() {
     const QString caption = ToQt(now.caption);
     if (now.toolTip.empty() && ShownCaption() != caption) setToolTip(caption);
   }
-  // What neither answers nor shows a tool tip lets the mouse through to what lies below it. What
-  // may hold other controls does not: the mouse would pass them by too.
+  // A control without mouse handlers or tool tip lets the mouse through to what is below. A
+  // possible container must not: the mouse would bypass its children too.
   const bool deaf =
       !control_.onClick && !control_.onMouseMove && !control_.onMouseDown && !control_.onMouseWheel;
   setAttribute(Qt::WA_TransparentForMouseEvents,
@@ -42,7 +42,7 @@ void ControlWidget::Mirror() {
   update();
 }
 
-// Of a line: the box of its ends, with room for its width.
+// For a line, the box of its ends with room for its width.
 QRect ControlWidget::Geometry() const {
   if (control_.kind == forms::Kind::Line) {
     const forms::LineEnds& e = control_.ends;
@@ -70,7 +70,7 @@ void ControlWidget::mouseMoveEvent(QMouseEvent* event) {
   TellMouse(control_.onMouseMove, *event);
 }
 
-// Under Wayland no program places its windows; the screen itself moves them.
+// Under Wayland programs cannot place windows; only the compositor moves them.
 void ControlWidget::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   if (control_.dragHandle && QGuiApplication::platformName() == u"wayland") {

@@ -17,7 +17,7 @@ class ControlWidget : public QWidget, public ControlView {
   QWidget& Widget() override { return *this; }
   void Mirror() override;
 
-  // As by the mouse.
+  // Does what a mouse click does.
   void Click();
 
  protected:
@@ -29,7 +29,7 @@ class ControlWidget : public QWidget, public ControlView {
   void keyPressEvent(QKeyEvent*) override;
 
  private:
-  static constexpr int kShadow = 18;  // pixels on every side of a card
+  static constexpr int kShadow = 18;  // pixels on each side of a card
 
   void TellMouse(const std::function<void(forms::MousePoint)>& handler, const QMouseEvent& event);
   int Margin() const { return control_.look == forms::Look::Card ? kShadow : 0; }
@@ -45,8 +45,8 @@ class ControlWidget : public QWidget, public ControlView {
   void PaintRendered(QPainter& painter, const QRectF& into);
   void PaintCaption(QPainter& painter);
 
-  int wheel_ = 0;     // turned, but not yet by a whole step
-  QPixmap rendered_;  // the picture at the present size
+  int wheel_ = 0;     // rotation less than a full step
+  QPixmap rendered_;  // the picture at the current size
 };
 
 }  // namespace screens::qt

@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 constexpr int kButtons = 42;     // pixels for arrows and padding
 constexpr int kArrowInset = 14;  // from the right edge to the middle of an arrow
-constexpr double kRadius = 10;   // of the frame's corners
+constexpr double kRadius = 10;   // of the border's corners
 constexpr int kLastPart = 2;     // year, or half of the day
 
 }  // namespace
@@ -74,7 +74,7 @@ void DateTimeWidget::ShowMoment() {
   typed_ = false;
 }
 
-// Month names are in composed form; what is typed or pasted need not be, nor be free of line ends.
+// Month names are in composed form; typed or pasted text may not be, and may contain line ends.
 bool DateTimeWidget::Take() {
   if (!typed_) return true;
   const QString typed = text().simplified().normalized(QString::NormalizationForm_C);
@@ -118,7 +118,7 @@ void DateTimeWidget::DropDown() {
   calendar_->DropDown(QDate(at.year, at.month, at.day));
 }
 
-// The style leaves the arrows to us: one that drops the calendar down, or two that step.
+// The style sheet has no arrows: one for the calendar, or two for stepping.
 void DateTimeWidget::paintEvent(QPaintEvent* event) {
   QAbstractSpinBox::paintEvent(event);
   QPainter painter(this);
@@ -145,7 +145,7 @@ void DateTimeWidget::keyPressEvent(QKeyEvent* event) {
   QAbstractSpinBox::keyPressEvent(event);
 }
 
-// Only presses beside the text come here.
+// Only presses outside the text arrive here.
 void DateTimeWidget::mousePressEvent(QMouseEvent* event) {
   if (IsDate()) {
     DropDown();
@@ -154,7 +154,8 @@ void DateTimeWidget::mousePressEvent(QMouseEvent* event) {
   }
 }
 
-// Unless the mouse places the cursor, typing replaces the text; a half-typed one is kept.
+// Selects the text, so that typing replaces it, unless the mouse places the cursor or text is half
+// typed.
 void DateTimeWidget::focusInEvent(QFocusEvent* event) {
   QAbstractSpinBox::focusInEvent(event);
   const bool byKey =
@@ -171,7 +172,7 @@ void DateTimeWidget::focusOutEvent(QFocusEvent* event) {
   Take();
 }
 
-// Turned only while it has the focus.
+// Reacts to the wheel only with the focus.
 void DateTimeWidget::wheelEvent(QWheelEvent* event) {
   if (hasFocus()) {
     QAbstractSpinBox::wheelEvent(event);

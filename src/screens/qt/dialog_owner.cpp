@@ -8,7 +8,7 @@
 namespace screens::qt {
 namespace {
 
-// Innermost last: handlers nest where one lets the event loop run.
+// Innermost last: handlers nest if one runs the event loop.
 std::vector<const QWidget*>& Running() {
   static std::vector<const QWidget*> windows;
   return windows;
@@ -32,7 +32,7 @@ RunningHandler::~RunningHandler() {
   Running().pop_back();
 }
 
-// Only its native window gets the owner: if the owner closes, the dialog stays.
+// Sets the owner only on the native window, so that the dialog stays if the owner closes.
 void GiveOwner(QDialog& dialog) {
   dialog.winId();
   dialog.windowHandle()->setTransientParent(Owner());

@@ -1,11 +1,11 @@
-// Which window a dialog belongs to: that of the form whose handler opens it.
+// Makes dialogs belong to the window of the form whose handler opens them.
 #pragma once
 
 #include <QDialog>
 
 namespace screens::qt {
 
-// Lives while a handler of the window's form runs.
+// Exists while a handler of the window's form runs.
 class RunningHandler {
  public:
   explicit RunningHandler(const QWidget& window);
@@ -14,8 +14,8 @@ class RunningHandler {
   RunningHandler& operator=(const RunningHandler&) = delete;
 };
 
-// Makes a dialog modal and keeps it above the window of the innermost running handler; windows that
-// are hidden or minimised do not count.
+// Makes a dialog modal and keeps it above the window of the innermost running handler, ignoring
+// hidden and minimised windows.
 void GiveOwner(QDialog& dialog);
 
 }  // namespace screens::qt

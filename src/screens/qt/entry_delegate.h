@@ -1,12 +1,11 @@
-// The rows of lists and drop-downs.
+// Draws the rows of lists and drop-downs.
 #pragma once
 
 #include <QStyledItemDelegate>
 
 namespace screens::qt {
 
-// A row is as wide as its list. A text that is too long for it is cut short, and shown in a tool
-// tip.
+// Rows are as wide as their list. Text that is too long is elided and shown in a tool tip.
 class EntryDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -18,7 +17,7 @@ class EntryDelegate : public QStyledItemDelegate {
                  const QModelIndex& index) override;
 
  protected:
-  // Of the text with its margins, in pixels.
+  // The width of the text with its margins, in pixels.
   virtual int WidthOf(const QStyleOptionViewItem& option, const QModelIndex& index) const {
     return QStyledItemDelegate::sizeHint(option, index).width();
   }

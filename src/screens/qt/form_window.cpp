@@ -16,7 +16,7 @@
 namespace screens::qt {
 namespace {
 
-// A key together with Alt or Ctrl is the toolkit's own.
+// Keys with Alt or Ctrl are left to Qt.
 forms::Key KeyOf(const QKeyEvent& event) {
   if (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) return forms::Key::Other;
   switch (event.key()) {
@@ -77,7 +77,7 @@ void FormWindow::SetTabOrder() {
   for (std::size_t i = 1; i < stops.size(); ++i) {
     setTabOrder(&stops[i - 1]->Widget(), &stops[i]->Widget());
   }
-  // The keyboard begins with the first that can be used.
+  // The focus starts at the first usable control.
   if (form_.activeControl != nullptr) return;
   for (const ControlView* view : stops) {
     if (!view->Model().enabled || !view->Model().visible) continue;
@@ -108,7 +108,7 @@ void FormWindow::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) fitted_ = false;
 }
 
-// When a window is first painted, the desktop has given it its frame.
+// By the first paint the desktop has added the frame.
 void FormWindow::paintEvent(QPaintEvent*) {
   if (!std::exchange(fitted_, true)) {
     QMetaObject::invokeMethod(
@@ -138,7 +138,7 @@ void FormWindow::moveEvent(QMoveEvent*) {
   shownPosition_ = pos();
 }
 
-// A form is not laid out while it is minimised, so that coming back counts as a resize.
+// A minimised form is not laid out, so restoring it counts as a resize.
 void FormWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::ActivationChange) ActivationChanged();
@@ -172,7 +172,7 @@ void FormWindow::leaveEvent(QEvent*) {
   Dispatch("Form_MouseLeave", [this] { form_.Form_MouseLeave(); });
 }
 
-// Asked again once the toolkit has settled: a drop-down of the window's own is no other window.
+// Checks again once Qt has settled: a drop-down of this window does not count as another window.
 void FormWindow::ActivationChanged() {
   if (isActiveWindow()) active_ = true;
   if (isActiveWindow() || !active_) return;
@@ -186,7 +186,7 @@ void FormWindow::ActivationChanged() {
       Qt::QueuedConnection);
 }
 
-// A control's key has been through the event filter already.
+// Keys of controls have already passed the event filter.
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   const bool seen = ViewOf(focusWidget()) != nullptr;
   if (seen || !PressKey(*event, nullptr)) QWidget::keyPressEvent(event);
@@ -213,7 +213,7 @@ void FormWindow::NoteFocus(const QObject* widget) {
 
 bool FormWindow::PressKey(const QKeyEvent& event, const QObject* widget) {
   forms::KeyPress press = {KeyOf(event)};
-  // A key held down since before the window was there has not been pressed in it.
+  // A key held down since before the window opened was not pressed in it.
   const bool once = press.key == forms::Key::Enter || press.key == forms::Key::Escape;
   if (press.key == forms::Key::Other || (once && event.isAutoRepeat())) return false;
   Dispatch("Form_KeyDown", [&] { form_.Form_KeyDown(press); });

@@ -1,4 +1,4 @@
-// The window of a form: mirrors its controls to widgets and forwards the user's events.
+// The window of a form: mirrors its controls in widgets and forwards the user's events.
 #pragma once
 
 #include <QWidget>
@@ -12,26 +12,26 @@
 
 namespace screens::qt {
 
-// Refers to its form until it is retired.
+// Refers to its form until retired.
 class FormWindow : public QWidget {
   Q_OBJECT
 
  public:
   explicit FormWindow(forms::Form& form);
 
-  // Takes over what has changed in the form and its controls.
+  // Shows what has changed in the form and its controls.
   void Mirror();
 
   bool IsRetired() const { return retired_; }
 
-  // Hides the window and cuts it off from its form: no event and no timer reaches it any more. It
-  // is deleted once none of its handlers is running.
+  // Hides the window and detaches it from its form: no events or timers reach the form any more.
+  // The window is deleted once none of its handlers is running.
   void Retire();
 
  signals:
-  void ClosedByUser();  // and the form did not object
-  void Hidden();        // by the program or by closing; not by minimising
-  void HandlerDone();   // which may have changed other forms too
+  void ClosedByUser();  // unless the form objected
+  void Hidden();        // by the program or by closing, not by minimising
+  void HandlerDone();   // it may have changed other forms too
 
  protected:
   void showEvent(QShowEvent*) override;
@@ -47,7 +47,8 @@ class FormWindow : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;  // of the controls' widgets
 
  private:
-  // Runs a handler of the form, if there is one, by the name of its control or event, and mirrors.
+  // Runs a handler of the form, unless it is empty, then mirrors. `step` names its control or
+  // event.
   void Dispatch(std::string_view step, const std::function<void()>& handler);
   void MirrorControls();
   void MirrorBackground();
@@ -57,7 +58,7 @@ class FormWindow : public QWidget {
   void MirrorFocus();
   void SetTabOrder();
   void NoteFocus(const QObject* widget);
-  // First the form, then the control, if there is one. Whether either has dealt with it.
+  // Offers the key to the form, then to the control, if any. Returns whether either handled it.
   bool PressKey(const QKeyEvent& event, const QObject* widget);
   ControlView* ViewOf(const QObject* widget) const;
   void ActivationChanged();
@@ -74,7 +75,7 @@ class FormWindow : public QWidget {
   const forms::Control* shownFocus_ = nullptr;
   bool active_ = false;
   bool fitted_ = false;
-  int handlers_ = 0;  // running, one inside another where one lets the event loop run
+  int handlers_ = 0;  // running; they nest if one runs the event loop
   bool retired_ = false;
 };
 

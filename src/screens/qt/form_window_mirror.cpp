@@ -1,4 +1,4 @@
-// How a window takes over what its form has changed.
+// How a window shows what its form has changed.
 
 #include <utility>
 
@@ -27,7 +27,7 @@ void FormWindow::Mirror() {
   MirrorFocus();
 }
 
-// A control that is hidden passes the focus on, wherever the form wants it.
+// Qt moves the focus when a focused control is hidden; keep the one that the form wants.
 void FormWindow::MirrorControls() {
   forms::Control* const wanted = form_.activeControl;
   const bool moved = wanted != shownFocus_;
@@ -46,7 +46,7 @@ void FormWindow::MirrorBackground() {
   update();
 }
 
-// Only what the form itself has changed; the user's own changes have come in by resizeEvent.
+// Applies only changes by the form; changes by the user arrive in resizeEvent.
 void FormWindow::MirrorSize() {
   setMinimumSize(ToPixels(form_.minimumWidth, form_.minimumHeight).boundedTo(RoomOnScreen(*this)));
   const QSize wanted = ToPixels(form_.scaleWidth, form_.scaleHeight);
@@ -59,7 +59,7 @@ void FormWindow::MirrorPosition() {
   if (std::exchange(shownPosition_, wanted) != wanted) move(wanted);
 }
 
-// Likewise. A window that was maximised before it was minimised keeps that in mind.
+// Likewise. Minimising keeps the maximised flag, so that restoring maximises again.
 void FormWindow::MirrorState() {
   if (std::exchange(shownState_, form_.windowState) == form_.windowState) return;
   switch (form_.windowState) {

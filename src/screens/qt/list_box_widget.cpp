@@ -18,13 +18,13 @@
 namespace screens::qt {
 namespace {
 
-constexpr int kRowHeight = 28;  // pixels, or more where the font wants it
+constexpr int kRowHeight = 28;  // pixels, or more if the font needs it
 constexpr int kRowMargin = 8;
 constexpr double kChosenOpacity = 0.3;
 constexpr double kHoverOpacity = 0.4;
 constexpr int kShownEvery = 50;  // milliseconds
 
-// A row: the typed beginning bold, the chosen one on gold.
+// Draws rows: the matching prefix bold, the selected row gold.
 class RowDelegate : public EntryDelegate {
  public:
   RowDelegate(const forms::Control& control, QObject* parent)
@@ -98,7 +98,7 @@ int EntriesModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant EntriesModel::data(const QModelIndex& index, int role) const {
-  // Entries may have gone since they were counted.
+  // Entries may have been removed since they were counted.
   if (role != Qt::DisplayRole || index.row() >= items_.ListCount()) return {};
   return ToQt(items_.List(index.row()));
 }
@@ -118,7 +118,7 @@ ListBoxWidget::ListBoxWidget(forms::Control& control, Dispatch dispatch, QWidget
   control_.items->onEntriesChanged = [self = QPointer(this)] {
     if (self) self->TakeNoteOfChange();
   };
-  // A click on what is chosen already is one as well.
+  // A click on the selected entry counts as well.
   connect(this, &QListView::clicked, this, [this](const QModelIndex& index) {
     if (index.row() != chosenBefore_) return;
     dispatch_([this, row = index.row()] { forms::Choose(control_, row); });
@@ -140,11 +140,11 @@ void ListBoxWidget::Mirror() {
   const std::string searched = shown_ ? shown_->emphasis : "";
   if (!TakeProperties()) return;
   MirrorLook();
-  // A search that finds the same entry again brings it back too.
+  // A search that finds the same entry again scrolls back to it.
   if (control_.emphasis != searched) scrollTo(currentIndex(), PositionAtTop);
 }
 
-// In another size the same row stays first, and the chosen one in view.
+// At a new size the same row stays on top, and the selection in view.
 void ListBoxWidget::MirrorLook() {
   const auto measures = [this] { return std::pair(size(), font().pixelSize()); };
   const auto before = measures();
@@ -159,7 +159,7 @@ void ListBoxWidget::MirrorLook() {
   if (inView) scrollTo(chosen);
 }
 
-// While entries come in, the user may look through those that are there.
+// While entries arrive, the user may scroll through those present.
 void ListBoxWidget::MirrorEntries() {
   soon_.stop();
   const int before = model_.rowCount(), scrolled = verticalScrollBar()->value();
@@ -172,7 +172,7 @@ void ListBoxWidget::MirrorEntries() {
   verticalScrollBar()->setValue(scrolled);
 }
 
-// A neighbour comes into view by one row; any other entry goes to the top, what follows it below.
+// Scrolls by one row to a neighbour; puts any other entry at the top.
 void ListBoxWidget::MirrorSelection() {
   const int before = currentIndex().row(), now = control_.items->ListIndex();
   if (before == now) return;
@@ -197,7 +197,7 @@ void ListBoxWidget::paintEvent(QPaintEvent* event) {
                    ToQt(control_.whenEmpty));
 }
 
-// The view would make its first entry the current one.
+// QListView would make the first entry current.
 void ListBoxWidget::focusInEvent(QFocusEvent* event) {
   if (currentIndex().isValid()) {
     QListView::focusInEvent(event);
@@ -218,7 +218,7 @@ void ListBoxWidget::mouseMoveEvent(QMouseEvent* event) {
   dispatch_([this, row] { control_.onHover(row); });
 }
 
-// What is chosen stays so until something else is.
+// A selection stays until another entry is selected.
 QItemSelectionModel::SelectionFlags ListBoxWidget::selectionCommand(const QModelIndex& index,
                                                                     const QEvent*) const {
   return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;

@@ -1,4 +1,4 @@
-// A list box for any number of entries: only the rows in view are drawn.
+// A list box for any number of entries: only visible rows are drawn.
 #pragma once
 
 #include <QAbstractListModel>
@@ -9,7 +9,7 @@
 
 namespace screens::qt {
 
-// The entries as they were counted last; their texts are read when they are drawn.
+// The number of entries at the last count; texts are read when they are drawn.
 class EntriesModel : public QAbstractListModel {
   Q_OBJECT
 
@@ -52,8 +52,8 @@ class ListBoxWidget : public QListView, public ControlView {
   void MirrorLook();
 
   EntriesModel model_;
-  QTimer soon_;            // entries that come in one after another are shown some at a time
-  int chosenBefore_ = -1;  // the last press
+  QTimer soon_;            // batches entries that arrive one by one
+  int chosenBefore_ = -1;  // before the last press
   bool entriesChanged_ = true;
   bool mirroring_ = false;
 };

@@ -14,8 +14,8 @@ QtHost::~QtHost() {
   for (const auto& [form, window] : windows_) delete window;
 }
 
-// The window is there before its form is loaded, so that a form which lets the event loop run while
-// it loads is not loaded twice.
+// Creates the window before loading the form, so that a form which runs the event loop while
+// loading is not loaded twice.
 FormWindow& QtHost::WindowOf(forms::Form& form) {
   if (const auto found = windows_.find(&form); found != windows_.end()) return *found->second;
   auto* window = new FormWindow(form);
@@ -33,7 +33,7 @@ FormWindow& QtHost::WindowOf(forms::Form& form) {
   return *window;
 }
 
-// The other windows, of which any may close while it is mirrored.
+// Mirrors the other windows, any of which may close meanwhile.
 void QtHost::MirrorOthers(const FormWindow* window) {
   std::vector<FormWindow*> others;
   for (const auto& [form, other] : windows_) {
@@ -44,7 +44,7 @@ void QtHost::MirrorOthers(const FormWindow* window) {
 
 void QtHost::Show(forms::Form& form) {
   FormWindow& window = WindowOf(form);
-  if (window.IsRetired()) return;  // unloaded while it loaded
+  if (window.IsRetired()) return;  // unloaded while loading
   window.Mirror();
   window.setWindowModality(Qt::NonModal);
   window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
@@ -58,9 +58,9 @@ void QtHost::ShowModal(forms::Form& form, forms::Form& owner) {
   const QPointer<FormWindow> window = &WindowOf(form);
   if (window->IsRetired()) return;
   window->Mirror();
-  window->hide();  // a modality takes effect at the next show
+  window->hide();  // modality takes effect at the next show
   window->setWindowModality(Qt::ApplicationModal);
-  window->winId();  // makes the native window, which alone is told its owner
+  window->winId();  // creates the native window, which gets the owner
   const FormWindow& behind = WindowOf(owner);
   window->windowHandle()->setTransientParent(behind.windowHandle());
   window->setScreen(behind.screen());
@@ -70,7 +70,7 @@ void QtHost::ShowModal(forms::Form& form, forms::Form& owner) {
   QObject::connect(window, &FormWindow::Hidden, &until, &QEventLoop::quit);
   QObject::connect(window, &QObject::destroyed, &until, &QEventLoop::quit);
   window->show();
-  // Its first events may have unloaded it, while it was not yet there to be hidden.
+  // Its first events may have unloaded it before it could be hidden.
   if (!window) return;
   if (window->IsRetired()) {
     window->hide();

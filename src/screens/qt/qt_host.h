@@ -1,4 +1,4 @@
-// Shows forms in windows of the toolkit.
+// Shows forms in Qt windows.
 #pragma once
 
 #include <map>
@@ -10,7 +10,7 @@
 
 namespace screens::qt {
 
-// A form must outlive the host, or be unloaded before it goes.
+// Forms must outlive the host or be unloaded before they are destroyed.
 class QtHost : public forms::FormHost {
  public:
   QtHost() = default;
@@ -27,10 +27,10 @@ class QtHost : public forms::FormHost {
   forms::DrawingTarget& TargetOf(forms::Control& pictureBox) override;
   void ForgetTarget(forms::Control& pictureBox) override { pages_.erase(&pictureBox); }
 
-  // Takes over what has changed in any form.
+  // Shows what has changed in any form.
   void MirrorAll() { MirrorOthers(nullptr); }
 
-  // The window of a form; made, and the form loaded, at the first call and after an unload.
+  // The window of a form. Creates it and loads the form at the first call and after an unload.
   FormWindow& WindowOf(forms::Form& form);
 
  private:

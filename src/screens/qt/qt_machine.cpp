@@ -14,7 +14,7 @@
 namespace screens::qt {
 namespace {
 
-constexpr int kSign = 40;  // pixels, of a message box
+constexpr int kSign = 40;  // pixels
 
 }  // namespace
 
@@ -66,13 +66,13 @@ foundation::LocaleNames SystemNames(const QLocale& locale) {
         locale.standaloneMonthName(month).toStdString();
     names.datedMonths[static_cast<std::size_t>(month - 1)] = locale.monthName(month).toStdString();
   }
-  for (int weekday = 0; weekday < 7; ++weekday) {  // the toolkit's 7 is Sunday
+  for (int weekday = 0; weekday < 7; ++weekday) {  // Qt's 7 is Sunday
     names.weekdays[static_cast<std::size_t>(weekday)] =
         locale.standaloneDayName(weekday == 0 ? 7 : weekday).toStdString();
     names.shortWeekdays[static_cast<std::size_t>(weekday)] =
         locale.standaloneDayName(weekday == 0 ? 7 : weekday, QLocale::ShortFormat).toStdString();
   }
-  names.firstWeekday = locale.firstDayOfWeek() % 7 + 1;  // the toolkit's 1 is Monday
+  names.firstWeekday = locale.firstDayOfWeek() % 7 + 1;  // Qt's 1 is Monday
   return names;
 }
 

@@ -1,4 +1,4 @@
-// The machine's clock, boxes, event loop and browser through the toolkit.
+// The machine's clock, message boxes, event loop and browser, by Qt.
 #pragma once
 
 #include <QElapsedTimer>
@@ -24,7 +24,7 @@ class QtMessageBoxes : public foundation::MessageBoxes {
 
 class QtYielder : public foundation::Yielder {
  public:
-  // Shows what has changed meanwhile; called some times a second.
+  // Shows what has changed meanwhile; called several times a second.
   std::function<void()> show;
 
   void Yield() override;
@@ -38,8 +38,7 @@ class QtBrowser : public foundation::Browser {
   void Open(std::string_view address) override;
 };
 
-// Months and weekdays of a locale, by default the user's; the English ones where it has no
-// language.
+// Months and weekdays of a locale, by default the user's; English if it has no language.
 foundation::LocaleNames SystemNames(const QLocale& locale = QLocale::system());
 
 }  // namespace screens::qt

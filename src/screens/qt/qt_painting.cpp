@@ -57,7 +57,7 @@ QBrush ToQt(const forms::Fill& fill) {
   return screens::qt::ToQt(std::get<forms::Colour>(fill));
 }
 
-// Dots are drawn by who knows their picture's size.
+// Pixels are drawn by the caller, which knows the picture's size.
 void Paint(QPainter&, const forms::Dots&) {}
 
 void Paint(QPainter& painter, const forms::Outline& outline) {
@@ -69,9 +69,8 @@ void Paint(QPainter& painter, const forms::Outline& outline) {
   }
 }
 
-// The measures of the legacy Hindi face, in its size. The letters of an open face reach further up
-// and down, so it must be smaller to fit in the same place, and smaller still in the title of a
-// page, between two rules.
+// Metrics of the legacy Hindi face, relative to its size. The free substitute has taller letters,
+// so it must be smaller to fit, and smaller still in a page's title, between two rules.
 constexpr double kLegacyLine = 1.05, kLegacyAscent = 0.775;
 constexpr double kStandInScale = 0.78, kLargestStandIn = 270;  // twips
 
@@ -81,13 +80,13 @@ bool IsStandInForLegacyHindi(const forms::Font& font) {
   return font.name == foundation::kLegacyHindiFace && !installed;
 }
 
-// A text in the encoding of a face that is not here would show as Latin letters.
+// Without its font, text in the legacy encoding would show as Latin letters.
 QString Readable(std::string_view text, const forms::Font& font) {
   const bool legacy = IsStandInForLegacyHindi(font);
   return screens::qt::ToQt(legacy ? foundation::FromLegacyHindi(text) : std::string(text));
 }
 
-// The font at a size in units of a picture, which are pixels while it is painted.
+// The font at a size in picture units, which are pixels while painting.
 QFont InPicture(forms::Font font, double size) {
   font.size = static_cast<float>(size * kTwipsPerPixel / kTwipsPerPoint);
   return screens::qt::ToQt(font);
@@ -114,7 +113,7 @@ void Paint(QPainter& painter, const forms::Inset& inset) {
   PaintPicture(painter, *inset.picture, QRectF(inset.at.x, inset.at.y, inset.width, inset.height));
 }
 
-// Faces that forms name and the program's own stands in for.
+// Faces named by forms that the program's font replaces.
 bool HasOpenStandIn(std::string_view face) {
   return face == "Arial" || face == "Tahoma";
 }
@@ -167,7 +166,7 @@ QFont FittedInto(QFont font, const QString& text, QSizeF box) {
   return font;
 }
 
-// As it will be painted, at a size that is not rounded to whole pixels of the screen.
+// Measures as painted, at a size not rounded to whole pixels.
 double QtTextMeasure::TextWidth(std::string_view text, const forms::Font& font) const {
   const QFontMetricsF metrics(InPicture(font, LetterSize(font)));
   return metrics.horizontalAdvance(Readable(text, font));

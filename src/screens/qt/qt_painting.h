@@ -1,4 +1,4 @@
-// Colours, fonts and pictures of the form model, drawn with the toolkit's painter.
+// Colours, fonts and pictures of the form model, drawn with QPainter.
 #pragma once
 
 #include <QColor>
@@ -24,16 +24,16 @@ int ToPixels(double twips);
 QColor ToQt(forms::Colour colour);
 QString ToQt(std::string_view utf8);
 
-// Its size follows the form's twips, not the resolution of the screen. Faces that are not free are
-// shown in the program's own.
+// The size follows the form's twips, not the screen resolution. Faces that are not free are
+// replaced by the program's.
 QFont ToQt(const forms::Font& font);
 
-// The font, or as much smaller as lets the text fit, down to the smallest that can be read: on one
-// line, or wrapped into a box.
+// The font, reduced until the text fits on one line or wrapped into a box, but never below the
+// smallest readable size.
 QFont Fitted(QFont font, const QString& text, double width);
 QFont FittedInto(QFont font, const QString& text, QSizeF box);
 
-// By the metrics of the toolkit's fonts.
+// Measures with Qt's font metrics.
 class QtTextMeasure : public forms::TextMeasure {
  public:
   double TextWidth(std::string_view text, const forms::Font& font) const override;
@@ -42,16 +42,16 @@ class QtTextMeasure : public forms::TextMeasure {
   double LetterSize(const forms::Font& font) const override;
 };
 
-// The picture stretched to the rectangle.
+// Draws the picture stretched to the rectangle.
 void PaintPicture(QPainter& painter, const forms::Picture& picture, const QRectF& into);
 
-// A small arrow of a field's own, 1 down or -1 up.
+// Draws a field's small arrow; direction is 1 for down, -1 for up.
 void PaintArrow(QPainter& painter, QPointF middle, int direction);
 
-// The dots themselves, for as long as they last.
+// Shares the raster's pixels, which must outlive the image.
 QImage ImageOf(const forms::Raster& raster);
 
-// The picture in dots, on white.
+// The picture as pixels, on white.
 forms::Raster Rasterise(const forms::Picture& picture, QSize size);
 
 QIcon ToIcon(const forms::Picture& picture);

@@ -15,17 +15,17 @@ namespace screens::qt {
 namespace {
 
 constexpr double kTwipsPerInch = 72 * kTwipsPerPoint;
-constexpr float kLargestPaper = 48 * static_cast<float>(kTwipsPerInch);  // nothing is cut before
+constexpr float kLargestPaper = 48 * static_cast<float>(kTwipsPerInch);  // never clips
 
-// All pages are printed, in their order. Widgets by name: the dialog has no option for the order,
-// and shows a range without PrintPageRange too.
+// All pages are printed in order. Finds the widgets by name: the dialog has no option for the order
+// and shows a range even without PrintPageRange.
 void OfferAllPagesOnly(const QPrintDialog& dialog) {
   for (const char* choice : {"gbPrintRange", "reverse"}) {
     if (auto* widget = dialog.findChild<QWidget*>(QLatin1String(choice))) widget->setEnabled(false);
   }
 }
 
-// The dialog itself proposes a file on some platforms only.
+// The dialog proposes a file only on some platforms.
 void ProposeFile(const QPrintDialog& dialog, const QString& name) {
   auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
   if (file != nullptr) file->setText(QDir::home().filePath(name + QStringLiteral(".pdf")));

@@ -1,4 +1,4 @@
-// Pages in dots, and pages on paper.
+// Pages as pixels and on paper.
 #pragma once
 
 #include <QPainter>
@@ -13,24 +13,24 @@
 
 namespace screens::qt {
 
-// With as many dots as the screen has.
+// Renders at the screen's resolution.
 class QtRasteriser : public forms::Rasteriser {
  public:
   forms::Raster Render(const forms::Picture& picture) const override;
 };
 
-// The toolkit's printer and its dialog. A page is drawn as a picture and goes onto the paper when
-// it is complete, unless nothing was drawn on it.
+// Qt's printer and print dialog. A page is recorded as a picture and printed when it is complete,
+// unless nothing was drawn on it.
 class QtPrinter : public forms::Printer {
  public:
   QtPrinter() = default;
-  // Into a PDF file, without asking anybody.
+  // Prints to a PDF file without a dialog.
   explicit QtPrinter(QString pdfFile) : pdfFile_(std::move(pdfFile)) {}
 
   void SetDocumentName(std::string_view name) override;
   void AskUser() override;
   void SetOrientation(forms::Orientation orientation) override;
-  // Both put the page onto the paper; FileAccess if the printer does not take it.
+  // Both print the page; FileAccess if the printer does not accept it.
   void NewPage() override;
   void EndDoc() override;
 
@@ -56,14 +56,14 @@ class QtPrinter : public forms::Printer {
                     double height) override {
     page_.PaintPicture(picture, x, y, width, height);
   }
-  // Opens the document. FileAccess if the printer takes none.
+  // Opens the document. FileAccess if the printer does not accept one.
   void Print(std::string_view text) override;
   double TextWidth(std::string_view text) const override { return page_.TextWidth(text); }
   double TextHeight(std::string_view text) const override { return page_.TextHeight(text); }
 
  private:
   QPrinter& Device();
-  foundation::Error Refusal();  // names the file, or the printer if there is one
+  foundation::Error Refusal();  // names the file or the printer
   void Open();
   void Release();
 
@@ -72,9 +72,9 @@ class QtPrinter : public forms::Printer {
   QtTextMeasure measure_;
   forms::Control paper_ = Paper();
   forms::PicturePage page_{paper_, measure_};
-  std::unique_ptr<QPrinter> printer_;  // until the document ends, however it ends
+  std::unique_ptr<QPrinter> printer_;  // until the document ends, even by an error
   std::unique_ptr<QPainter> painter_;  // while a document is open
-  bool begun_ = false;                 // the paper has a page
+  bool begun_ = false;                 // a page has been printed
 
   static forms::Control Paper();
 };

@@ -23,7 +23,7 @@ foundation::Error Unwritable(const QFileInfo& file) {
 // QSettings does not notice a short write and replaces the old file. FileAccess, with the old file
 // untouched, if a disk is nearly full.
 void RequireRoomFor(const QFileInfo& file) {
-  constexpr qint64 kSpare = 16384;  // for what is saved, a lock, and the blocks of the disk
+  constexpr qint64 kSpare = 16384;  // for the new values, a lock file and block sizes
   const QDir folder = file.absoluteDir();
   QTemporaryFile trial(folder.filePath(QStringLiteral("trial-XXXXXX")));
   const QByteArray bytes(file.size() + kSpare, ' ');
@@ -50,16 +50,16 @@ QSettings& QtSettings::StoreOf(std::string_view application) {
 std::string QtSettings::GetSetting(std::string_view application, std::string_view section,
                                    std::string_view key, std::string_view fallback) {
   QSettings& store = StoreOf(application);
-  store.sync();  // takes in what another process has written; a look at the file's date if nothing
+  store.sync();  // reads changes by other processes; otherwise only checks the file's date
   const QVariant value = store.value(Entry(section, key));
   if (!value.isValid()) return std::string(fallback);
-  // A comma typed into the file by hand makes a list of the value.
+  // An unquoted comma turns the value into a list.
   return value.toStringList().join(QStringLiteral(", ")).toStdString();
 }
 
 void QtSettings::SaveSettings(std::string_view application, std::string_view section,
                               std::span<const foundation::Setting> settings) {
-  // An object that has failed once, to read too, counts every later save as failed.
+  // A QSettings object that has failed once, even to read, reports every later save as failed.
   if (const auto used = stores_.find(application); used != stores_.end()) stores_.erase(used);
   QSettings& store = StoreOf(application);
   const QFileInfo file(store.fileName());
@@ -71,10 +71,10 @@ void QtSettings::SaveSettings(std::string_view application, std::string_view sec
     store.setValue(entry, ToQt(value));
   }
   store.sync();
-  // A file with a line that cannot be read is still written.
+  // Unreadable lines do not prevent saving.
   if (store.status() != QSettings::AccessError) return;
 
-  // What was not saved is not shown either.
+  // Values that were not saved are not shown either.
   for (auto entry = before.cbegin(); entry != before.cend(); ++entry) {
     if (entry->isValid()) {
       store.setValue(entry.key(), *entry);

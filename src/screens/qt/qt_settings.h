@@ -1,5 +1,5 @@
-// The settings store: one file a user and application, "<application>/<application>.ini" in the
-// user's configuration folder, a group for each section.
+// The settings store: one file per user and application, "<application>/<application>.ini" in the
+// user's configuration folder, with a group for each section.
 #pragma once
 
 #include <QSettings>

@@ -1,4 +1,4 @@
-// Where the errors of forms' handlers end.
+// Handles errors that leave the forms' handlers.
 #pragma once
 
 #include <functional>
@@ -6,9 +6,9 @@
 
 namespace screens::qt {
 
-// Runs one handler at the top of the event loop: of a form, by the name of its control or event. An
-// error that leaves it ends the program with exit status 1, after a box that names the file that
-// failed or, if there is none, the handler.
+// Runs a handler of a form at the top of the event loop; `step` names its control or event. An
+// error that leaves it ends the program with exit status 1, after a message box that names the file
+// that failed or else the handler.
 void RunHandler(std::string_view form, std::string_view step, const std::function<void()>& handler);
 
 }  // namespace screens::qt

@@ -1,4 +1,4 @@
-// A text box, with a remark at its right end.
+// A text box with a remark at its right end.
 #pragma once
 
 #include <QLineEdit>

@@ -19,7 +19,7 @@ QMargins FrameOf(const QWidget& window) {
   return shown == others.end() ? QMargins() : (*shown)->frameMargins();
 }
 
-// The head comes first where there is no room for all of it.
+// If there is no room for everything, the title bar has priority.
 void MoveInto(QRect area, QRect& place) {
   place.moveRight(qMin(place.right(), area.right()));
   place.moveBottom(qMin(place.bottom(), area.bottom()));

@@ -1,18 +1,18 @@
-// How windows fit on the screen with the frame that the desktop draws around them.
+// Fits windows, with the frames that the desktop draws around them, on the screen.
 #pragma once
 
 #include <QWidget>
 
 namespace screens::qt {
 
-// How large the inside of a window may be so that its frame stays on the screen, in logical pixels.
-// A window that is not shown yet is expected to get the same frame as the program's other windows.
+// The largest inside of a window whose frame still fits on the screen, in logical pixels. A window
+// that is not shown yet is assumed to get the same frame as the program's other windows.
 QSize RoomOnScreen(const QWidget& window);
 
-// Shrinks a window that is larger than its screen. One that is shown also comes back onto it.
+// Shrinks a window to its screen; if it is visible, also moves it back onto the screen.
 void FitOnScreen(QWidget& window);
 
-// Centres a window on another one, on the same screen and no further out than its edges.
+// Centres a window on another, without leaving that one's screen.
 void CentreOn(const QWidget& owner, QWidget& window);
 
 }  // namespace screens::qt
