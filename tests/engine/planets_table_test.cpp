@@ -103,7 +103,7 @@ TEST(SubLords, StarsFollowTheCycleOfTheLords) {
     EXPECT_EQ(StarTable[star].Lord, kCycle[star % 9]);
     EXPECT_EQ(clsPP::GetNakLord((star + 0.5) * 40 / 3), kCycle[star % 9]);
   }
-  EXPECT_EQ(support::Beginnings(27, 4, [](int star) { return StarTable[star - 1].Name; }),
+  EXPECT_EQ(support::Translated(27, 4, [](int star) { return StarTable[star - 1].Name; }),
             "Ashv Bhar Kart Rohi Mrig Ardr Puna Pusy Asle Magh P.Ph U.Ph Hast Chit Swat Vish Anur "
             "Jyes Mool P.As U.As Shar Dhan Satb P.Bh U.Bh Revt");
 }

@@ -14,19 +14,19 @@
 namespace engine {
 namespace {
 
-using support::Beginnings;
 using support::Row;
+using support::Translated;
 
 // Orders, rulers, limits and dignities are the tradition's.
 TEST(Zodiac, NamesStandInTheirOrder) {
-  EXPECT_EQ(Beginnings(13, 3, BodyName), "Asc Sun Moo Mar Mer Jup Ven Sat Rah Ket Ura Nep Plu");
+  EXPECT_EQ(Translated(13, 3, BodyName), "Asc Sun Moo Mar Mer Jup Ven Sat Rah Ket Ura Nep Plu");
   // The Sun, the planets outward from it with the Moon behind them, the nodes, the outer planets.
-  EXPECT_EQ(Beginnings(13, 3, BodyNameUpper),
+  EXPECT_EQ(Translated(13, 3, BodyNameUpper),
             "ASC SUN MER VEN MAR JUP SAT MOO RAH KET URA NEP PLU");
-  EXPECT_EQ(Beginnings(27, 4, NakName),
+  EXPECT_EQ(Translated(27, 4, NakName),
             "Ashw Bhar Krit Rohi Mrig Ardr Puna Push Ashl Magh P. P U. P Hast Chit Swat Vish Anur "
             "Jyes Mool P. A U. A Shra Dhan Shat P. B U. B Reva");
-  EXPECT_EQ(Beginnings(12, 3, [](std::int16_t sign) { return RashiNameText(sign, false); }),
+  EXPECT_EQ(Translated(12, 3, [](std::int16_t sign) { return RashiNameText(sign, false); }),
             "Ari Tau Gem Can Leo Vir Lib Sco Sag Cap Aqu Pis");
   std::string hindi;
   for (std::int16_t sign = 1; sign <= 12; ++sign) {
@@ -43,11 +43,11 @@ TEST(Zodiac, NamesStandInTheirOrder) {
 
 TEST(Zodiac, SignsHaveTheirLordsAndHouses) {
   const char kLords[] = "MAR VEN MER MOO SUN MER VEN MAR JUP SAT SAT JUP";
-  EXPECT_EQ(Beginnings(12, 3, RashiLordCodeAt), kLords);
+  EXPECT_EQ(Translated(12, 3, RashiLordCodeAt), kLords);
   const auto name = [](int sign) {
     return foundation::UpperAscii(BodyName(RashiLordNumber(sign)));
   };
-  EXPECT_EQ(Beginnings(12, 3, name), kLords);
+  EXPECT_EQ(Translated(12, 3, name), kLords);
   EXPECT_EQ(RashiLordCodeAt(0), "");
   ExpectRows(HouseOfSign, Row(45, 2, 1), Row(45, 1, 12), Row(45, 12, 11), Row(360, 1, 1));
   EXPECT_ERROR(Subscript, HouseOfSign(45, 0));
