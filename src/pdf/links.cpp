@@ -81,7 +81,7 @@ void PDFPrinter::PDFAttachLink(const Argument& link, LinkKind kind, double x, do
     }
     return;
   }
-  // Links of other kinds leave the mark alone: a picture whose link failed still has it.
+  // Other links do not clear the flag, which a picture whose link has failed leaves set.
   if (kind == LinkKind::Image) linked_.isImage = true;
   if (!link.IsEmptyText()) Link(x, y, Encoded(*link.Text()), "");
   linked_.text = {};

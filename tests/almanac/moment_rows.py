@@ -10,7 +10,7 @@ mean node; all else follows from them by the definitions of the almanac, and sha
 program.
 """
 import sys
-from datetime import date, datetime, timedelta
+from datetime import datetime, timedelta
 from math import ceil
 from pathlib import Path
 

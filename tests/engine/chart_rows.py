@@ -14,7 +14,7 @@ half-angle formula, directions by atan2, divisions by their definitions.
 import re
 import sys
 from datetime import date
-from math import atan, atan2, cos, degrees, floor, pi, radians, sin, sqrt, tan
+from math import atan, atan2, cos, degrees, pi, radians, sin, sqrt, tan
 from pathlib import Path
 
 HERE = Path(__file__).parent
