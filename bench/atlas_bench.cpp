@@ -1,9 +1,11 @@
-// Searching the country with the most places for one keystroke. If SQLite is installed, compared
-// with the same query on a prefix table of its full-text index over the same names.
+// Searching the country with the most places for one keystroke, and finding the zone of one of its
+// places. If SQLite is installed, the search is compared with the same query on a prefix table of
+// its full-text index over the same names.
 
 #include <string>
 
 #include "atlas/clsAtlas.h"
+#include "atlas/zone_index.h"
 #include "bench/figure.h"
 #include "forms/form.h"
 #include "screens/find_in_list.h"
@@ -115,5 +117,13 @@ FIGURE(SearchHit, HIT, "Durvela");
 #ifdef HAVE_SQLITE
 FIGURE(AskHit, HIT, "SQLite FTS5");
 #endif
+
+// Of a place that the tables lack, so that every line of the index is read.
+void FindZone(benchmark::State& state) {
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(atlas::ZoneOfPlace("USA", "", "39.50N", "98.35W"));
+  }
+}
+FIGURE(FindZone, "the zone of a place among 21,133", "Durvela");
 
 }  // namespace

@@ -1,10 +1,11 @@
-// The city files from the build, loaded by the atlas and compared with the tables of places.
+// The city files and indexes from the build, compared with the tables of places and published data.
 #include <gtest/gtest.h>
 
 #include <filesystem>
 
 #include "atlas/clsAtlas.h"
 #include "atlas/getCountryZone.h"
+#include "atlas/index_file.h"
 #include "engine/place_decoding.h"
 #include "foundation/files.h"
 #include "foundation/modFileFx.h"
@@ -41,6 +42,9 @@ TEST_F(AtlasData, ContainsEveryPlaceInTheTables) {
     const std::string text = foundation::ReadFile(table);
     std::string_view rows = text;
     foundation::TakeLine(rows);  // column names
+    IndexFile index(country);
+    const auto indexed = [&](const char* column) { return index.Text(index.Column(column)); };
+    const auto minutes = [&](const char* column) { return index.Number(index.Column(column)); };
     std::int16_t i = 0;
     for (; !rows.empty(); ++records) {
       const std::string_view row = foundation::TakeLine(rows);
@@ -52,7 +56,13 @@ TEST_F(AtlasData, ContainsEveryPlaceInTheTables) {
       // To the minute of arc; whole degrees of longitude are moved by one minute.
       ASSERT_NEAR(Latitude(i), foundation::LeadingNumber(given[2]), 0.5001 / 60) << row;
       ASSERT_NEAR(Longitude(i), foundation::LeadingNumber(given[3]), 1.0001 / 60) << row;
+      ASSERT_TRUE(index.Next());
+      ASSERT_EQ(std::tuple(indexed("place"), indexed("state"), indexed("zone")),
+                std::tuple(given[0], given[1], given[5]));
+      ASSERT_NEAR(minutes("latitude"), Latitude(i) * 60, 1e-6) << row;
+      ASSERT_NEAR(minutes("longitude"), Longitude(i) * 60, 1e-6) << row;
     }
+    EXPECT_FALSE(index.Next()) << country;
     EXPECT_EQ(atlas.getLength(), i) << country;
   }
   EXPECT_GE(records, 200'000);

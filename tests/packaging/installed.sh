@@ -9,7 +9,9 @@ cd "$folder/Any दिल्ली Place"
 [ "$(bin/durvela --version)" = "Durvela $3" ]
 home=$(dirname "$(readlink -f bin/durvela)")
 count() { find "$1" -name "$2" | wc -l; }
-[ "$(count "$home/atlas" '*.city')" -eq "$(count "$1/data/atlas/places" '*.tsv')" ]
+for kind in city index; do
+  [ "$(count "$home/atlas" "*.$kind")" -eq "$(count "$1/data/atlas/places" '*.tsv')" ]
+done
 [ "$(count "$home/Language" '*.txt')" -eq 5 ]
 [ "$(count "$home" '*.afm')" -eq 14 ]
 [ -e "$home/shared" ]
