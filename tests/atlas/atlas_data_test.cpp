@@ -6,6 +6,7 @@
 #include "atlas/clsAtlas.h"
 #include "atlas/getCountryZone.h"
 #include "atlas/index_file.h"
+#include "atlas/zone_index.h"
 #include "engine/place_decoding.h"
 #include "foundation/files.h"
 #include "foundation/modFileFx.h"
@@ -84,6 +85,66 @@ TEST_F(AtlasData, LocatesKnownTowns) {
     while (i <= atlas.getLength() && (atlas.getCity(i) != city || atlas.getState(i) != state)) ++i;
     EXPECT_NEAR(Latitude(i), latitude, 0.1) << city;
     EXPECT_NEAR(Longitude(i), longitude, 0.1) << city;
+  }
+}
+
+// By the comments in tzdata's zone.tab, which name the region of each zone. The atlas has each
+// place as the picker hands it on.
+TEST_F(AtlasData, KnowsTheZonesOfPlaces) {
+  const struct {
+    const char* country;
+    std::vector<std::pair<const char*, const char*>> zones;
+  } countries[] = {
+      {"Australia", {{"Broken Hill(New South Wales)", "Australia/Broken_Hill"}}},
+      {"Brazil",
+       {{"Eirunepe(Amazonas)", "America/Eirunepe"},
+        {"Fernando de Noronha (Distrito Estadual)(Pernambuco)", "America/Noronha"}}},
+      {"Canada",
+       {{"Antigonish(Nova Scotia)", "America/Halifax"},
+        {"Creston(British Columbia)", "America/Creston"},
+        {"Swift Current(Saskatchewan)", "America/Swift_Current"},
+        {"Sydney(Nova Scotia)", "America/Glace_Bay"}}},
+      {"Chile",
+       {{"Coyhaique(Aysen)", "America/Coyhaique"}, {"Hanga Roa(Valparaiso)", "Pacific/Easter"}}},
+      {"Cyprus",
+       {{"Kyrenia(Keryneia)", "Asia/Famagusta"}, {"Paralimni(Ammochostos)", "Asia/Nicosia"}}},
+      {"French Polynesia", {{"Atuona(Iles Marquises)", "Pacific/Marquesas"}}},
+      {"Germany", {{"Busingen(Baden-Wurttemberg)", "Europe/Busingen"}}},
+      {"India", {{"Ujjain(Madhya Pradesh)", "Asia/Kolkata"}}},
+      {"Indonesia", {{"Ambon(Maluku)", "Asia/Jayapura"}}},
+      {"Kiribati", {{"Banana Village(Line Islands)", "Pacific/Kiritimati"}}},
+      {"Malaysia", {{"Kota Kinabalu(Sabah)", "Asia/Kuching"}}},
+      {"Mexico",
+       {{"Bucerias(Nayarit)", "America/Bahia_Banderas"},
+        {"Manuel Benavides(Chihuahua)", "America/Ojinaga"},
+        {"Nava(Coahuila)", "America/Matamoros"}}},
+      {"Mongolia",
+       {{"Ulaangom(Uvs Province)", "Asia/Hovd"}, {"Uliastay(Dzabkhan)", "Asia/Ulaanbaatar"}}},
+      {"New Zealand", {{"Waitangi(Chatham Islands)", "Pacific/Chatham"}}},
+      {"Portugal", {{"Ponta Delgada(Azores)", "Atlantic/Azores"}}},
+      {"Russia",
+       {{"Khandyga(Sakha)", "Asia/Khandyga"},
+        {"Severo-Kuril'sk(Sakhalin Oblast)", "Asia/Srednekolymsk"},
+        {"Ust-Nera(Sakha)", "Asia/Ust-Nera"}}},
+      {"Spain", {{"Melilla(Melilla)", "Africa/Ceuta"}}},
+      {"USA",
+       {{"Beulah(North Dakota)", "America/North_Dakota/Beulah"},
+        {"Menominee(Michigan)", "America/Menominee"},
+        {"Tell City(Indiana)", "America/Indiana/Tell_City"},
+        {"Vincennes(Indiana)", "America/Indiana/Vincennes"}}},
+      {"Zaire", {{"Lubumbashi(Haut-Katanga)", "Africa/Lubumbashi"}}},
+  };
+  for (const auto& [country, zones] : countries) {
+    atlas.LoadCities(country, nullptr);
+    for (const auto& [label, expected] : zones) {
+      std::int16_t i = 1;
+      while (i <= atlas.getLength() && atlas.getCity(i) + "(" + atlas.getState(i) + ")" != label) {
+        ++i;
+      }
+      const auto zone = ZoneOfPlace(country, label, atlas.getLat(i), atlas.getLong(i));
+      ASSERT_TRUE(zone && zone->exact) << label;
+      EXPECT_EQ(zone->name, expected) << label;
+    }
   }
 }
 

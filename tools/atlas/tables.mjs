@@ -1,5 +1,5 @@
 // Shared by the scripts in this folder: the project's tab-separated tables, and grouping.
-import { readFileSync } from 'node:fs';
+import { readFileSync, writeFileSync } from 'node:fs';
 
 // The rows of a table as objects with the names of its header line.
 export function readTable(path) {
@@ -25,3 +25,9 @@ export function groupBy(items, keyOf) {
 export const here = (path) => new URL(path, import.meta.url);
 export const placesFolder = here('../../data/atlas/places/');
 export const countryMap = readTable(here('country_map.tsv'));
+
+// Puts lines into a document, between <!-- name --> and <!-- end -->.
+export function fillDocument(path, name, lines) {
+  const block = new RegExp(`(?<=<!-- ${name} -->\n)[^]*?(?=<!-- end -->)`);
+  writeFileSync(path, readFileSync(path, 'utf8').replace(block, `${lines.join('\n')}\n`));
+}

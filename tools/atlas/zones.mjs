@@ -1,8 +1,9 @@
 // Counts the places whose zone differs from the one in the built-in country table: standard time at
 // the end of 2023, without daylight saving. Updates the table in docs/atlas.md.
-import { readdirSync, readFileSync, writeFileSync } from 'node:fs';
+import { readdirSync } from 'node:fs';
 
-import { countryMap, groupBy, here, placesFolder, readTable } from './tables.mjs';
+import { clocksOf, offsetOn } from './clocks.mjs';
+import { countryMap, fillDocument, groupBy, here, placesFolder, readTable } from './tables.mjs';
 
 const reasons = {
   Mexico: 'the row is Mountain time',
@@ -21,24 +22,16 @@ function tableOffset(text) {
   return (sign === '-' ? 1 : -1) * (60 * Number(hours) + Number(minutes));
 }
 
-// Minutes east of Greenwich in an IANA zone at a moment.
-function clockOffset(zone, moment) {
-  const format = new Intl.DateTimeFormat('en', { timeZone: zone, timeZoneName: 'longOffset' });
-  const name = format.formatToParts(moment).find(({ type }) => type === 'timeZoneName').value;
-  const [, sign, hours, minutes] = name.match(/^GMT(?:([+-])(\d\d):(\d\d))?$/);
-  return sign ? (sign === '+' ? 1 : -1) * (60 * Number(hours) + Number(minutes)) : 0;
-}
-
 // Daylight saving puts clocks forward, so the lesser offset of July and December 2023 is standard.
-const standardOffset = (zone) =>
-  Math.min(...['2023-07-01', '2023-12-31'].map((day) => clockOffset(zone, new Date(day))));
+const standardOffset = (clocks) =>
+  Math.min(...['2023-07-01', '2023-12-31'].map((day) => offsetOn(clocks, day)));
 
 const tableZones = new Map(countryMap.flatMap(({ file_name: names, table_zone: zone }) =>
   names.split('|').map((name) => [name, zone])));
 const places = readdirSync(placesFolder).flatMap((file) =>
   readTable(new URL(file, placesFolder)).map(({ zone }) => ({ file: file.slice(0, -4), zone })));
-const offsets = new Map([...new Set(places.map(({ zone }) => zone))]
-  .map((zone) => [zone, standardOffset(zone)]));
+const offsets = new Map([...clocksOf(places.map(({ zone }) => zone))]
+  .map(([zone, clocks]) => [zone, standardOffset(clocks)]));
 const isOff = ({ file, zone }) => tableOffset(tableZones.get(file)) !== offsets.get(zone);
 
 const off = places.filter(isOff);
@@ -55,6 +48,4 @@ const table = [
   ...ofFile.slice(0, 8).map((counts) => row([...counts, reasons[counts[0]] ?? ''])),
   row(['all', off.length, places.length, share]),
 ];
-const page = here('../../docs/atlas.md');
-writeFileSync(page, readFileSync(page, 'utf8')
-  .replace(/(?<=<!-- zones -->\n)[^]*(?=<!-- end -->)/, `${table.join('\n')}\n`));
+fillDocument(here('../../docs/atlas.md'), 'zones', table);
