@@ -41,6 +41,10 @@ double LocalSiderealTime(const TimeBase& time, double longitude) {
   return 24 * FracPart((G + S + longitude / 15) / 24);
 }
 
+double MeanObliquity(double T) {
+  return 23.452294 - T * 0.0130125;
+}
+
 double AscendantAt(double Hours, double Lat, const RisingFrame& frame) {
   double A = Hours * 15 + 90;  // selects the quadrant of the arctangent
   if (A >= 360) A -= 360;
@@ -60,7 +64,7 @@ double AscendantAt(double Hours, double Lat, const RisingFrame& frame) {
 }
 
 Houses CalcHouses(double siderealTime, double latitude, double T, double ayanamsa) {
-  const RisingFrame frame = {23.452294 - T * 0.0130125, ayanamsa};
+  const RisingFrame frame = {MeanObliquity(T), ayanamsa};
   const double Asc = AscendantAt(siderealTime, latitude, frame);
   // The midheaven is what rises at the equator six hours earlier.
   const double Mc = AscendantAt(siderealTime - 6, 0, frame);

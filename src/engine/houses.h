@@ -17,6 +17,9 @@ struct Houses {
 // Local sidereal time in hours, 0 to below 24; the longitude is in degrees, east positive.
 double LocalSiderealTime(const TimeBase& time, double longitude);
 
+// The obliquity of the ecliptic in degrees, without nutation; T in Julian centuries.
+double MeanObliquity(double T);
+
 // What the rising longitude depends on besides time and latitude, in degrees.
 struct RisingFrame {
   double Obliquity;  // mean

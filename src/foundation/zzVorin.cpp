@@ -18,6 +18,17 @@ std::string_view TimeField(std::string_view text, std::size_t number) {
   return fields[number];
 }
 
+struct TimeParts {
+  double hours, minutes, seconds;  // seconds may be 60
+};
+
+TimeParts SplitHours(double x) {
+  const double hours = std::floor(Finite(x));
+  const double m = (x - hours) * 60;
+  const double minutes = std::floor(m);
+  return {hours, minutes, std::floor((m - minutes) * 60 + 0.5)};
+}
+
 // Wraps hours into 0 to the limit; both ends are kept.
 double HoursWithin(double hours, double limit) {
   if (hours >= 0 && hours <= limit) return hours;
@@ -44,11 +55,14 @@ std::string PadDigits(double value, int width) {
   return PadDigits(NumberText(value), width);
 }
 
+double SecondsOfHours(double x) {
+  const auto [hours, minutes, seconds] = SplitHours(x);
+  return (hours * 60 + minutes) * 60 + seconds;
+}
+
 std::string DecimalToTimeText(double x, double limit, bool noSeconds) {
-  const double hours = HoursWithin(std::floor(Finite(x)), Finite(limit));
-  const double m = (x - std::floor(x)) * 60;
-  const double minutes = std::floor(m);
-  const double seconds = std::floor((m - minutes) * 60 + 0.5);
+  const auto [whole, minutes, seconds] = SplitHours(x);
+  const double hours = HoursWithin(whole, Finite(limit));
 
   const auto joined = [&](double h, double min, double s) {
     std::string text = PadDigits(h, 2) + ":" + PadDigits(min, 2);

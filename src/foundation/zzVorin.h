@@ -14,6 +14,10 @@ double FracPart(double x);
 std::string PadDigits(std::string_view value, int width);
 std::string PadDigits(double value, int width);
 
+// Decimal hours in the whole seconds that DecimalToTimeText shows; half a second rounds up. Overflow
+// for infinity, InvalidCall for NaN.
+double SecondsOfHours(double hours);
+
 // Decimal hours as "hh:mm:ss" with seconds rounded, or "hh:mm" with noSeconds. Hours are wrapped
 // into 0 to `limit`. Limit 24 gives a time of day: 59.6 seconds carry, even if not shown, and 24 is
 // "00:00:00". Any other limit gives a duration, whose fields do not carry. InvalidCall if hours lie

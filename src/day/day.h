@@ -1,0 +1,46 @@
+// Day: the sun and the three inauspicious periods of a civil date at a place.
+#pragma once
+
+#include <array>
+#include <chrono>
+#include <optional>
+#include <vector>
+
+#include "clocks/zone_clock.h"
+#include "day/place.h"
+
+namespace day {
+
+using clocks::Instant;
+
+struct Sun {
+  enum class State { Rises, PolarDay, PolarNight };  // Rises: it rises, or sets, or both
+
+  State state = State::Rises;
+  std::optional<Instant> rise;      // before the noon of the date
+  std::optional<Instant> set;       // after it, if need be past midnight
+  std::optional<Instant> nextRise;  // of the date that follows
+};
+
+enum class PeriodKind { Durvela, Gulik, Yum };
+
+struct Period {
+  PeriodKind kind;
+  int part;  // of the eight parts of daylight, 1 to 8 from sunrise
+  Instant begin, end;
+};
+
+struct Day {
+  std::chrono::local_days date;
+  int weekday = 0;  // of the date, 1 = Sunday
+  Sun sun;
+  std::vector<Period> periods;  // Durvela, Gulik, Yum; none unless the sun rises and sets
+};
+
+// The day by the place's clock, years 100 to 9999. Sunrise and sunset are whole minutes by the
+// solar series of clsBirthDetails; beyond 63 degrees of latitude, and wherever that series is more
+// than five minutes from the engine's Sun, they are that Sun's, to the second.
+// InvalidCall for another year.
+Day DayOf(const Place& place, const clocks::ZoneClock& clock, std::chrono::local_days date);
+
+}  // namespace day

@@ -1,0 +1,102 @@
+#include "day/day.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+using namespace std::chrono;
+using clocks::Instant;
+using clocks::ZoneClock;
+using day::Day;
+using day::Place;
+
+const Place kDelhi = {"Delhi", "Delhi", "India", 28 + 40 / 60.0, 77 + 13 / 60.0, "Asia/Kolkata"};
+const Place kNewYork = {"New York", "New York", "USA", 40 + 43 / 60.0, -74, "America/New_York"};
+const Place kTromso = {"Tromso", "Troms", "Norway", 69 + 39 / 60.0, 18 + 57 / 60.0, "Europe/Oslo"};
+
+Day DayAt(const Place& place, year_month_day date) {
+  return day::DayOf(place, *ZoneClock::Named(place.zone), local_days(date));
+}
+
+// "07:14:00" by the place's clock.
+std::string ClockText(const Place& place, std::optional<Instant> instant) {
+  if (!instant) return "-";
+  const auto civil = ZoneClock::Named(place.zone)->CivilAt(*instant);
+  const hh_mm_ss time(civil - floor<days>(civil));
+  const auto two = [](auto count) {
+    const std::string digits = std::to_string(count);
+    return digits.size() < 2 ? "0" + digits : digits;
+  };
+  return two(time.hours().count()) + ":" + two(time.minutes().count()) + ":" +
+         two(time.seconds().count());
+}
+
+std::string Periods(const Place& place, const Day& day) {
+  std::string text;
+  for (const day::Period& period : day.periods) {
+    text += std::to_string(period.part) + " " + ClockText(place, period.begin) + " " +
+            ClockText(place, period.end) + "; ";
+  }
+  return text;
+}
+
+// Two days of a table worked out independently; several of the boundaries fall on half a second.
+TEST(Day, PeriodsAreTheEighthsOfTheDaylight) {
+  const Day saturday = DayAt(kDelhi, 2011y / 1 / 1);
+  EXPECT_EQ(saturday.weekday, 7);
+  EXPECT_EQ(ClockText(kDelhi, saturday.sun.rise), "07:14:00");
+  EXPECT_EQ(ClockText(kDelhi, saturday.sun.set), "17:35:00");
+  EXPECT_EQ(Periods(kDelhi, saturday),
+            "3 09:49:15 11:06:52; 8 16:17:22 17:35:00; 6 13:42:07 14:59:45; ");
+  const Day monday = DayAt(kDelhi, 2011y / 1 / 10);
+  EXPECT_EQ(Periods(kDelhi, monday),
+            "2 08:33:23 09:51:45; 6 13:46:53 15:05:15; 4 11:10:08 12:28:30; ");
+}
+
+// Times by PyEphem, to the minute.
+TEST(Day, FollowsThePlacesClock) {
+  const Day summer = DayAt(kNewYork, 2026y / 7 / 1), winter = DayAt(kNewYork, 2026y / 11 / 23);
+  EXPECT_EQ(ClockText(kNewYork, summer.sun.rise), "05:29:00");
+  EXPECT_EQ(ClockText(kNewYork, summer.sun.set), "20:31:00");
+  EXPECT_EQ(ClockText(kNewYork, winter.sun.rise), "06:52:00");
+  EXPECT_EQ(ClockText(kNewYork, winter.sun.set), "16:32:00");
+  // The night of the change: the next rise is by the other hour.
+  const Day october = DayAt(kNewYork, 2026y / 10 / 31);
+  EXPECT_EQ(ClockText(kNewYork, october.sun.rise), "07:25:00");
+  EXPECT_EQ(ClockText(kNewYork, october.sun.nextRise), "06:26:00");
+}
+
+TEST(Day, BeyondThePolarCircleTheSunMayNotRise) {
+  const Day june = DayAt(kTromso, 2026y / 6 / 21), december = DayAt(kTromso, 2026y / 12 / 21);
+  EXPECT_EQ(june.sun.state, day::Sun::State::PolarDay);
+  EXPECT_EQ(december.sun.state, day::Sun::State::PolarNight);
+  for (const Day* day : {&june, &december}) {
+    EXPECT_FALSE(day->sun.rise || day->sun.set || day->sun.nextRise);
+    EXPECT_TRUE(day->periods.empty());
+  }
+  // Of the last night before the midnight sun of 2026 the sun sets after midnight.
+  const Day may = DayAt(kTromso, 2026y / 5 / 17);
+  EXPECT_EQ(may.sun.state, day::Sun::State::Rises);
+  EXPECT_GT(*may.sun.set, *may.sun.rise + 22h);
+}
+
+// The solar series has 24:00, and so midnight, for the rise here.
+TEST(Day, TheEnginesSunStandsInWhereTheSeriesFails) {
+  const Place kolpino = {"Kolpino", "", "Russia", 59 + 45 / 60.0, 30 + 36 / 60.0, "Europe/Moscow"};
+  for (int date = 14; date <= 22; ++date) {
+    const Day march = DayAt(kolpino, year_month_day(2026y / March / date));
+    ASSERT_TRUE(march.sun.rise && march.sun.set);
+    EXPECT_NEAR(duration<double>(*march.sun.set - *march.sun.rise) / 1h, 12, 0.5);
+    EXPECT_LT(abs(*march.sun.nextRise - *march.sun.rise - 24h), 5min);
+  }
+}
+
+TEST(Day, IsOfTheYears100To9999) {
+  EXPECT_EQ(DayAt(kDelhi, 100y / 1 / 1).periods.size(), 3U);
+  EXPECT_EQ(DayAt(kDelhi, 9999y / 12 / 30).periods.size(), 3U);
+  EXPECT_ANY_THROW(DayAt(kDelhi, 99y / 12 / 31));
+}
+
+}  // namespace
