@@ -1,0 +1,48 @@
+#include "words/clock_text.h"
+
+#include <gtest/gtest.h>
+
+#include "engine/place_decoding.h"
+#include "support/table.h"
+
+namespace {
+
+using namespace std::chrono;
+using clocks::Instant;
+using clocks::ZoneClock;
+using support::ExpectRows;
+using support::Row;
+
+TEST(ClockText, NamesOffsets) {
+  ExpectRows(words::UtcText, Row(0h, "UTC"), Row(-4h, "UTC-4"), Row(345min, "UTC+5:45"),
+             Row(-210min, "UTC-3:30"), Row(seconds(1172), "UTC+0:19:32"));
+  EXPECT_EQ(words::ClockName({-4h, true, "EDT"}), "EDT, UTC-4");
+  EXPECT_EQ(words::ClockName({345min, false, ""}), "UTC+5:45");
+  EXPECT_EQ(words::ClockName({0h, false, "UTC"}), "UTC");
+}
+
+TEST(ClockText, MomentsCarryTheOffsetOfTheirClock) {
+  const Instant noon = sys_days(2026y / 7 / 1) + 12h;
+  const auto text = [&](const char* zone, Instant instant) {
+    return words::MomentText(*ZoneClock::Named(zone), instant);
+  };
+  EXPECT_EQ(text("America/New_York", noon), "2026-07-01T08:00:00-04:00");
+  EXPECT_EQ(text("Asia/Kolkata", noon + 8h), "2026-07-02T01:30:00+05:30");
+  EXPECT_EQ(text("UTC", sys_days(900y / 1 / 2) + 3s), "0900-01-02T00:00:03+00:00");
+  // 12:19:32 by the clock of Amsterdam.
+  EXPECT_EQ(text("Europe/Amsterdam", sys_days(1930y / 1 / 1) + 12h), "1930-01-01T12:19:00+00:19");
+}
+
+TEST(ClockText, RecordsHoldMeridianAndHours) {
+  ExpectRows(words::MeridianText, Row(-4h, "60.00W"), Row(330min, "82.30E"), Row(0h, "0.00E"),
+             Row(seconds(1172), "4.53E"), Row(-210min, "52.30W"));
+  ExpectRows(words::ZoneText, Row(-4h, "+4"), Row(330min, "-5.30"), Row(0h, "0"),
+             Row(seconds(1172), "-0.20"));
+  // Read back as charts do, every offset comes within two seconds.
+  for (seconds east(-12h); east <= 14h; east += 61s) {
+    const double hours = engine::ZoneDegrees(words::MeridianText(east)) / 15;
+    EXPECT_NEAR(hours * 3600, static_cast<double>(east.count()), 2.001);
+  }
+}
+
+}  // namespace
