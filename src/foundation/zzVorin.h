@@ -14,8 +14,8 @@ double FracPart(double x);
 std::string PadDigits(std::string_view value, int width);
 std::string PadDigits(double value, int width);
 
-// Decimal hours in the whole seconds that DecimalToTimeText shows; half a second rounds up. Overflow
-// for infinity, InvalidCall for NaN.
+// Decimal hours in the whole seconds that DecimalToTimeText shows; half a second rounds up.
+// Overflow for infinity, InvalidCall for NaN.
 double SecondsOfHours(double hours);
 
 // Decimal hours as "hh:mm:ss" with seconds rounded, or "hh:mm" with noSeconds. Hours are wrapped
