@@ -1,0 +1,119 @@
+// INI files. The expectations come from Qt 6.4.2.
+
+#include <gtest/gtest.h>
+
+#include "foundation/ini_document.h"
+#include "support/table.h"
+
+namespace foundation {
+namespace {
+
+using namespace std::literals;
+using support::Row;
+
+std::string With(std::string file, std::string_view section, std::string_view key,
+                 std::string_view value) {
+  IniDocument document(std::move(file));
+  document.Set(section, key, value);
+  return document.Bytes();
+}
+
+std::string In(std::string_view file, std::string_view section, std::string_view key) {
+  return IniDocument(std::string(file)).Value(section, key).value_or("none");
+}
+
+std::string ValueOf(std::string_view spelled) {
+  return In("[s]\nk=" + std::string(spelled) + "\nlast=1\n", "s", "k");
+}
+
+TEST(IniValues, AreSpelledAsTheToolkitDoes) {
+  const std::pair<std::string_view, std::string_view> values[] = {
+      {"", ""},
+      {"उज्जैन", "उज्जैन"},
+      {"തിരുവനന്തപുരം 😀", "തിരുവനന്തപുരം 😀"},
+      {"दिल्ली, \"New\"; =", R"("दिल्ली, \"New\"; =")"},
+      {"a;b", R"("a;b")"},
+      {"a=b", R"("a=b")"},
+      {" a ", R"(" a ")"},
+      {"a%20b [x]# 'y'? (z) /", "a%20b [x]# 'y'? (z) /"},
+      {"C:\\x", R"(C:\\x)"},
+      {"\t", R"(\t)"},
+      {"1\r\n2\v\f\a\b", R"(1\r\n2\v\f\a\b)"},
+      {"\x01"
+       "f\x1f\x1f",
+       R"(\x1\x66\x1f\x1f)"},
+      {"\x1b[0m\x7f", "\\x1b[0m\x7f"},
+      {"a\0bz"sv, R"(@String(a\0\x62z))"},
+      {"@home", "@@home"},
+      {"@@", "@@@"},
+      {"@Invalid()", "@@Invalid()"},
+      {"@String(x)", "@@String(x)"},
+  };
+  for (const auto& [text, spelled] : values) {
+    EXPECT_EQ(ValueOf(spelled), text) << spelled;
+    EXPECT_EQ(With("", "s", "k", text), "[s]\nk=" + std::string(spelled) + "\n");
+  }
+  const std::string longText(100'000, 'x');
+  EXPECT_EQ(In(With("", "s", "k", longText), "s", "k"), longText);
+}
+
+TEST(IniValues, AreReadAsTheToolkitReadsThem) {
+  ExpectRows(ValueOf,
+             // lists, by hand and by the toolkit
+             Row("a, b", "a, b"), Row("a ,b,,", "a, b, , "), Row(R"("a" , "b")", "a, b"),
+             Row(R"(a, b c, "d,e")", "a, b c, d,e"), Row("@@a, @@", "@a, @"),
+             Row("1, @ByteArray(x), @Invalid()", "1, x, "), Row("@Invalid()", "none"),
+             Row("@Invalid", "@Invalid"), Row("@String(a", "@String(a"),
+             // blanks, quotation marks and comments
+             Row("  a b \t", "a b"), Row(R"("  a"  b  )", "  ab  "), Row("a \"b", "a b\nlast=1\n"),
+             Row("a ; b", "a"), Row(R"("a;" ; b)", "a;"), Row("a=b", "a=b"),
+             // escapes
+             Row(R"(\x41\x20ac\xd83d\xde00\101\a\"\'\?\\)", "A€😀A\a\"'?\\"), Row(R"(\q\z\x)", ""),
+             Row(R"(\x12345)", "\u2345"), Row("a\\ ", "a"), Row("a \\t ", "a \t"),
+             // on into the next line
+             Row("a\\\nb", "ab"), Row("a \\\r\n b", "a  b"), Row("a\\", "alast=1"),
+             Row("\"a\n; b\"", "a\n; b"));
+}
+
+TEST(IniKeys, AreReadAsTheToolkitReadsThem) {
+  const auto file =
+      "\xEF\xBB\xBFtop=1\n;a \"\n[General]\n%25=2\nA.b_c-D=3\na%20b=4\n%E9=5\n%UD83D%UDE00=6\n"
+      "[%General]\nk=7\n[x]\ny%20z=8\nb\\c=9\n[%U0915]\n%U0916=10\nगा=11\n%4%zz=12\n"
+      "[ s ] junk\n k = 13 \nno value\nk=14\n[t\nk=15\n[general]\nlast=16";
+  const auto value = [&](const char* section, const char* key) { return In(file, section, key); };
+  ExpectRows(value, Row("", "top", "1"), Row("", "%", "2"), Row("", "A.b_c-D", "3"),
+             Row("", "a.b_c-d", "none"), Row("", "a b", "4"), Row("", "é", "5"), Row("", "😀", "6"),
+             Row("General", "k", "7"), Row("", "k", "none"), Row("x", "y z", "8"),
+             Row("x", "b/c", "9"), Row("X", "b/c", "none"), Row("क", "ख", "10"),
+             Row("क", "गा", "11"), Row("क", "%4%zz", "12"), Row("s", "k", "14"),
+             Row("t", "k", "15"), Row("", "last", "16"));
+  EXPECT_EQ(With("", "", "a b/%#", "1"), "[General]\na%20b%2F%25%23=1\n");
+  EXPECT_EQ(With("", "General", "k", "1"), "[%General]\nk=1\n");
+}
+
+TEST(IniDocument, ChangesNoOtherByte) {
+  const auto with = [](const char* file, const char* key, const char* value) {
+    return With(file, "s", key, value);
+  };
+  const auto file = "; mine\r\n\r\n[s]\r\nB = 1  ; one\r\nodd\r\na= x , y\r\n\r\n; t\r\n[t]\r\na=3";
+  ExpectRows(
+      with,
+      Row(file, "B", "2, 3",
+          "; mine\r\n\r\n[s]\r\nB = \"2, 3\"  ; one\r\nodd\r\na= x , y\r\n\r\n; t\r\n[t]\r\na=3"s),
+      Row(file, "c", "4",
+          "; mine\r\n\r\n[s]\r\nB = 1  ; one\r\nodd\r\na= x , y\r\nc=4\r\n\r\n; t\r\n[t]\r\na=3"s),
+      Row(file, "a", "x, y", std::string(file)),
+      Row("[s]\nk=1\n[t]\n[s]\nk=2\n", "k", "3", "[s]\nk=1\n[t]\n[s]\nk=3\n"s),
+      Row("[s]\n[t]", "k", "1", "[s]\nk=1\n[t]"s),
+      Row("\xEF\xBB\xBF", "k", "1", "\xEF\xBB\xBF\n[s]\nk=1\n"s),
+      Row("[s]\nk=", "k", "1", "[s]\nk=1"s), Row("[s]\nk=\" 1\n ", "k", "2", "[s]\nk=2 "s),
+      // an open end is closed first
+      Row("a=1", "k", "2", "a=1\n\n[s]\nk=2\n"s),
+      Row("[s]\na=\"1", "k", "2", "[s]\na=\"1\"\nk=2\n"s),
+      Row("[s]\na=1\\", "k", "2", "[s]\na=1\\\n\nk=2\n"s),
+      Row("[s]\na=\"1\\", "k", "2", "[s]\na=\"1\\\n\"\nk=2\n"s),
+      Row("[s];", "k", "2", "[s];\nk=2\n"s));
+}
+
+}  // namespace
+}  // namespace foundation
