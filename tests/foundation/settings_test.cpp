@@ -1,0 +1,149 @@
+// The settings file, also with several programs at once.
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <fstream>
+#include <thread>
+#include <vector>
+
+#include "foundation/files.h"
+#include "foundation/settings_file.h"
+#include "support/config_folder.h"
+#include "support/errors.h"
+#include "support/full_disk.h"
+
+namespace foundation {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::literals;
+
+struct Store : testing::Test {
+  void Save(std::string_view key, std::string_view value) {
+    settings.SaveSetting("Durvela", "settings", key, value);
+  }
+
+  // As this process has it, or as a new one reads it.
+  std::string Held(std::string_view key) {
+    return settings.GetSetting("Durvela", "settings", key, "none");
+  }
+  static std::string Stored(std::string_view key, std::string_view section = "settings") {
+    return SettingsFile().GetSetting("Durvela", section, key, "none");
+  }
+
+  void Write(std::string_view bytes) const {
+    fs::create_directories(folder);
+    std::ofstream(file) << bytes;
+  }
+  auto FilesInFolder() const {
+    return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
+  }
+
+  support::ConfigFolderScope home;
+  fs::path folder = home.path / "Durvela";
+  fs::path file = folder / "Durvela.ini";
+  SettingsFile settings;
+};
+
+TEST_F(Store, KeepsItsSectionsApart) {
+  EXPECT_EQ(Held("city"), "none");
+  Save("city", "दिल्ली");
+  settings.SaveSetting("Durvela", "Setting", "city", "not the place");
+  EXPECT_EQ(Stored("city") + ", " + Stored("city", "Setting"), "दिल्ली, not the place");
+}
+
+// Changes that keep the size, many of them within one tick of the clock that dates files.
+TEST_F(Store, ShowsEveryChangeOfItsFile) {
+  Write("[settings]\ncity=\n");
+  for (int i = 100; i < 400; ++i) {
+    std::fstream(file, std::ios::in | std::ios::out) << "[settings]\ncity=" << i;
+    ASSERT_EQ(Held("city"), std::to_string(i));
+  }
+  fs::remove(file);
+  EXPECT_EQ(Held("city"), "none");
+}
+
+TEST_F(Store, IsNotFooledByATimeSetBack) {
+  Write("[settings]\ncity=Agra\n");
+  const auto time = fs::last_write_time(file);
+  std::this_thread::sleep_for(50ms);
+  EXPECT_EQ(Held("city"), "Agra");
+  Write("[settings]\ncity=Pune\n");
+  fs::last_write_time(file, time);
+  EXPECT_EQ(Held("city"), "Pune");
+}
+
+TEST_F(Store, KeepsPermissionsAndLinks) {
+  const fs::path target = home.path / "dotfiles" / "mine.ini";
+  fs::create_directories(folder);
+  fs::create_directory(target.parent_path());
+  fs::create_symlink("../dotfiles/link", file);
+  fs::create_symlink("mine.ini", target.parent_path() / "link");
+  Save("city", "Agra");  // the links lead nowhere yet
+  chmod(target.c_str(), 0640);
+  Save("city", "Pune");
+  EXPECT_TRUE(fs::is_symlink(file));
+  EXPECT_EQ(fs::status(target).permissions(), fs::perms(0640));
+  EXPECT_EQ(ReadFile(target), "[settings]\ncity=Pune\n");
+}
+
+TEST_F(Store, StaysAsItWasOnAFullDisk) {
+  Write("; mine\n[settings]\ncity=Delhi\n");
+  const std::string longName(1000, 'x');
+  const Setting place[] = {{"city", "Agra"}, {"country", longName}};
+  {
+    const support::FullDiskScope full(200);
+    EXPECT_ERROR(FileAccess, settings.SaveSettings("Durvela", "settings", place));
+  }
+  EXPECT_EQ(ReadFile(file), "; mine\n[settings]\ncity=Delhi\n");
+  EXPECT_EQ(FilesInFolder(), 1);
+  EXPECT_EQ(Held("city") + Held("country"), "Delhinone");
+  settings.SaveSettings("Durvela", "settings", place);
+  EXPECT_EQ(Stored("city") + Stored("country"), "Agra" + longName);
+}
+
+// A file instead of the folder, a folder instead of the file, a link to itself.
+TEST_F(Store, NamesAFileThatCannotBeWrittenAndTriesAgain) {
+  const auto fail = [&](const char* trouble) {
+    EXPECT_EQ(support::FailureOf([&] { Save("city", "Mumbai"); }),
+              "The file " + file.string() + trouble);
+    EXPECT_EQ(Held("city"), "none");
+  };
+  std::ofstream(folder).close();
+  fail(" cannot be written");
+  fs::remove(folder);
+  fs::create_directories(file);
+  fail(" cannot be read");
+  fs::remove(file);
+  fs::create_symlink("Durvela.ini", file);
+  fail(" cannot be written");
+  fs::remove(file);
+  Save("city", "Mumbai");
+  EXPECT_EQ(Stored("city"), "Mumbai");
+  EXPECT_EQ(FilesInFolder(), 1);
+}
+
+// Threads lock each other out as processes do: each opens the folder for itself.
+TEST_F(Store, LosesNoKeyWhenSeveralSaveAtOnce) {
+  constexpr int kSavers = 4, kKeys = 10;
+  const auto key = [](int saver, int i) { return std::to_string(saver * kKeys + i); };
+  {
+    std::vector<std::jthread> savers;
+    for (int saver = 0; saver < kSavers; ++saver) {
+      savers.emplace_back([=] {
+        SettingsFile own;
+        for (int i = 0; i < kKeys; ++i) {
+          own.SaveSetting("Durvela", "settings", key(saver, i), key(saver, i));
+        }
+      });
+    }
+  }
+  for (int saver = 0; saver < kSavers; ++saver) {
+    for (int i = 0; i < kKeys; ++i) EXPECT_EQ(Held(key(saver, i)), key(saver, i));
+  }
+  EXPECT_EQ(FilesInFolder(), 1);
+}
+
+}  // namespace
+}  // namespace foundation
