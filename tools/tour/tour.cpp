@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <cstdlib>
@@ -129,7 +128,7 @@ int main(int argc, char** argv) {
   }
   // Separate settings, so that the pictures show the default place.
   const QTemporaryDir settings;
-  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
+  qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
 
   Tour tour(folder);
   tour.TakeDashboard(screens::qt::QtClock(), QStringLiteral("dashboard"), true);

@@ -6,6 +6,7 @@
 
 #include "atlas/clsAtlas.h"
 #include "foundation/session.h"
+#include "foundation/settings_file.h"
 #include "screens/frmAbout.h"
 #include "screens/frmCity.h"
 #include "screens/frmDurvela.h"
@@ -14,7 +15,6 @@
 #include "screens/qt/qt_host.h"
 #include "screens/qt/qt_machine.h"
 #include "screens/qt/qt_printer.h"
-#include "screens/qt/qt_settings.h"
 
 namespace screens::qt {
 
@@ -49,7 +49,7 @@ class Program {
   void FillMenu();
 
   QtClock clock_;
-  QtSettings settings_;
+  foundation::SettingsFile settings_;
   QtMessageBoxes boxes_;
   QtBrowser browser_;
   QtYielder yielder_;
