@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Every screen as it is told over the accessibility bus and reached by the keyboard alone."""
+"""Checks every screen over the accessibility bus, using only the keyboard."""
 
 import contextlib
 import os
@@ -23,8 +23,8 @@ INFORMATION = ["What is Durvela", "Calculation of Durvela", "Products", "Sitara 
                "Yama Ghantak", "Gulika Kaal"]
 OK = ["push button: OK"]
 
-# From the dashboard on, what is pressed in one window and the title of the next; the role of the
-# last one, and where the keyboard stops in it.
+# From the dashboard on: what to press in each window and the title of the next; the role of the last
+# one, and its tab stops.
 SCREENS = [
     ([], "frame",
      ["push button: What is Durvela", "push button: Timetable", "push button: About us",
@@ -56,11 +56,11 @@ def running_program():
 
 
 def until(condition):
-    """What the condition gives, as soon as that is anything, or after a while."""
+    """The first true result of the condition, or its last one after a while."""
     end = time.monotonic() + PATIENCE
     while True:
         found = None
-        with contextlib.suppress(GLib.Error):  # of what is not there yet, or no more
+        with contextlib.suppress(GLib.Error):  # objects that do not exist yet, or any more
             found = condition()
         if found or time.monotonic() > end:
             return found
@@ -76,7 +76,7 @@ def type_text(text):
 
 
 def children(node):
-    """Of a long list the first."""
+    """The first children of a long list."""
     count = node.get_child_count()
     if node.get_role_name() == "list":
         count = min(count, ENTRIES_READ)
@@ -92,20 +92,20 @@ def caret(node):
 
 
 def is_stop(node):
-    """Entries tell the focus though their list has not got it, and texts of boxes take clicks."""
+    """Excludes list entries, which claim the focus without their list, and texts of message boxes."""
     focusable = has(node, Atspi.StateType.FOCUSABLE)
     return focusable and node.get_role_name() not in ("list item", "label")
 
 
 def name_of(node):
-    """That of its label, if it has one."""
+    """The name of its label, if it has one."""
     labels = [relation.get_target(0) for relation in node.get_relation_set()
               if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY]
     return (labels or [node])[0].get_name()
 
 
 def find_window(title, role=None):
-    """The one that came last."""
+    """The newest one."""
     windows = [window for program in children(Atspi.get_desktop(0)) for window in children(program)]
     fitting = [window for window in windows
                if window.get_name() == title and role in (None, window.get_role_name())
@@ -114,17 +114,17 @@ def find_window(title, role=None):
 
 
 def read(node):
-    """What shows of it, itself first."""
+    """Its visible descendants, itself first."""
     if not has(node, Atspi.StateType.SHOWING):
         return []
     return [node] + [each for child in children(node) for each in read(child)]
 
 
 class Screen:
-    """A window, and where the keyboard stands in it."""
+    """A window and its keyboard focus."""
 
     def __init__(self, title, role=None, stops=None):
-        """As soon as it has so many stops, or any."""
+        """Waits until it has that many stops, or any."""
         self.window = until(lambda: find_window(title, role))
         assert self.window, f"{title} does not show"
         until(lambda: self.read() and stops in (None, len(self.stops)))
@@ -138,7 +138,7 @@ class Screen:
         return next((node for node in self.stops if has(node, Atspi.StateType.FOCUSED)), None)
 
     def tab(self):
-        """To the next stop, through all parts of a picker."""
+        """Moves to the next stop, through all parts of a picker."""
         before = self.focused()
         part = caret(before)
         press(TAB)
@@ -147,7 +147,7 @@ class Screen:
             self.tab()
 
     def ring(self):
-        """The stops from the first on, once around."""
+        """All stops in order, starting with the first."""
         ring = []
         while (stop := f"{self.focused().get_role_name()}: {name_of(self.focused())}") not in ring:
             ring.append(stop)
@@ -194,7 +194,7 @@ class Screens(unittest.TestCase):
             self.assertIn("Not a date", [node.get_name() for node in read(screen.window)])
 
     def test_tell_the_page_of_a_report(self):
-        """In words, a line a day, though what shows is a picture."""
+        """In words, one line per day, although the page is a picture."""
         with running_program():
             Screen(DASHBOARD).open("Timetable")
             Screen("Durvela").open("Generate Report >")
@@ -204,7 +204,7 @@ class Screens(unittest.TestCase):
             self.assertTrue(until(lambda: re.search(today, page.get_description())))
 
     def test_open_by_an_action(self):
-        """Without a wait for the window, which stays open."""
+        """Does not wait for the window, which stays open."""
         with running_program():
             stops = {stop.get_name(): stop for stop in Screen(DASHBOARD).stops}
             self.assertTrue(Atspi.Action.do_action(stops["Gulika Kaal"], 0))

@@ -47,7 +47,7 @@ TEST(FormDrawing, GoesFillsFirstAndThenControlByControl) {
   Bare bare;
   DrawFormOnTarget(sheet, bare, 0, 0);
   support::RecordingTarget printer;
-  DrawFormOnTarget(sheet, bare, 1000, 2000, &printer, 1, 3, 4);  // onto the printer alone
+  DrawFormOnTarget(sheet, bare, 1000, 2000, &printer, 1, 3, 4);  // only on the printer
   EXPECT_EQ(bare.texts, (std::vector<std::string>{"one", "two", "in"}));
   std::string calls;
   for (const std::string& call : printer.calls) calls += call + "\n";

@@ -20,7 +20,7 @@ struct Preview : ReportingTest {
     preview.Form_Load();
   }
 
-  // What the printer is told.
+  // The calls that the printer gets.
   std::string Print(forms::Control& button) {
     printer.calls.clear();
     button.onClick();
@@ -33,7 +33,7 @@ struct Preview : ReportingTest {
 };
 
 TEST_F(Preview, ShowsPagesFromTheirFiles) {
-  EXPECT_NEAR(preview.PIC.picture->width, 30, 0.1);  // two dots at 96 to the inch
+  EXPECT_NEAR(preview.PIC.picture->width, 30, 0.1);  // two pixels at 96 per inch
   const auto press = [&](forms::Control* button, const char* number) {
     preview.txtPage.caption = number;
     button->onClick();
@@ -97,7 +97,7 @@ TEST_F(Preview, ScrollsByKeysAndByHand) {
   preview.PIC.onMouseMove({400, 300});
   EXPECT_EQ(page.top, -200);
 
-  preview.Form_Load();  // large enough for the whole page
+  preview.Form_Load();  // large enough for the page
   EXPECT_EQ(std::tuple(preview.VScroll1.enabled, page.top), std::tuple(false, 0));
 }
 

@@ -18,7 +18,7 @@ using support::Row;
 const foundation::DateTime k5March = DateFromParts(2011, 3, 5);
 
 struct Report : ReportingTest {
-  // The calls, whole or by their first word.
+  // The calls, complete or by their first word.
   auto Drawn(const std::string& what) const {
     return std::ranges::count_if(host.target.calls, [&](const std::string& call) {
       return (call + " ").starts_with(what + " ");
@@ -107,7 +107,7 @@ TEST_F(Report, MakesAPageAMonth) {
   EXPECT_EQ(preview.PIC.place.width, 13635);
 }
 
-// Where a day and a time added up are rounded another way than the days before.
+// A range in which adding a day and a time rounds differently from the days before.
 TEST_F(Report, HasItsLastDayAtAnyTime) {
   Make(DateFromParts(1989, 9, 1), DateFromParts(1989, 9, 30), foundation::TimeFromParts(0, 0, 2));
   EXPECT_EQ(Drawn("Print 1110 9150 30-Sat"), 1);  // further left from row 28 on

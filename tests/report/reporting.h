@@ -1,4 +1,4 @@
-// The report on fakes, in a program folder of its own.
+// The report with fakes, in its own program folder.
 #pragma once
 
 #include <gtest/gtest.h>

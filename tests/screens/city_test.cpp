@@ -84,7 +84,7 @@ TEST_F(CityPicker, CannotAcceptWithoutAChoice) {
   Choose("Void");
   EXPECT_EQ(form.lstCity.whenEmpty + form.txtCity.trailing, "No places here.");
   EXPECT_ERROR(InvalidCall, Press(forms::Key::Enter));
-  // Nor with a number that 16 bits do not hold.
+  // Nor with a number that does not fit 16 bits.
   Choose("India");
   SetText(form.txtCity, "Ujjain");
   form.lstCity.items->SetItemData(form.lstCity.items->ListIndex(), 32767);

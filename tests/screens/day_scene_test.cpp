@@ -70,7 +70,7 @@ TEST(SkyPicture, NamesThePeriodsReadablyAtAnySize) {
       if (text == nullptr) continue;
       EXPECT_GE(text->size, 10);  // 7.5 points
       EXPECT_TRUE(text->at.x > 0 && text->at.x < width);
-      // Clear of the clock, which stands at 213 to 334 of 560 in the middle of the arc.
+      // Clear of the clock, which spans 213 to 334 of 560 in the middle of the arc.
       const bool beside = std::abs(text->at.x - 290 * width / 840) > 100 * width / 840;
       const bool above = text->at.y < 213 * height / 560;
       EXPECT_TRUE(beside || above) << text->text << " at " << width << " by " << height;

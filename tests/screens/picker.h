@@ -1,4 +1,4 @@
-// A city picker on fakes, with an atlas of its own and a dashboard that takes the result.
+// A city picker with fakes, its own atlas and a dashboard that takes the result.
 #pragma once
 
 #include "atlas/clsAtlas.h"

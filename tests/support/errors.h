@@ -9,7 +9,7 @@
 
 namespace support {
 
-// What the user reads of its error; empty if there is none.
+// The message of the error that it raises; empty if it raises none.
 template <typename Operation>
 std::string FailureOf(Operation operation) {
   try {

@@ -13,7 +13,7 @@
 
 namespace support {
 
-// Thrown by the fake host where a real one would not return.
+// Thrown by the fake host in place of not returning.
 struct ProgramEnded {};
 
 // Records every call as text. In any font, a letter is 100 twips wide and a line 240 high.

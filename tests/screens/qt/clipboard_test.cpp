@@ -27,7 +27,7 @@ QImage Held() {
 
 TEST(Clipboard, HoldsThePictureInDotsUntilThereIsAnother) {
   const forms::Raster raster = {2, 1, {255, 0, 0, 9, 8, 7}};
-  // A dot is 150 twips wide: it is not drawn anew.
+  // A pixel is 150 twips wide, so it is not rendered again.
   ASSERT_TRUE(Copy(300, 150, {forms::Dots{std::make_shared<const forms::Raster>(raster)}}));
   ASSERT_EQ(Held().size(), QSize(2, 1));
   EXPECT_EQ(Held().pixelColor(1, 0), QColor(9, 8, 7));
@@ -41,7 +41,7 @@ TEST(Clipboard, HoldsThePictureInDotsUntilThereIsAnother) {
   EXPECT_EQ(Held().size(), QSize(3, 2));
 }
 
-// A decoder that is not the writer's: the red pixel is still where it was.
+// Read back by another decoder than the writer's: the red pixel is where it was.
 TEST(SavedPicture, IsReadByTheToolkit) {
   bitmap::cDIBSection dib;
   ASSERT_TRUE(dib.Create(9, 9));

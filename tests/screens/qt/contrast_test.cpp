@@ -1,5 +1,5 @@
-// Every text stands out from what lies below it: by the relative luminances of WCAG 2.1, at the
-// worst point, 4.5 to 1, or 3 to 1 from 18 points up and from 14 where it is bold.
+// Every text has enough contrast by the relative luminances of WCAG 2.1: at its worst point 4.5 to
+// 1, or 3 to 1 from 18 points up, or from 14 if bold.
 
 #include <gtest/gtest.h>
 
@@ -128,7 +128,7 @@ void CheckInside(QWidget& widget) {
   EXPECT_GE(contrast, 4.5) << widget.objectName().toStdString();
 }
 
-// Of a dialog of the toolkit, whose arrow the program's style leaves alone.
+// In one of Qt's dialogs, whose arrow the program's style does not change.
 TEST(Contrast, IsEnoughForTheArrowOfAPlainDropDown) {
   QComboBox paper;
   paper.addItem(QStringLiteral("A4"));

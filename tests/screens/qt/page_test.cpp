@@ -1,4 +1,4 @@
-// The page of a report in dots, which are at first as many as the page has pixels: 15 twips each.
+// The page of a report in pixels, initially of 15 twips each.
 
 #include <gtest/gtest.h>
 

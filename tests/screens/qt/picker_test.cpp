@@ -95,7 +95,7 @@ TEST_F(PickerWindow, KeepsItsTextsWholeAndItsRowWhereItIsResized) {
     EXPECT_LE(countries->geometry().bottom(), text->y());
     EXPECT_TRUE(IsInView(60)) << width << " by " << height;
   }
-  // A user who looks elsewhere stays there.
+  // The list stays where the user has scrolled it.
   list->scrollTo(list->model()->index(20, 0), QListView::PositionAtTop);
   Resize(636, 524);
   EXPECT_EQ(list->indexAt({0, 0}).row(), 20);
@@ -171,7 +171,7 @@ TEST_F(PickerWindow, GoesOnBetweenTheEntries) {
   window.Mirror();
   EXPECT_EQ(list->model()->rowCount(), 1);
   toolkit.Unload(form);
-  form.lstCity.items->Clear();  // tells a window that has gone
+  form.lstCity.items->Clear();  // notifies a window that no longer exists
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Reports in dots and on paper, by the toolkit.
+// Reports as pixels and on paper, by Qt.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// The timetable of the whole program in its window.
+// The timetable in its window, with the complete program.
 
 #include <gtest/gtest.h>
 

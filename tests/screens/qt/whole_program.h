@@ -1,4 +1,4 @@
-// The program on the first seconds of a day, with settings of its own.
+// The program in the first seconds of a day, with its own settings.
 #pragma once
 
 #include "screens/qt/application.h"
