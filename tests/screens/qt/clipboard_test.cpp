@@ -1,4 +1,4 @@
-// Pictures that leave the program: to the toolkit's clipboard, and in files that it reads.
+// Pictures on the clipboard, and saved pictures as Qt reads them.
 
 #include <gtest/gtest.h>
 
@@ -25,7 +25,7 @@ QImage Held() {
   return QGuiApplication::clipboard()->image();
 }
 
-TEST(Clipboard, HoldsThePictureInDotsUntilThereIsAnother) {
+TEST(Clipboard, HoldsThePictureAsPixelsUntilTheNext) {
   const forms::Raster raster = {2, 1, {255, 0, 0, 9, 8, 7}};
   // A pixel is 150 twips wide, so it is not rendered again.
   ASSERT_TRUE(Copy(300, 150, {forms::Dots{std::make_shared<const forms::Raster>(raster)}}));
@@ -42,7 +42,7 @@ TEST(Clipboard, HoldsThePictureInDotsUntilThereIsAnother) {
 }
 
 // Read back by another decoder than the writer's: the red pixel is where it was.
-TEST(SavedPicture, IsReadByTheToolkit) {
+TEST(SavedPicture, IsReadByQt) {
   bitmap::cDIBSection dib;
   ASSERT_TRUE(dib.Create(9, 9));
   dib.hdc()->Row(8)[2] = 255;

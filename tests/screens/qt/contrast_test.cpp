@@ -38,12 +38,12 @@ double Contrast(QRgb one, QRgb other) {
   return (high + 0.05) / (low + 0.05);
 }
 
-TEST(Contrast, IsThatOfPublishedPairs) {
+TEST(Contrast, MatchesPublishedPairs) {
   EXPECT_NEAR(Contrast(0xFF000000, 0xFFFFFFFF), 21, 1e-9);
   EXPECT_NEAR(Contrast(0xFF777777, 0xFFFFFFFF), 4.48, 0.005);  // the grey that just fails
 }
 
-// Of a text at every point of its box.
+// Checks a text's colour against every pixel in its box.
 void CheckText(const std::string& text, const forms::Font& font, forms::Colour colour,
                const QRect& box, const QImage& below) {
   const QRect pixels = box.intersected(below.rect());
@@ -56,7 +56,7 @@ void CheckText(const std::string& text, const forms::Font& font, forms::Colour c
   EXPECT_GE(worst, font.size >= 18 || (font.bold && font.size >= 14) ? 3 : 4.5) << text;
 }
 
-// The lines of a picture that is shown on a ground.
+// Checks the texts of a picture against the rest of it, drawn on `ground`.
 void CheckLettering(const forms::Picture& picture, forms::Colour ground) {
   forms::Picture bare = picture;
   std::erase_if(bare.items,
@@ -108,8 +108,8 @@ void CheckLabels(FormWindow& window, forms::Form& form) {
   window.Mirror();
 }
 
-// The toolkit's widgets, at four times the size, so that strokes have their full colour: the
-// farthest colour from that of the ground, arrows at the right end aside.
+// Checks the colour in a Qt widget that contrasts most with its background, ignoring arrows at the
+// right end. Renders at four times the size so that strokes reach their full colour.
 void CheckInside(QWidget& widget) {
   constexpr int kTimes = 4, kEdge = 16;
   const bool arrow = qobject_cast<QComboBox*>(&widget) || qobject_cast<QAbstractSpinBox*>(&widget);
@@ -176,9 +176,9 @@ TEST(Contrast, IsEnoughOnEveryScreen) {
     list->items->SetListIndex(0);
   }
   program.host.WindowOf(program.Timetable());
-  forms::TypeMoment(program.Timetable().DT1, "soon");  // its remark shows
+  forms::TypeMoment(program.Timetable().DT1, "soon");  // shows its remark
   program.Timetable().lblOldList.caption = "Shown: Delhi. Press Quick View.";
-  for (int tick = 0; tick < 100; ++tick) program.Timetable().Timer1_Timer();  // its sun is at rest
+  for (int tick = 0; tick < 100; ++tick) program.Timetable().Timer1_Timer();  // until its sun rests
   for (forms::Form* form : std::initializer_list<forms::Form*>{
            &program.dashboard, &program.Timetable(), &program.About(), &program.Preview(),
            &program.Picker(), &program.Information(CalculatePage()),

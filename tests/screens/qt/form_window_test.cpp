@@ -1,4 +1,4 @@
-// The dashboard in a window of the toolkit, driven as a user drives it.
+// The dashboard in its window, driven as by a user.
 
 #include "screens/qt/form_window.h"
 
@@ -22,7 +22,7 @@ struct DashboardWindow : testing::Test, Dashboard {
     QApplication::processEvents();
   }
 
-  // Under the middle of a control, which may let the mouse through.
+  // The widget that the mouse reaches at a control's centre.
   QWidget* Under(const forms::Control& control) {
     return window.childAt(PlaceInPixels(control).center());
   }
@@ -73,7 +73,7 @@ TEST_F(DashboardWindow, OpensMenuItemsByTheirCaptionToo) {
   }
 }
 
-TEST_F(DashboardWindow, MovesAlongItsMenuByKeys) {
+TEST_F(DashboardWindow, MovesThroughItsMenuByKeys) {
   std::string opened;
   for (const int item : {1, 2, 4, 6}) {
     form.SetMenuItem(item, [&, item] { opened += std::to_string(item); });
@@ -87,7 +87,7 @@ TEST_F(DashboardWindow, MovesAlongItsMenuByKeys) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     return std::exchange(opened, "");
   };
-  EXPECT_EQ(press({Qt::Key_Right}), "4");  // over one that cannot be used
+  EXPECT_EQ(press({Qt::Key_Right}), "4");  // skips a disabled item
   EXPECT_EQ(press({Qt::Key_Right, Qt::Key_Right}), "6");
   EXPECT_EQ(press({Qt::Key_Left, Qt::Key_Left}), "2");
   EXPECT_EQ(press({Qt::Key_Left, Qt::Key_Left}), "1");
@@ -97,7 +97,7 @@ TEST_F(DashboardWindow, MovesAlongItsMenuByKeys) {
   EXPECT_EQ(press({Qt::Key_Tab}), "2");
 }
 
-// One that is cut short shows all of it in a tool tip, and only then gets in the mouse's way.
+// Only a place that is cut short has a tool tip and receives the mouse.
 TEST_F(DashboardWindow, ShowsALongPlaceInATip) {
   const auto* city = window.findChild<QWidget*>(u"lblCity"_s);
   EXPECT_TRUE(city->toolTip().isEmpty());

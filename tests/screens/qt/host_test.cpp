@@ -1,4 +1,4 @@
-// The life of forms in the host: loading, modal windows, timers, unloading.
+// The life cycle of forms in the host: loading, modal windows, timers, unloading.
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@
 namespace screens::qt {
 namespace {
 
-// Counts what happens to it; its timer lets the event loop run inside the handler.
+// Counts its events; its timer lets the event loop run inside the handler.
 struct CountingForm : forms::Form {
   CountingForm() : Form("CountingForm", "Counting", 3000, 2000) {
     Timer1.onTimer = [this] {
@@ -42,7 +42,7 @@ struct Host : testing::Test {
   QtHost host;
 };
 
-TEST_F(Host, TicksOnBelowAModalFormWithoutEnteringATimerTwice) {
+TEST_F(Host, KeepsTimersRunningBehindAModalFormWithoutReentry) {
   host.Show(form);
   inner.Timer1.interval = 0;
   QTimer poll;
@@ -50,7 +50,7 @@ TEST_F(Host, TicksOnBelowAModalFormWithoutEnteringATimerTwice) {
     if (form.ticks >= 2) host.Unload(inner);
   });
   poll.start(5);
-  host.ShowModal(inner, form);  // comes back only if the timer of the other form goes on
+  host.ShowModal(inner, form);  // returns only if the other form's timer keeps running
 }
 
 TEST_F(Host, KeepsAModalFormThroughMinimising) {
@@ -61,7 +61,7 @@ TEST_F(Host, KeepsAModalFormThroughMinimising) {
   EXPECT_FALSE(host.IsShown(inner));
 }
 
-TEST_F(Host, ComesBackFromAModalFormThatItsFirstEventUnloads) {
+TEST_F(Host, ReturnsFromAModalFormThatItsFirstEventUnloads) {
   host.Show(form);
   inner.atResize = [&](int) { host.Unload(inner); };
   host.ShowModal(inner, form);
@@ -79,7 +79,7 @@ TEST_F(Host, UnloadsAFormThatTheUserCloses) {
   EXPECT_EQ(form.loads, 2);
 }
 
-TEST_F(Host, LaysAFormOutAgainWhenItComesBack) {
+TEST_F(Host, LaysAFormOutAgainWhenItIsRestored) {
   host.Show(form);
   FormWindow& window = host.WindowOf(form);
   window.showMinimized();
@@ -89,7 +89,7 @@ TEST_F(Host, LaysAFormOutAgainWhenItComesBack) {
   EXPECT_GT(form.resizes, resizes);
 
   window.showMaximized();
-  form.windowState = forms::WindowState::Minimised;  // as a form does it for itself
+  form.windowState = forms::WindowState::Minimised;  // as a form minimises itself
   window.Mirror();
   EXPECT_TRUE(window.isMinimized());
   host.Show(form);
@@ -99,8 +99,8 @@ TEST_F(Host, LaysAFormOutAgainWhenItComesBack) {
   EXPECT_FALSE(window.isMaximized());
 }
 
-// The box of the form whose handler runs, though another form is the active one.
-TEST_F(Host, GivesABoxTheWindowThatAsks) {
+// The owner is the form whose handler runs, even if another form is active.
+TEST_F(Host, MakesTheAskingWindowTheOwnerOfABox) {
   form.Timer1.interval = 0;
   inner.Timer1.interval = 0;
   form.Timer1.onTimer = [&] {
@@ -125,7 +125,7 @@ TEST_F(Host, GivesABoxTheWindowThatAsks) {
   EXPECT_EQ(owner, host.WindowOf(form).windowHandle());
 }
 
-// Ends the process after a box, whose text goes to the log.
+// Closes the message box, whose text it logs; the process then ends.
 void RunAndFail(const foundation::Error& error) {
   QTimer::singleShot(0, [] {
     auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

@@ -1,4 +1,4 @@
-// What the toolkit knows of the machine and its user.
+// The machine and its user, as Qt reports them.
 
 #include <gtest/gtest.h>
 

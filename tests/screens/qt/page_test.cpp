@@ -21,14 +21,14 @@ struct Pages : WholeProgram {
   }
 
   static QImage Page(int number) {
-    const forms::RasterPtr dots = DotsOf(*report::LoadPage(static_cast<std::int16_t>(number)));
-    return ImageOf(*dots).copy();
+    const forms::RasterPtr raster = DotsOf(*report::LoadPage(static_cast<std::int16_t>(number)));
+    return ImageOf(*raster).copy();
   }
 
   support::AppFolderScope folder;
 };
 
-// The box of what is drawn inside a box; of anything that is not quite white, or of ink.
+// Bounds the pixels in a box that are darker than a grey: anything not quite white, or ink.
 constexpr int kAnything = 230, kInk = 128;
 
 QRect Drawn(const QImage& page, const QRect& inside, int darkerThan) {
@@ -57,19 +57,19 @@ TEST(DrawnPage, KeepsItsTitleClearOfItsFrameAndAsLargeAsThatAllows) {
   }
 }
 
-// The letters of "दिनमान" take three quarters of the 19 pixels that the head's size is.
-TEST(DrawnPage, HasHeadsAsLargeAsTheLegacyFaceDrawsThem) {
+// The letters of "दिनमान" are three quarters as high as the heading's font size of 19 pixels.
+TEST(DrawnPage, HasHeadingsAsLargeAsInTheLegacyFont) {
   const Pages pages(1, 1);
   EXPECT_NEAR(Drawn(Pages::Page(1), {300, 64, 75, 21}, kInk).height(), 14, 1);
 }
 
-TEST(DrawnPage, HasARowADayWithinItsColumns) {
+TEST(DrawnPage, HasOneRowPerDayWithinItsColumns) {
   const Pages pages(1, 2);
   const QImage january = Pages::Page(1), february = Pages::Page(2);
   const int lefts[] = {1125, 2250, 3420, 4500, 5730, 6810, 8010, 9120, 10320, 11460};
   for (int row = 0; row < 31; ++row) {
     for (const int left : lefts) {
-      // From a pixel before the column to a pixel behind its figures.
+      // From just before the column to just after its figures.
       const QRect cell(left / 15 - 2, (1320 + 270 * row) / 15, 56, 18);
       const QRect figures = Drawn(january, cell, kInk);
       EXPECT_GT(figures.width(), 20) << row << ", " << left;

@@ -32,7 +32,7 @@ struct PickerWindow : testing::Test, Picker {
     QApplication::processEvents();
   }
 
-  // Behind the others.
+  // After the existing ones.
   void AddPlaces(int count) {
     for (int i = 0; i < count; ++i) form.lstCity.items->AddItem("Zira " + std::to_string(100 + i));
     window.Mirror();
@@ -49,7 +49,7 @@ struct PickerWindow : testing::Test, Picker {
     QApplication::processEvents();
   }
 
-  // What is chosen in the list of the window, after a key.
+  // The list's current entry after a key press.
   QString Chosen(QWidget* widget, Qt::Key key) {
     QTest::keyClick(widget, key);
     return list->currentIndex().data().toString();
@@ -77,7 +77,7 @@ TEST_F(PickerWindow, FollowsTypingAndArrows) {
   EXPECT_EQ(caller.lblCity.caption, "Delhi(Delhi)");  // the list's own move has reached the form
 }
 
-TEST_F(PickerWindow, ShowsTheCountryThatIsChosenWithoutAChoiceOfAPlace) {
+TEST_F(PickerWindow, ShowsTheChosenCountryWithoutChoosingAPlace) {
   emit countries->activated(1);  // Fiji
   list->setFocus();
   EXPECT_FALSE(list->currentIndex().isValid());
@@ -85,7 +85,7 @@ TEST_F(PickerWindow, ShowsTheCountryThatIsChosenWithoutAChoiceOfAPlace) {
   EXPECT_EQ(Chosen(list, Qt::Key_Down), u"Nadi, Western, Fiji");
 }
 
-TEST_F(PickerWindow, KeepsItsTextsWholeAndItsRowWhereItIsResized) {
+TEST_F(PickerWindow, KeepsItsTextsUncutAndItsRowInViewWhenResized) {
   AddPlaces(100);
   Select(form.lstCity, 60);
   window.Mirror();
@@ -101,7 +101,7 @@ TEST_F(PickerWindow, KeepsItsTextsWholeAndItsRowWhereItIsResized) {
   EXPECT_EQ(list->indexAt({0, 0}).row(), 20);
 }
 
-TEST_F(PickerWindow, ComesBackToThePlaceThatIsSought) {
+TEST_F(PickerWindow, ScrollsBackToThePlaceSearchedFor) {
   AddPlaces(100);
   QTest::keyClicks(text, u"del"_s);
   ScrollDown();
@@ -148,7 +148,7 @@ TEST_F(PickerWindow, ShowsLongTextsInTips) {
   EXPECT_EQ(countries->toolTip(), ToQt(place));
 }
 
-TEST_F(PickerWindow, KeepsItsCountryWhenAWheelIsTurnedOverIt) {
+TEST_F(PickerWindow, KeepsItsCountryWhenTheWheelTurnsOverIt) {
   const int before = countries->currentIndex();
   EXPECT_FALSE(TakesWheel(*countries));
   countries->setFocus();
@@ -156,16 +156,16 @@ TEST_F(PickerWindow, KeepsItsCountryWhenAWheelIsTurnedOverIt) {
   EXPECT_EQ(countries->currentIndex(), before);
 }
 
-TEST_F(PickerWindow, HidesBehindAnotherWindow) {
+TEST_F(PickerWindow, HidesWhenAnotherWindowIsActivated) {
   toolkit.Show(caller);
   EXPECT_TRUE(QTest::qWaitFor([&] { return host.calls.size() == 1; }, 20000));
 }
 
-// The list takes in new entries while the program still loads, and never more than there are.
-TEST_F(PickerWindow, GoesOnBetweenTheEntries) {
+// The list shows new entries while the program is still loading, and never more than exist.
+TEST_F(PickerWindow, RespondsBetweenEntries) {
   QtYielder events;
   yielder.between = [&](int) { events.Yield(); };
-  // Another country comes in while one is loading.
+  // Another country is chosen while one is loading.
   QTimer::singleShot(0, [&] { FindInCombo("Fiji", form.cmbCountry); });
   FindInCombo("Atlantis", form.cmbCountry);
   window.Mirror();

@@ -12,7 +12,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-TEST(PreviewWindow, KeepsTheKeyboardInSightWhenItsPanelCloses) {
+TEST(PreviewWindow, MovesTheFocusOutOfItsPanelWhenThatCloses) {
   WholeProgram whole;
   report::frmSPkun& preview = whole.program.Preview();
   whole.program.host.Show(preview);

@@ -1,4 +1,4 @@
-// Reports as pixels and on paper, by Qt.
+// Reports that Qt draws as pixels and prints.
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ namespace {
 using namespace Qt::StringLiterals;
 using foundation::DateFromParts;
 
-// A report of Delhi from 1 January 2011, which draws as the program does.
+// A report for Delhi from 1 January 2011, rendered as in the program.
 struct Printing {
   explicit Printing(foundation::DateTime end, const QString& file = {}) : printer(file) {
     MakeReport({DateFromParts(2011, 1, 1), end, 0.5, "28.40N", "77.13E", "82.30E", "-5.30", "Delhi",
@@ -35,7 +35,7 @@ struct Printing {
   }
   ~Printing() { host.Unload(preview); }
 
-  std::string Told() const { return fakes.boxes.shown.at(0).text; }
+  std::string FirstMessage() const { return fakes.boxes.shown.at(0).text; }
 
   report::Reporting fakes;
   QtHost host;
@@ -52,14 +52,14 @@ QByteArray BytesOf(const QString& file) {
   return pdf.readAll();
 }
 
-// An ASCII text as a document's title has it.
+// An ASCII text as PDF titles store it.
 QByteArray Utf16(std::string_view text) {
   QByteArray bytes;
   for (const char c : text) bytes.append('\0').append(c);
   return bytes;
 }
 
-// A page of 909 by 682 logical pixels, as sharp as the screen.
+// A page of 909 by 682 logical pixels at the screen's resolution.
 TEST(Printing, GivesAPageOfPixelsAndASheetForEachMonth) {
   const QTemporaryDir folder;
   const QString file = folder.filePath(u"quarter.pdf"_s);
@@ -67,27 +67,29 @@ TEST(Printing, GivesAPageOfPixelsAndASheetForEachMonth) {
   const int ratio = qRound(qApp->devicePixelRatio());
   const forms::PicturePtr page = report::LoadPage(1);
   EXPECT_NEAR(page->width, 13635, 1);
-  const forms::Raster& dots = *std::get<forms::Dots>(page->items.at(0)).raster;
-  EXPECT_EQ(std::tuple(dots.width, dots.height), std::tuple(909 * ratio, 682 * ratio));
+  const forms::Raster& raster = *std::get<forms::Dots>(page->items.at(0)).raster;
+  EXPECT_EQ(std::tuple(raster.width, raster.height), std::tuple(909 * ratio, 682 * ratio));
   printing.preview.cmdPrint_Click();
   EXPECT_TRUE(printing.fakes.boxes.shown.empty());
   const QByteArray pdf = BytesOf(file);
-  EXPECT_EQ(pdf.count("/Type /Page\n"), 3);  // and no blank sheet behind them
+  EXPECT_EQ(pdf.count("/Type /Page\n"), 3);  // no blank sheet follows
   EXPECT_EQ(pdf.count(QByteArray("/Width ") + QByteArray::number(909 * ratio)), 3);
 }
 
 TEST(Printing, NamesAFileThatItCannotWrite) {
   Printing beginning(DateFromParts(2011, 1, 2), u"/nowhere/at/all.pdf"_s);
   beginning.preview.cmdPrintPage_Click();
-  EXPECT_EQ(beginning.Told(), "Printing Cancelled: The file /nowhere/at/all.pdf cannot be written");
+  EXPECT_EQ(beginning.FirstMessage(),
+            "Printing Cancelled: The file /nowhere/at/all.pdf cannot be written");
 
   const QTemporaryDir folder;
   const QString file = folder.filePath(u"cut.pdf"_s);
   Printing ending(DateFromParts(2011, 2, 1), file);
   const support::FullDiskScope full(4096);
   ending.preview.cmdPrint_Click();
-  EXPECT_EQ(ending.Told(), "The file " + file.toStdString() +
-                               " cannot be written. Do you want to continue with the next page?");
+  EXPECT_EQ(ending.FirstMessage(),
+            "The file " + file.toStdString() +
+                " cannot be written. Do you want to continue with the next page?");
 }
 
 struct Sheet : forms::Form {
@@ -95,7 +97,7 @@ struct Sheet : forms::Form {
   CONTROL(PictureBox, Rule, {.place = {300, 200, 5400, 15}});
 };
 
-TEST(DirectPages, TakeAFormsImageWithoutAnOffsetAndPaintItElsewhere) {
+TEST(DirectPages, AreReplacedByAFormsImageUnlessItHasAnOffset) {
   Printing printing(DateFromParts(2011, 1, 1));
   Sheet sheet;
   const auto& box = printing.preview.PIC;
@@ -111,7 +113,7 @@ TEST(DirectPages, TakeAFormsImageWithoutAnOffsetAndPaintItElsewhere) {
   EXPECT_EQ(std::get<forms::Inset>(box.picture->items[2]).at, (forms::Point{0, 500}));
 }
 
-// Without a printer the dialog prints into a file.
+// Without a printer, the dialog prints to a file.
 struct PrintDialog : testing::Test {
   PrintDialog() {
     QObject::connect(&poll, &QTimer::timeout, [this] {
@@ -143,10 +145,10 @@ struct PrintDialog : testing::Test {
   QString proposed;
 };
 
-TEST_F(PrintDialog, PrintsIntoAFileAfterThereWasNoPrinter) {
+TEST_F(PrintDialog, PrintsToAFileAfterFindingNoPrinter) {
   Printing printing(DateFromParts(2011, 2, 1));
   printing.preview.cmdPrintPage_Click();
-  EXPECT_EQ(printing.Told(), "Printing Cancelled: There is no printer");
+  EXPECT_EQ(printing.FirstMessage(), "Printing Cancelled: There is no printer");
 
   FormWindow& window = printing.host.WindowOf(printing.preview);
   window.findChild<QAbstractButton*>(u"cmdPrint"_s)->click();
@@ -159,7 +161,7 @@ TEST_F(PrintDialog, PrintsIntoAFileAfterThereWasNoPrinter) {
   EXPECT_EQ(pdf.count(Utf16("Durvela January 2011 to February 2011, Delhi")), 1);
 }
 
-TEST_F(PrintDialog, NamesAFileThatTakesNoFurtherPage) {
+TEST_F(PrintDialog, NamesAFileThatTakesNoMorePages) {
   QtPrinter printer;
   printer.AskUser();
   printer.Print("one");

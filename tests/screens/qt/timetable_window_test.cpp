@@ -35,8 +35,8 @@ struct TimetableWindow : testing::Test, WholeProgram {
   FormWindow& window = program.host.WindowOf(form);
 };
 
-// A report of a year is made; within it the picker loads; and at each turn of both a second passes.
-TEST_F(TimetableWindow, LetsTheClockGoOnWhileAReportIsMadeAndThePickerLoads) {
+// The picker loads while a report for a year is made; a second passes at each step of either.
+TEST_F(TimetableWindow, KeepsItsClockRunningWhileAReportIsMadeAndThePickerLoads) {
   const support::AppFolderScope folder;
   folder.Write("atlas/India.city", "");
   support::FakeYielder yielder;
@@ -65,7 +65,7 @@ TEST_F(TimetableWindow, LetsTheClockGoOnWhileAReportIsMadeAndThePickerLoads) {
   EXPECT_EQ(pages->itemText(11), u"12: Durvela December 2012 ..P12");
 }
 
-TEST_F(TimetableWindow, TakesWhatIsTypedAndPasted) {
+TEST_F(TimetableWindow, AcceptsTypedAndPastedText) {
   const auto type = [&](const QString& field, const QString& text, bool paste = false) {
     auto* picker = Field(field);
     QTest::keyClick(picker, Qt::Key_A, Qt::ControlModifier);
@@ -75,7 +75,7 @@ TEST_F(TimetableWindow, TakesWhatIsTypedAndPasted) {
     } else {
       QTest::keyClicks(picker, text);
     }
-    EXPECT_EQ(picker->text().simplified(), text.simplified());  // nothing is swallowed on the way
+    EXPECT_EQ(picker->text().simplified(), text.simplified());  // no key is lost
     QTest::keyClick(picker, Qt::Key_Return);
     return picker->text();
   };
@@ -85,7 +85,7 @@ TEST_F(TimetableWindow, TakesWhatIsTypedAndPasted) {
   EXPECT_EQ(type(u"DT1"_s, u"6 mar 2011\n"_s, true), u"6/March/2011");
   EXPECT_EQ(form.DT1.moment, foundation::DateFromParts(2011, 3, 6));
   EXPECT_EQ(type(u"dtTime"_s, u"6:05 pm"_s), u"06:05 PM");
-  EXPECT_EQ(type(u"dtTime"_s, u"7:30\u202FAM"_s, true), u"07:30 AM");  // with a narrow blank
+  EXPECT_EQ(type(u"dtTime"_s, u"7:30\u202FAM"_s, true), u"07:30 AM");  // with a narrow space
   EXPECT_EQ(form.dtTime.moment, foundation::TimeFromParts(7, 30, 0));
 
   // Shows the plain name and reads the inflected one, here with a decomposed letter.
@@ -96,21 +96,21 @@ TEST_F(TimetableWindow, TakesWhatIsTypedAndPasted) {
   EXPECT_EQ(type(u"DT2"_s, u"1 wrzes\u0301nia 2011"_s, true), u"1/wrzesień/2011");
 }
 
-TEST_F(TimetableWindow, TakesATextOnlyWhenTheFocusLeavesIt) {
+TEST_F(TimetableWindow, AcceptsTextOnlyWhenTheFocusLeaves) {
   auto* start = Field(u"DT1"_s);
   const auto before = form.DT1.moment;
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  QTest::keyClicks(start, u"7/3/20"_s);  // all of the former text is selected
+  QTest::keyClicks(start, u"7/3/20"_s);  // replaces the selected text
   QFocusEvent menu(QEvent::FocusOut, Qt::PopupFocusReason);
   QApplication::sendEvent(start, &menu);
   EXPECT_EQ(form.DT1.moment, before);
   QTest::keyClicks(start, u"11"_s);
-  window.findChild<QPushButton*>(u"cmdShow"_s)->click();  // as by its letter, without a mouse
+  window.findChild<QPushButton*>(u"cmdShow"_s)->click();  // as by its access key, without the mouse
   EXPECT_EQ(start->text(), u"7/March/2011");
   EXPECT_EQ(form.DT1.moment, foundation::DateFromParts(2011, 3, 7));
 }
 
-TEST_F(TimetableWindow, ShowsWhatItRefusesUntilThereIsADate) {
+TEST_F(TimetableWindow, ShowsRefusedTextUntilADateReplacesIt) {
   auto* end = Field(u"DT2"_s);
   const auto frame = [&] { return end->grab().toImage().pixelColor(1, end->height() / 2); };
   QTest::keyClick(end, Qt::Key_A, Qt::ControlModifier);
@@ -121,7 +121,7 @@ TEST_F(TimetableWindow, ShowsWhatItRefusesUntilThereIsADate) {
   EXPECT_EQ(end->toolTip(), ToQt(form.DT2.refusal));
   EXPECT_EQ(end->accessibleDescription(), end->toolTip());
   EXPECT_TRUE(window.findChild<QWidget*>(u"EndRemark"_s)->isVisible());
-  QTest::keyClick(end, Qt::Key_Up);  // from which date?
+  QTest::keyClick(end, Qt::Key_Up);  // has no date to step from
   EXPECT_EQ(form.DT2.moment, foundation::DateFromParts(2011, 4, 5));
 
   QTest::keyClick(end, Qt::Key_F4);
@@ -131,7 +131,7 @@ TEST_F(TimetableWindow, ShowsWhatItRefusesUntilThereIsADate) {
   EXPECT_TRUE(end->toolTip().isEmpty() && end->accessibleDescription().isEmpty());
 }
 
-TEST_F(TimetableWindow, StepsThePartWithTheCursorAndSelectsIt) {
+TEST_F(TimetableWindow, StepsThePartAtTheCursorAndSelectsIt) {
   const auto step = [&](const QString& field, int cursor, Qt::Key key) {
     auto* picker = Field(field);
     auto* line = picker->findChild<QLineEdit*>();
@@ -167,7 +167,7 @@ TEST_F(TimetableWindow, DropsItsCalendarDownByKeyAndMouse) {
   EXPECT_EQ(form.DT1.moment, foundation::DateFromParts(2011, 3, 19));
 }
 
-// A wheel that is turned over them on the way down a page changes nothing.
+// Turning the wheel over them while scrolling a page changes nothing.
 TEST_F(TimetableWindow, LeavesFieldsWithoutTheFocusAlone) {
   window.findChild<QWidget*>(u"cmdShow"_s)->setFocus();
   for (const QString& name : {u"DT1"_s, u"DT2"_s, u"dtTime"_s}) {
@@ -183,7 +183,7 @@ TEST_F(TimetableWindow, GivesALongPlaceTheRoomBesideItsCaption) {
   EXPECT_EQ(window.findChild<QWidget*>(u"lblCity"_s)->toolTip(), QString());  // it is not cut short
 }
 
-// What is drawn is seen, and a move of the form moves its window.
+// Drawing changes the window, and moving the form moves it.
 TEST_F(TimetableWindow, ShowsItsPageAndMoves) {
   const auto page = [&] { return window.findChild<QWidget*>(u"frRes"_s)->grab().toImage(); };
   const QImage month = page();
@@ -200,7 +200,7 @@ TEST_F(TimetableWindow, ShowsItsPageAndMoves) {
   EXPECT_GT(window.findChild<QScrollBar*>(u"VScroll1"_s)->value(), 0);
   QTest::mousePress(quickView, Qt::LeftButton);
   QTest::mouseRelease(quickView, Qt::LeftButton, {}, {-20, -20});
-  EXPECT_LT(form.picRes.place.top, 0);  // released outside, it leaves the list as it is
+  EXPECT_LT(form.picRes.place.top, 0);  // released outside the button, it does nothing
   form.left += 300;
   window.Mirror();
   EXPECT_EQ(window.x(), ToPixels(form.left));

@@ -1,4 +1,4 @@
-// The toolkit's application around all tests of a process, dressed as the program's own.
+// One QApplication for all tests of a process, styled as in the program.
 
 #include <gtest/gtest.h>
 

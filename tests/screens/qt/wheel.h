@@ -1,4 +1,4 @@
-// A wheel turned one step down over a widget.
+// Turns the wheel over a widget, one step down.
 #pragma once
 
 #include <QApplication>
@@ -7,7 +7,7 @@
 
 namespace screens::qt {
 
-// Whether the widget has used it, so that nothing else scrolls.
+// Whether the widget accepts the event, so that nothing else scrolls.
 inline bool TakesWheel(QWidget& widget) {
   const QPointF over = QRectF(widget.rect()).center();
   QWheelEvent wheel(over, widget.mapToGlobal(over), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,

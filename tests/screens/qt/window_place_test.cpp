@@ -27,7 +27,7 @@ struct WindowPlace : testing::Test {
   QRect Shown(forms::Form& form) {
     FormWindow& window = host.WindowOf(form);
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
-    QTest::qWait(0);  // for what its first painting has put off
+    QTest::qWait(0);  // for events that its first paint posts
     return window.frameGeometry();
   }
 
@@ -53,13 +53,13 @@ struct WindowPlace : testing::Test {
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
 };
 
-TEST_F(WindowPlace, IsTheScreenForALargerWindow) {
+TEST_F(WindowPlace, FillsTheScreenForALargerWindow) {
   host.Show(large);
   EXPECT_EQ(host.WindowOf(large).size().boundedTo(screen.size()), host.WindowOf(large).size());
   EXPECT_EQ(Shown(large), screen);
   EXPECT_EQ(large.scaleWidth, static_cast<float>(screen.width() - 4) * SizedForm::kTwips);
   host.WindowOf(large).Mirror();
-  EXPECT_EQ(Shown(large), screen);  // though its form's least size is larger
+  EXPECT_EQ(Shown(large), screen);  // although its form's minimum size is larger
   host.Unload(large);
   MoveOwner(100, 100);
   EXPECT_EQ(ShownModal(large), screen);
