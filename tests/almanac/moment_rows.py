@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""Prints a row of known_moments.inc, or checks those that are there.
+"""Prints a row of known_moments.inc, or checks the existing rows.
 
     moment_rows.py 18 11 1990 6 11 25  28.40N 77.13E 82.30E
     moment_rows.py --check
 
 Arguments: day, month, year, hour, minute, second; latitude, longitude and the zone's meridian in
 degrees.minutes. Moon, Sun and ayanamsa are those of tests/engine/chart_rows.py in mode 0 with the
-mean node; all else follows from them by the definitions of the almanac, and shares no code with the
+mean node. The rest follows from them by the almanac's definitions and shares no code with the
 program.
 """
 import sys
@@ -47,7 +47,7 @@ def karana(moon, sun):
 
 
 def end(element, at, zone):
-    """The first second of another number."""
+    """The first second with a different number."""
     number = element(*sky(at, zone)[:2])
     low, high = 0, 3600
     while element(*sky(at + timedelta(seconds=high), zone)[:2]) == number:
@@ -61,7 +61,7 @@ def end(element, at, zone):
 
 
 def lunar_month(at, zone):
-    """That of the solar month, or the next one up to the full moon that has passed in it."""
+    """The month's own, or the next one up to the first day of the month with tithi 16 or 17."""
     for day in range(1, 29 if at.month == 2 else 31):
         if tithi(*sky(at.replace(day=day), zone)[:2]) in (16, 17):
             return MONTHS[(at.month - (at.day > day)) % 12]
@@ -69,7 +69,7 @@ def lunar_month(at, zone):
 
 
 def era_years(at, zone):
-    """Shaka and Vikram; they begin with the first tithi 1 from 2 April on, or on 1 May."""
+    """Shaka and Vikram; they begin on the first day from 2 April with tithi 1, or on 1 May."""
     begin = at.replace(month=4, day=2)
     while begin.month == 4 and tithi(*sky(begin, zone)[:2]) != 1:
         begin += timedelta(1)
