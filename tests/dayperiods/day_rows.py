@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
-"""Prints a row of known_days.inc, or checks those that are there.
+"""Prints a row of known_days.inc, or checks the existing rows.
 
     day_rows.py 5 3 2011 12 0 0  28.40N 77.13E 82.30E
     day_rows.py --check
 
 Arguments: day, month, year, hour, minute, second; latitude, longitude and the zone's meridian in
-degrees.minutes. Sun and hour angle are those of the low-precision formula of the Explanatory
-Supplement to the Astronomical Almanac (1992, chapter 9), in its own degrees; the minute, the Hindu
-day and the eighths follow by the rules of docs/behaviour.md. Shares no code with the program.
+degrees.minutes. Sun and hour angle follow the low-precision formula of the Explanatory Supplement
+to the Astronomical Almanac (1992, chapter 9), in degrees; the minute, the Hindu day and the eighths
+follow the rules of docs/behaviour.md. Shares no code with the program.
 """
 import sys
 from datetime import date, timedelta
@@ -17,13 +17,13 @@ from pathlib import Path
 sys.path.insert(0, str(Path(__file__).parent / "../engine"))
 from chart_rows import decoded, main, zone_hours  # noqa: E402
 
-DURVELA = 8, 2, 7, 5, 6, 4, 3  # by weekday, Sunday first, as the next two
+DURVELA = 8, 2, 7, 5, 6, 4, 3  # by weekday, Sunday first; the next two likewise
 GULIK = 7, 6, 5, 4, 3, 2, 8
 YUM = 5, 4, 3, 2, 8, 7, 6
 
 
 def text_of(day, latitude, longitude, zone, sign):
-    """Clock time of the rise (sign 1) or set (-1), as the program writes it."""
+    """Clock time of sunrise (sign 1) or sunset (-1), as the program writes it."""
     if abs(latitude) > 63:
         return "{invalid latitude}"
     ut, before = 0, 180

@@ -3,8 +3,8 @@
 
 Formulas: NOAA Global Monitoring Laboratory, "Solar Calculation Details" (after Jean Meeus,
 Astronomical Algorithms, 1991), with a zenith distance of 90.833 degrees. Shares no code with the
-program. Prints the rows of the tests beside it: decimal hours of the zone's clock time, and the days
-without a sunrise or sunset.
+program. Prints the rows of ordinary_days.inc, in decimal hours of the zone's clock time, and for
+sunrise_test.cpp the days without a sunrise or sunset.
 """
 from datetime import date, timedelta
 from math import acos, asin, cos, degrees, radians, sin, tan
@@ -50,7 +50,7 @@ def event(year, month, day, latitude, longitude, zone, sign):
 
 
 def days_without_a_crossing(latitude, solstice):
-    """First and last day round a solstice on which the Sun's centre stays up or down."""
+    """First and last day around a solstice on which the Sun's centre stays up or down."""
     def stays(day):
         moment = julian_day(day.year, day.month, day.day) + 0.25  # 6h Universal Time
         return abs(latitude) + abs(sun((moment - 2451545) / 36525)[0]) >= 90
