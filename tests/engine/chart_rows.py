@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Prints a row of known_charts.inc, or checks those that are there.
+"""Prints a row of known_charts.inc, or checks the existing rows.
 
     chart_rows.py 5 3 2011 6 12 9  77.13E 28.40N 82.30E  4 -1 0
     chart_rows.py --check
@@ -7,8 +7,8 @@
 Arguments: day, month, year, hour, minute, second; longitude, latitude and the zone's meridian in
 degrees.minutes; ayanamsa mode 0 to 7, node flag (-1 corrected, 0 mean), hours of correction.
 
-Only the coefficients come from the program's source; the rows that came without them hold those.
-The arithmetic is its own, in the textbook's forms: one sine for each term, true anomalies by the
+Only the coefficients come from the program's source; rows calculated without them check those. The
+arithmetic is independent and in textbook form: one sine for each term, true anomalies by the
 half-angle formula, directions by atan2, divisions by their definitions.
 """
 import re
@@ -23,7 +23,7 @@ SHOWN = "Sun Moon Mars Mercury Jupiter Venus Saturn Rahu Ketu Uranus Neptune Plu
 
 
 def table(file, name):
-    """A braced table of the source as nested lists, its names as texts."""
+    """A braced table of the source as nested lists, with its names as strings."""
     source = re.sub("//.*", "", (HERE / "../../src/engine" / file).read_text())
     body = re.search(rf"\b{name}(?:\[\])?\s*=?\s*(\{{.*?\}});", source, re.DOTALL)[1]
     body = re.sub(r"\b[A-Za-z]\w*", lambda word: repr(word[0]), body)
@@ -44,7 +44,7 @@ PERTURBATIONS = {name: table("perturbation_terms.h", name) for name in
 
 
 def turns(x):
-    """The angle of a number of turns, in radians."""
+    """Turns as an angle in radians."""
     return 2 * pi * (x % 1)
 
 
@@ -70,7 +70,7 @@ def perturbations(t):
 
 
 def vector(body, t, ayanamsa, series):
-    """From the Sun in the plane of the ecliptic; of the Sun itself, from the Earth."""
+    """Heliocentric, in the plane of the ecliptic; the Sun's own is geocentric."""
     (l1, l0), (p1, p0), (n1, n0), (e1, e0), (i1, i0), axis = ELEMENTS[body]
     longitude, ecc = 360 * ((t * l1 + l0) % 1), t * e1 + e0
     perihelion, node, inclination = t * p1 + p0, radians(t * n1 + n0), radians(t * i1 + i0)
@@ -88,7 +88,7 @@ def vector(body, t, ayanamsa, series):
         longitude -= 0.1 * sin(radians(longitude + ayanamsa))
     mean = radians((longitude - perihelion) % 360)
     eccentric, step = mean + ecc * sin(mean), 1
-    while abs(step) > 0.01:  # the theory wants no more steps than this
+    while abs(step) > 0.01:  # the theory stops at this precision
         step = (eccentric - ecc * sin(eccentric) - mean) / (1 - ecc * cos(eccentric))
         eccentric -= step
     radius = axis * (1 - ecc * cos(eccentric))
@@ -123,7 +123,7 @@ def corrected_node(node, sun, day):
 
 
 def decoded(text, letters):
-    """Degrees, below 0 in the second letter; a longitude of whole degrees counts as minutes."""
+    """Degrees, negative for the second letter; a longitude of whole degrees counts as minutes."""
     whole, part = re.fullmatch(rf"(\d+)[.{letters}](\d\d?)[{letters}]?", text).groups()
     if int(part) == 0 and letters == "EW":
         return (int(whole) * (10 if len(whole) == 1 else 1)) / 60
@@ -141,7 +141,7 @@ def ayanamsa_at(mode, day):
 
 
 def positions(at, zone, mode, node_flag, correction):
-    """The 26 positions and the centuries, days and hours that they belong to."""
+    """The 26 positions; their time in Julian centuries since 1900.0 and in days from noon UT."""
     day_of_month, month, year, hour, minute, second = at
     day = date(int(year), int(month), int(day_of_month))
     clock = hour + minute / 60 + second / 3600
@@ -181,7 +181,7 @@ def rising(hours, latitude, obliquity, ayanamsa):
 def houses(hours, latitude, t, ayanamsa):
     obliquity = 23.452294 - t * 0.0130125
     east = rising(hours, latitude, obliquity, ayanamsa)
-    south = rising(hours - 6, 0, obliquity, ayanamsa)  # what rose at the equator six hours ago
+    south = rising(hours - 6, 0, obliquity, ayanamsa)  # rose at the equator six hours ago
     night = (south + 180 - east) % 360 / 3
     cusps = [east, east + night, east + 2 * night]
     cusps += [south + 180, south + 240 - night, south + 300 - 2 * night]
@@ -251,7 +251,7 @@ def shown(value):
 
 
 def rows_of(file):
-    """The rows of a table of tests; braces in its texts stay."""
+    """The rows of a test table; braces in its strings stay."""
     text = re.sub("//.*", "", file.read_text())
     to_list = {"{": "[", "}": "]"}
     return eval("[" + re.sub(r'"[^"]*"|[{}]', lambda m: to_list.get(m[0], m[0]), text) + "]")
@@ -269,8 +269,8 @@ def main(inc, row, inputs, arguments):
         known = rows_of(inc)
         wrong = [of for of in known if not is_alike(row(*of[:inputs]), of)]
         for of in wrong:
-            print("not as worked out here:", *of[:inputs])
-        print(f"{len(known) - len(wrong)} of {len(known)} rows are alike")
+            print("calculated otherwise here:", *of[:inputs])
+        print(f"{len(known) - len(wrong)} of {len(known)} rows agree")
         sys.exit(1 if wrong else 0)
     values = [a if a[-1].isalpha() else float(a) if "." in a else int(a) for a in arguments]
     print(shown(row(values[:6], values[6:9], *values[9:])) + ",")
