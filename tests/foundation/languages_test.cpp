@@ -1,7 +1,6 @@
 // Language files and text encodings.
 
 #include <gtest/gtest.h>
-#include <iconv.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -49,18 +48,11 @@ TEST(Lines, EndWithCrLfCrOrLf) {
 }
 
 TEST(ByteTexts, UseCodePage1252) {
-  int known = 0;
-  const iconv_t codePage = iconv_open("UTF-8", "CP1252");
-  for (int byte = 1; byte < 256; ++byte) {
-    char one = static_cast<char>(byte), character[4] = {};
-    char *from = &one, *to = character;
-    std::size_t left = 1, room = sizeof character;
-    if (iconv(codePage, &from, &left, &to, &room) != 0) continue;
-    EXPECT_EQ(FromBytes(ByteText({one})), std::string(character, to));
-    ++known;
-  }
-  EXPECT_EQ(known, 250);
-  iconv_close(codePage);
+  // Without the five bytes that the code page leaves undefined.
+  EXPECT_EQ(FromBytes(ByteText("\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8E"
+                               "\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9A\x9B\x9C\x9E\x9F")),
+            "€‚ƒ„…†‡ˆ‰Š‹ŒŽ‘’“”•–—˜™š›œžŸ");
+  EXPECT_EQ(FromBytes(ByteText("\x01 ~\x7F\xA0\xA3\xBF\xC0\xE9\xFF")), "\x01 ~\x7F\u00A0£¿Àéÿ");
   EXPECT_EQ(ToBytes("दिā\xE9"), ByteText("????"));
   std::string bytes;
   for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);

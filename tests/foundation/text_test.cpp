@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cwctype>
 
 #include "foundation/letters.h"
 #include "foundation/modConvertFx.h"
@@ -52,24 +51,6 @@ TEST(Text, ChangesCase) {
              Row("×ß्", "×ß्"));
   ExpectRows(ProperCase, Row("KINSTUGHNA naG  x", "Kinstughna Nag  X"),
              Row("u. PHALG", "U. Phalg"));
-}
-
-TEST(Text, FoldsTheLettersOfTwoBytesAsTheCLibraryDoes) {
-  const locale_t locale = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
-  const auto text = [](wint_t of) {
-    return std::string{static_cast<char>(0xC0 | of >> 6), static_cast<char>(0x80 | (of & 0x3F))};
-  };
-  for (const auto& [first, last] : {std::pair(0xC0U, 0x177U),  // Latin but for its rarer letters
-                                    {0x179U, 0x17EU},
-                                    {0x386U, 0x3CEU},  // Greek
-                                    {0x400U, 0x4BFU},  // Cyrillic
-                                    {0x4C1U, 0x556U}}) {
-    for (wint_t letter = first; letter <= last; ++letter) {
-      const wint_t small = towlower_l(letter, locale);
-      EXPECT_TRUE(small < 0x80 || FoldCase(text(letter)) == text(small)) << letter;
-    }
-  }
-  freelocale(locale);
 }
 
 TEST(Text, BeginsWithAnotherIgnoringCase) {
