@@ -25,7 +25,7 @@ constexpr CreditLine kLines[] = {
     {"Qt 6, © The Qt Company Ltd. and contributors", false},
     {"GNU Lesser General Public License, version 3", false},
     {"", false},
-    {"Letters", true},
+    {"Fonts", true},
     {"Noto Sans, © The Noto Project Authors", false},
     {"Lohit, © Red Hat, Inc. and contributors", false},
     {"SIL Open Font License, version 1.1", false},

@@ -1,4 +1,4 @@
-// What the dashboard's background shows: a day's light in eight parts, and the sun.
+// What the dashboard's background shows: the daylight in eight parts, and the sun.
 #pragma once
 
 #include <string>
@@ -25,8 +25,8 @@ struct DayScene {
   friend bool operator==(const DayScene&, const DayScene&) = default;
 };
 
-// The calendar day of `now` at the place of the current record. Calculated for noon, so that the
-// hours before sunrise show the coming day.
+// The scene of the calendar day of `now` at the place of the current record, undivided if a
+// calculation fails. Calculated for noon, so that the hours before sunrise show the coming day.
 DayScene SceneOf(foundation::DateTime now, const foundation::SessionTable& session);
 
 }  // namespace screens

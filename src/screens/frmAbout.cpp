@@ -51,7 +51,7 @@ void frmAbout::cmdOK_Click() {
   services_.host.Unload(*this);
 }
 
-// This system has no such tool.
+// There is no system information tool to start.
 void frmAbout::cmdSysInfo_Click() {
   services_.boxes.Show("System Information Is Unavailable At This Time",
                        foundation::MessageIcon::None);

@@ -27,7 +27,7 @@ class frmAbout : public ScaledForm {
   void Form_KeyDown(forms::KeyPress& press) override;
   void Form_MouseMove() override;
 
-  void Timer1_Timer();  // scrolls the credits by a step
+  void Timer1_Timer();  // scrolls the credits one step
   void picS_MouseMove();
   void cmdOK_Click();
   void cmdSysInfo_Click();

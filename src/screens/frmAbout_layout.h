@@ -16,7 +16,7 @@ using namespace layout;
 
 inline constexpr float kWidth = 520;  // logical pixels
 inline constexpr float kHeight = 420;
-inline constexpr float kCreditsHeight = 2592;  // twips, of their frame
+inline constexpr float kCreditsHeight = 2592;  // twips; of the frame around the credits
 
 inline Properties Head() {
   return {.place = At(0, 0, kWidth, 96), .backColour = palette::kEarth};

@@ -92,7 +92,7 @@ void frmCity::lstCity_DblClick() {
   Accept();
 }
 
-// Errors up to the record's number are not caught: without a selection the program ends.
+// Errors while looking up the record's number are not caught: without a selection the program ends.
 void frmCity::Accept() {
   const std::int32_t number = lstCity.items->ItemData(lstCity.items->ListIndex());
   const std::int16_t index = foundation::RoundToInt16(number + 1.0);

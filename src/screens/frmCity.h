@@ -49,7 +49,7 @@ class frmCity : public forms::Form {
   atlas::clsAtlas& atlas_;
   forms::clsVSZ sizes_;
   forms::Form* RetForm_ = nullptr;
-  int loading_ = 0;  // running loads; they nest
+  int loading_ = 0;  // loads in progress; they nest
   bool searched_ = false;
 };
 

@@ -1,4 +1,4 @@
-// Rows of the city picker's table of controls, in twips, for a window of 4770 by 3930.
+// Rows of the city picker's table of controls, for a window of 4770 by 3930 twips.
 #pragma once
 
 #include "forms/control.h"

@@ -19,11 +19,11 @@ constexpr float kSlideStep = 10 * kTwips;
 
 }  // namespace
 
-frmDurvela::frmDurvela(Services services, forms::Form& dashboard, Ways ways)
+frmDurvela::frmDurvela(Services services, forms::Form& dashboard, Navigation navigation)
     : ScaledForm("frmDurvela", "Durvela", timetable_layout::kWidth, timetable_layout::kHeight),
       services_(services),
       dashboard_(dashboard),
-      ways_(std::move(ways)) {
+      navigation_(std::move(navigation)) {
   backColour = palette::kPaper;
 
   cmdShow.onClick = [this] { cmdShow_Click(); };
@@ -52,7 +52,7 @@ frmDurvela::frmDurvela(Services services, forms::Form& dashboard, Ways ways)
   Timer1.onTimer = [this] { Timer1_Timer(); };
 }
 
-// The form always starts in its initial state, however it was left.
+// Resets the form, whatever state it was closed in.
 void frmDurvela::Form_Load() {
   ScaledForm::Form_Load();
   activeControl = &DT1;
@@ -87,16 +87,16 @@ void frmDurvela::Form_KeyDown(forms::KeyPress& press) {
 }
 
 void frmDurvela::cmdPreview_Click() {
-  ways_.report({.DT1 = DT1.moment,
-                .DT2 = DT2.moment,
-                .dtTime = dtTime.moment,
-                .latitude = lblLat.caption,
-                .longitude = lblLong.caption,
-                .zoneMeridian = lblZone.caption,
-                .zoneTime = lblZoneTime.caption,
-                .city = lblCity.caption,
-                .country = lblCountry.caption,
-                .lblStatus = lblStatus});
+  navigation_.report({.DT1 = DT1.moment,
+                      .DT2 = DT2.moment,
+                      .dtTime = dtTime.moment,
+                      .latitude = lblLat.caption,
+                      .longitude = lblLong.caption,
+                      .zoneMeridian = lblZone.caption,
+                      .zoneTime = lblZoneTime.caption,
+                      .city = lblCity.caption,
+                      .country = lblCountry.caption,
+                      .lblStatus = lblStatus});
 }
 
 void frmDurvela::cmdSave_Click() {
@@ -114,7 +114,7 @@ void frmDurvela::cmdSave_Click() {
 // Ignores a second click while the places are still being read.
 void frmDurvela::cmdEditPlace_Click() {
   if (std::exchange(picking_, true)) return;
-  frmCity& picker = ways_.picker();
+  frmCity& picker = navigation_.picker();
   picker.Load(lblCountry.caption, lblCity.caption, *this);
   // The user may have closed the form while the places were being read.
   if (services_.host.IsShown(*this)) services_.host.ShowModal(picker, *this);
@@ -153,7 +153,7 @@ void frmDurvela::lblTitle_MouseUp() {
   moving_ = false;
 }
 
-// A small sun slides once along the head to its place.
+// A small sun slides along the head once, to its place.
 void frmDurvela::StartSlide() {
   slideTo_ = picSlide.place.left;
   picSlide.place.left = frRes.place.left;

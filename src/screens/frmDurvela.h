@@ -17,14 +17,14 @@ class frmCity;
 
 class frmDurvela : public ScaledForm {
  public:
-  // Where the form leads: the picker, requested when a place is edited, and the report.
-  struct Ways {
+  // The screens that the form opens. The picker is not requested until a place is edited.
+  struct Navigation {
     std::function<frmCity&()> picker;
     std::function<void(const report::ReportInput&)> report;
   };
 
   // Closing returns to the dashboard, which must outlive the form.
-  frmDurvela(Services services, forms::Form& dashboard, Ways ways);
+  frmDurvela(Services services, forms::Form& dashboard, Navigation navigation);
 
   // The table of controls, bottom first.
   CONTROL(Shape, Head, timetable_layout::Head());
@@ -93,23 +93,23 @@ class frmDurvela : public ScaledForm {
   void Timer1_Timer();
 
  private:
-  // The inputs of a list.
-  struct Wanted {
+  // What a list is made from.
+  struct Inputs {
     foundation::DateTime from = 0, to = 0, time = 0;
     std::array<std::string, foundation::kPlaceSettings.size()> place;
-    friend bool operator==(const Wanted&, const Wanted&) = default;
+    friend bool operator==(const Inputs&, const Inputs&) = default;
   };
 
   void FillFromDefaults();
   void FitPage();
-  Wanted ReadWanted();
+  Inputs ReadInputs();
   void MarkOldList();
   void StartSlide();
 
   Services services_;
   forms::Form& dashboard_;
-  Ways ways_;
-  Wanted shown_;
+  Navigation navigation_;
+  Inputs shown_;          // by the current list
   float listEnd_ = 0;     // bottom of the last row, in twips
   bool picking_ = false;  // the picker is opening or open
   bool moving_ = false;

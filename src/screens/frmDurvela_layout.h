@@ -1,5 +1,4 @@
-// Rows of the timetable's table of controls: positions and looks in a window of 960 by 680 logical
-// pixels, from which it is scaled.
+// Rows of the timetable's table of controls, for a window of 960 by 680 logical pixels.
 #pragma once
 
 #include <string>
@@ -17,7 +16,7 @@ inline constexpr float kHeight = 680;
 inline constexpr float kFrameLeft = 384, kFrameTop = 88, kFrameWidth = 552, kFrameHeight = 568;
 inline constexpr float kScrollWidth = 16;
 
-// The page has room for the rows of a month and fits the narrowest window.
+// The page holds a month of rows and fits the narrowest window.
 inline constexpr float kPageWidth = 400;
 inline constexpr float kPageHeight = 1000;
 inline constexpr std::string_view kPageName = "Durvela of each day";
@@ -89,7 +88,7 @@ inline Properties Value(float top) {
           .alignment = Alignment::Right};
 }
 
-// A possibly long text beside a short caption.
+// Leaves a long text more room, beside a short caption.
 inline Properties LongValue(float top) {
   Properties value = Value(top);
   value.place = At(92, top, 248, 24);

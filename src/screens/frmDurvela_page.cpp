@@ -31,20 +31,20 @@ void frmDurvela::cmdShow_Click() {
   Resume([&] { listEnd_ = static_cast<float>(services_.host.TargetOf(picRes).CurrentY()); });
   FitPage();
   SetScroll(VScroll1, 0);  // back to the first row
-  shown_ = ReadWanted();
+  shown_ = ReadInputs();
   MarkOldList();
 }
 
-frmDurvela::Wanted frmDurvela::ReadWanted() {
-  Wanted wanted = {DT1.moment, DT2.moment, dtTime.moment, {}};
-  std::ranges::transform(PlaceLabelsOf(*this), wanted.place.begin(),
+frmDurvela::Inputs frmDurvela::ReadInputs() {
+  Inputs inputs = {DT1.moment, DT2.moment, dtTime.moment, {}};
+  std::ranges::transform(PlaceLabelsOf(*this), inputs.place.begin(),
                          [](const forms::Control* label) { return label->caption; });
-  return wanted;
+  return inputs;
 }
 
-// A list of another place or other dates stays until Quick View, but is dimmed and says so.
+// A list for another place or other dates stays until Quick View, dimmed and with a remark.
 void frmDurvela::MarkOldList() {
-  picRes.faded = ReadWanted() != shown_;
+  picRes.faded = ReadInputs() != shown_;
   picRes.spokenName = timetable_layout::kPageName;
   lblOldList.caption.clear();
   if (!picRes.faded) return;

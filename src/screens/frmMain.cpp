@@ -40,7 +40,7 @@ void frmMain::SetMenuItem(int index, std::function<void()> open) {
   open_[index] = std::move(open);
 }
 
-// Runs the first tick at once, so that the dashboard never shows without figures.
+// Ticks at once, so that the dashboard never appears without figures.
 void frmMain::Form_Load() {
   sizes_.SaveSizes(*this);
   Timer1_Timer();

@@ -1,5 +1,4 @@
-// Rows of the dashboard's table of controls: positions and looks in a window of 840 by 560 logical
-// pixels, from which it is scaled.
+// Rows of the dashboard's table of controls, for a window of 840 by 560 logical pixels.
 #pragma once
 
 #include <string>
@@ -42,7 +41,7 @@ inline Properties CardRule() {
           .borderColour = palette::kRule};
 }
 
-// A line in the middle of the arc.
+// A line of text in the middle of the arc.
 inline Properties OnSky(float top, float height, float size, std::string_view caption,
                         bool bold = false) {
   return {.place = At(170, top, 240, height),

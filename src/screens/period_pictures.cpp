@@ -24,7 +24,7 @@ using forms::Point;
 constexpr double kWidth = 328;
 
 // The arc.
-constexpr Point kFoot = {164, 168};
+constexpr Point kCentre = {164, 168};
 constexpr double kInner = 98, kOuter = 140, kPart = 180.0 / dayperiods::kSegmentsOfDaylight;
 constexpr double kGap = 1;    // degrees between the parts
 constexpr double kLine = 19;  // distance between the lines of the periods
@@ -47,11 +47,11 @@ const PeriodLook& LookOf(Period period) {
   return kLooks[static_cast<std::size_t>(period)];
 }
 
-foundation::DateTime Day() {
+foundation::DateTime SampleDate() {
   return foundation::DateFromParts(2011, 3, 5);
 }
 
-// At the default place of a first start.
+// At the built-in default place.
 DayScene SampleScene() {
   foundation::SessionTable session;
   foundation::SessionRecord& record = session.Current();
@@ -61,7 +61,7 @@ DayScene SampleScene() {
   record.LatitudeText = fallback(2);
   record.LongitudeText = fallback(3);
   record.ZoneMeridianText = fallback(4);
-  return SceneOf(Day() + 0.5, session);
+  return SceneOf(SampleDate() + 0.5, session);
 }
 
 const DayScene::PeriodTimes& TimesOf(const DayScene& scene, Period period) {
@@ -72,12 +72,12 @@ const DayScene::PeriodTimes& TimesOf(const DayScene& scene, Period period) {
 
 void DrawPart(forms::Picture& picture, int segment, Colour fill, Colour ink) {
   picture.items.emplace_back(
-      forms::Outline{Path::RingPiece(kFoot, kInner, kOuter, SegmentAngle(segment) - kGap / 2,
+      forms::Outline{Path::RingPiece(kCentre, kInner, kOuter, SegmentAngle(segment) - kGap / 2,
                                      SegmentAngle(segment + 1) + kGap / 2),
                      fill,
                      {}});
   const Point middle =
-      forms::OnCircle(kFoot, (kInner + kOuter) / 2, SegmentAngle(segment) - kPart / 2);
+      forms::OnCircle(kCentre, (kInner + kOuter) / 2, SegmentAngle(segment) - kPart / 2);
   picture.items.emplace_back(Lettering{.text = foundation::NumberText(segment),
                                        .at = {middle.x, middle.y + 5},
                                        .alignment = Alignment::Centre,
@@ -104,22 +104,24 @@ forms::PicturePtr SampleDay(const std::vector<Period>& periods) {
     DrawPart(*picture, segment, free ? palette::kRule : LookOf(*period).colour,
              free ? palette::kInk : palette::kWhite);
   }
-  double line = kFoot.y - 10 - kLine * static_cast<double>(periods.size() - 1);
+  double line = kCentre.y - 10 - kLine * static_cast<double>(periods.size() - 1);
   for (const Period period : periods) {
     const PeriodLook& look = LookOf(period);
-    Write(*picture, std::string(look.name) + " " + TimesOf(scene, period).times, {kFoot.x, line},
+    Write(*picture, std::string(look.name) + " " + TimesOf(scene, period).times, {kCentre.x, line},
           Alignment::Centre, 13, look.colour, true);
     line += kLine;
   }
   picture->items.emplace_back(
-      forms::Outline{Path().MoveTo({20, kFoot.y}).LineTo({kWidth - 20, kFoot.y}),
+      forms::Outline{Path().MoveTo({20, kCentre.y}).LineTo({kWidth - 20, kCentre.y}),
                      forms::kTransparent,
                      {palette::kQuiet, 1}});
   constexpr double kMiddle = (kInner + kOuter) / 2;
-  Write(*picture, scene.sunrise, {kFoot.x - kMiddle, 184}, Alignment::Centre, 12.5, palette::kInk);
-  Write(*picture, scene.sunset, {kFoot.x + kMiddle, 184}, Alignment::Centre, 12.5, palette::kInk);
-  Write(*picture, foundation::WeekdayName(foundation::WeekdayOf(Day())) + ", 5-3-2011, Delhi",
-        {kFoot.x, 204}, Alignment::Centre, 12.5, palette::kQuiet);
+  Write(*picture, scene.sunrise, {kCentre.x - kMiddle, 184}, Alignment::Centre, 12.5,
+        palette::kInk);
+  Write(*picture, scene.sunset, {kCentre.x + kMiddle, 184}, Alignment::Centre, 12.5, palette::kInk);
+  Write(*picture,
+        foundation::WeekdayName(foundation::WeekdayOf(SampleDate())) + ", 5-3-2011, Delhi",
+        {kCentre.x, 204}, Alignment::Centre, 12.5, palette::kQuiet);
   return picture;
 }
 

@@ -36,12 +36,12 @@ forms::PicturePtr Drawing(Colour colour, std::initializer_list<Path> lines,
 
 // The arc of the day with one eighth filled.
 forms::PicturePtr EighthOfArc(Colour colour, int segment) {
-  const Point foot = {28, 42};
+  const Point centre = {28, 42};
   return Drawing(
       colour,
-      {Path().Arc(foot, 24, 180, 0), Path().Arc(foot, 13, 180, 0),
+      {Path().Arc(centre, 24, 180, 0), Path().Arc(centre, 13, 180, 0),
        Path().MoveTo({2, 42}).LineTo({17, 42}), Path().MoveTo({39, 42}).LineTo({54, 42})},
-      {Path::RingPiece(foot, 13, 24, SegmentAngle(segment), SegmentAngle(segment + 1))});
+      {Path::RingPiece(centre, 13, 24, SegmentAngle(segment), SegmentAngle(segment + 1))});
 }
 
 forms::PicturePtr TableOfDays() {
@@ -106,7 +106,7 @@ const std::array<MenuSign, 8>& MenuSigns() {
 }
 
 forms::PicturePtr ProgramSign() {
-  const Point foot = {32, 48};
+  const Point centre = {32, 48};
   auto picture = forms::NewPicture(64, 64);
   const auto add = [&](Path path, Colour fill) {
     picture->items.emplace_back(forms::Outline{std::move(path), fill, {}});
@@ -114,10 +114,10 @@ forms::PicturePtr ProgramSign() {
   add(Path::Box({2, 2}, 60, 60, 14), palette::kNight);
   for (int segment = 1; segment <= dayperiods::kSegmentsOfDaylight; ++segment) {
     const double from = SegmentAngle(segment);
-    add(Path::RingPiece(foot, 15, 25, from - 1.2, from - 21.3),
+    add(Path::RingPiece(centre, 15, 25, from - 1.2, from - 21.3),
         segment == 3 ? palette::kDurvela : palette::kCream.WithOpacity(0.5));
   }
-  add(Path::Circle(forms::OnCircle(foot, 20, 78.75), 6.5), palette::kGold);
+  add(Path::Circle(forms::OnCircle(centre, 20, 78.75), 6.5), palette::kGold);
   add(Path::Box({7, 48}, 50, 3, 1.5), palette::kDawn);
   return picture;
 }

@@ -145,10 +145,10 @@ void Program::FillMenu() {
 frmDurvela& Program::Timetable() {
   if (!timetable_) {
     timetable_.emplace(GiveServices(), dashboard,
-                       frmDurvela::Ways{[this]() -> frmCity& { return Picker(); },
-                                        [this](const report::ReportInput& input) {
-                                          MakeReport(input, Preview(), GiveReportServices());
-                                        }});
+                       frmDurvela::Navigation{[this]() -> frmCity& { return Picker(); },
+                                              [this](const report::ReportInput& input) {
+                                                MakeReport(input, Preview(), GiveReportServices());
+                                              }});
   }
   return *timetable_;
 }
