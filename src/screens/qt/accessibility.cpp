@@ -13,7 +13,7 @@ bool HasChildren(const QWidget& widget) {
   return widget.findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
 }
 
-// Purely visual: a shape, a line, a picture without words.
+// Purely visual: a shape, a line, or a picture without words.
 bool IsDecoration(QWidget& widget) {
   const auto* painted = qobject_cast<ControlWidget*>(&widget);
   return painted != nullptr && painted->Model().kind != forms::Kind::Label &&
@@ -21,28 +21,28 @@ bool IsDecoration(QWidget& widget) {
          QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name).isEmpty();
 }
 
-// A widget that hides its decorations from assistive programs.
+// A widget that hides its decorations from assistive technology.
 class AccessibleContainer : public QAccessibleWidget {
  public:
   using QAccessibleWidget::QAccessibleWidget;
 
-  int childCount() const override { return static_cast<int>(Told().size()); }
+  int childCount() const override { return static_cast<int>(Exposed().size()); }
 
   QAccessibleInterface* child(int index) const override {
-    return QAccessible::queryAccessibleInterface(Told().value(index));
+    return QAccessible::queryAccessibleInterface(Exposed().value(index));
   }
 
   int indexOfChild(const QAccessibleInterface* child) const override {
-    return static_cast<int>(Told().indexOf(qobject_cast<QWidget*>(child->object())));
+    return static_cast<int>(Exposed().indexOf(qobject_cast<QWidget*>(child->object())));
   }
 
  private:
-  QList<QWidget*> Told() const {
-    QList<QWidget*> told;
+  QList<QWidget*> Exposed() const {
+    QList<QWidget*> exposed;
     for (QWidget* child : widget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-      if (!child->isWindow() && !IsDecoration(*child)) told.append(child);
+      if (!child->isWindow() && !IsDecoration(*child)) exposed.append(child);
     }
-    return told;
+    return exposed;
   }
 };
 
@@ -71,13 +71,13 @@ class AccessibleControl : public AccessibleContainer {
 
   // The words of a picture are its description, or its name if it has no other.
   QString text(QAccessible::Text kind) const override {
-    const QString told = AccessibleContainer::text(kind);
+    const QString own = AccessibleContainer::text(kind);
     const ControlWidget* painted = Painted();
     const forms::PicturePtr picture = painted ? painted->Model().picture : nullptr;
-    const auto where =
+    const auto target =
         widget()->accessibleName().isEmpty() ? QAccessible::Name : QAccessible::Description;
-    const QString words = picture && kind == where ? ToQt(forms::WordsOf(*picture)) : QString();
-    return words.isEmpty() ? told : words;
+    const QString words = picture && kind == target ? ToQt(forms::WordsOf(*picture)) : QString();
+    return words.isEmpty() ? own : words;
   }
 
   QStringList actionNames() const override {
@@ -86,7 +86,7 @@ class AccessibleControl : public AccessibleContainer {
     return names;
   }
 
-  // Queued, so that the caller does not wait until the window that it opens is closed.
+  // Queued, so that the caller does not wait for the opened window to close.
   void doAction(const QString& name) override {
     if (name == pressAction() && actionNames().contains(name)) {
       QMetaObject::invokeMethod(
@@ -97,7 +97,7 @@ class AccessibleControl : public AccessibleContainer {
   }
 
  private:
-  // Null while the widget is being destroyed, when this is still called.
+  // Null while the widget is being destroyed; Qt still calls this then.
   ControlWidget* Painted() const { return qobject_cast<ControlWidget*>(object()); }
 };
 

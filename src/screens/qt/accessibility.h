@@ -1,4 +1,4 @@
-// Describes the painted controls to assistive programs.
+// Exposes the painted controls to assistive technology.
 #pragma once
 
 namespace screens::qt {

@@ -61,8 +61,8 @@ QString ScrollBarStyle() {
            Name(palette::kFocus));
 }
 
-// Qt's own windows: the calendar, message boxes and their buttons.
-QString OthersStyle() {
+// Qt's own windows: the calendar, and message boxes with their buttons.
+QString DialogStyle() {
   return QStringLiteral(
              "QWidget#qt_calendar_navigationbar { background: %1; }"
              "QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }"
@@ -86,7 +86,7 @@ QPalette Colours() {
   return colours;
 }
 
-QFont Letters() {
+QFont ProgramFont() {
   QStringList faces;  // for all languages
   for (int language = 0; language <= 4; ++language) {
     faces.append(ToQt(report::display::kLanguageFonts[language].face));
@@ -112,10 +112,10 @@ void DressApplication() {
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
 
   QApplication::setPalette(Colours());
-  qApp->setStyleSheet(InputStyle() + ScrollBarStyle() + ButtonStyle() + OthersStyle());
+  qApp->setStyleSheet(InputStyle() + ScrollBarStyle() + ButtonStyle() + DialogStyle());
 
   // After the style, which applies the theme's fonts to Qt's own widgets.
-  QApplication::setFont(Letters());
+  QApplication::setFont(ProgramFont());
 
   InstallAccessibility();
   foundation::SetUserNames(SystemNames());
@@ -123,7 +123,7 @@ void DressApplication() {
 
 Program::Program() : Program(clock_) {}
 
-Program::Program(const foundation::Clock& clock) : now_(&clock), dashboard(GiveServices()) {
+Program::Program(const foundation::Clock& clock) : now_(&clock), dashboard(MakeServices()) {
   yielder_.show = [this] { host.MirrorAll(); };
   FillMenu();
 }
@@ -144,17 +144,17 @@ void Program::FillMenu() {
 
 frmDurvela& Program::Timetable() {
   if (!timetable_) {
-    timetable_.emplace(GiveServices(), dashboard,
+    timetable_.emplace(MakeServices(), dashboard,
                        frmDurvela::Navigation{[this]() -> frmCity& { return Picker(); },
                                               [this](const report::ReportInput& input) {
-                                                MakeReport(input, Preview(), GiveReportServices());
+                                                MakeReport(input, Preview(), MakeReportServices());
                                               }});
   }
   return *timetable_;
 }
 
 frmAbout& Program::About() {
-  if (!about_) about_.emplace(GiveServices());
+  if (!about_) about_.emplace(MakeServices());
   return *about_;
 }
 
@@ -164,7 +164,7 @@ frmCity& Program::Picker() {
 }
 
 report::frmSPkun& Program::Preview() {
-  if (!preview_) preview_.emplace(GiveReportServices());
+  if (!preview_) preview_.emplace(MakeReportServices());
   return *preview_;
 }
 

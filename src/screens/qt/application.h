@@ -1,4 +1,4 @@
-// The program: all interfaces implemented with Qt, and the forms.
+// The program: its forms, and all interfaces implemented with Qt.
 #pragma once
 
 #include <map>
@@ -42,8 +42,8 @@ class Program {
   InformationScreen& Information(const InformationPage& page);
 
  private:
-  Services GiveServices() { return {*now_, settings_, session_, boxes_, browser_, host}; }
-  report::Services GiveReportServices() {
+  Services MakeServices() { return {*now_, settings_, session_, boxes_, browser_, host}; }
+  report::Services MakeReportServices() {
     return {settings_, session_, boxes_, yielder_, host, rasteriser_, printer_};
   }
   void FillMenu();

@@ -30,7 +30,8 @@ ButtonWidget::ButtonWidget(forms::Control& control, Dispatch dispatch, QWidget* 
   setAutoDefault(true);  // Enter presses it while it has the focus
   setProperty("look", NameOf(control.look));
   connect(this, &QPushButton::clicked, this, [this] {
-    if (control_.tabStop) setFocus(Qt::ShortcutFocusReason);  // another field may have new text
+    // A field that loses the focus commits its text.
+    if (control_.tabStop) setFocus(Qt::ShortcutFocusReason);
     dispatch_(control_.onClick);
   });
   Mirror();
@@ -39,7 +40,7 @@ ButtonWidget::ButtonWidget(forms::Control& control, Dispatch dispatch, QWidget* 
 void ButtonWidget::Mirror() {
   if (!TakeProperties()) return;
   const forms::Properties& now = control_;
-  Dress(*this, control_, PlaceInPixels(control_));
+  ApplyShared(*this, control_, PlaceInPixels(control_));
   const QString face = ToQt(now.caption).remove(u'&');
   setFont(Fitted(ToQt(now.font), face, width() - 2 * kPadding));
   if (const QString caption = ToQt(now.caption); caption != text()) setText(caption);

@@ -1,4 +1,4 @@
-// A calendar that drops down below a field. Its signals `clicked` and `activated` pass on the date
+// A calendar that drops down below a field. Its signals `clicked` and `activated` report the date
 // chosen by mouse or Enter; Escape or a click outside closes it without a choice.
 #pragma once
 

@@ -12,7 +12,7 @@ namespace screens::qt {
 namespace {
 
 constexpr int kEntriesShown = 14;
-constexpr int kArrowInset = 14;          // pixels from the right edge to its middle
+constexpr int kArrowInset = 14;          // pixels from the right edge to the arrow's middle
 constexpr double kLeastLines = 4.0 / 3;  // minimum height in line heights
 
 }  // namespace
@@ -20,7 +20,7 @@ constexpr double kLeastLines = 4.0 / 3;  // minimum height in line heights
 ComboBoxWidget::ComboBoxWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
     : QComboBox(parent), ControlView(control, std::move(dispatch)), name_(new QLabel(parent)) {
   setMaxVisibleItems(kEntriesShown);
-  setItemDelegate(new EntryDelegate(this));  // takes the rows' height from the style sheet
+  setItemDelegate(new EntryDelegate(this));  // applies the style sheet's row height
   control_.items->onEntriesChanged = [self = QPointer(this)] {
     if (self) self->entriesChanged_ = true;
   };
@@ -52,7 +52,7 @@ void ComboBoxWidget::MirrorLook() {
   // Resizing a form enlarges a drop-down's font, but not its height.
   QRect place = PlaceInPixels(control_);
   place.setHeight(qMax(place.height(), qRound(kLeastLines * fontMetrics().height())));
-  Dress(*this, control_, place);
+  ApplyShared(*this, control_, place);
   name_->setText(accessibleName());
 }
 

@@ -24,7 +24,7 @@ class ComboBoxWidget : public QComboBox, public ControlView {
  private:
   void MirrorLook();
 
-  QLabel* name_;  // for assistive programs, which would use the selection as the name
+  QLabel* name_;  // for assistive technology, which would read the selection as the name
   bool entriesChanged_ = true;
 };
 

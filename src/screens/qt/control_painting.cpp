@@ -1,4 +1,4 @@
-// Painting of controls that have no Qt widget of their kind.
+// ControlWidget: painting.
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -13,7 +13,7 @@ namespace screens::qt {
 namespace {
 
 constexpr double kTileRadius = 12;
-constexpr double kTileField = 56;  // of a tile's picture, if the tile is high enough
+constexpr double kTileField = 56;  // of the picture on a tile 112 high
 constexpr double kDisabledOpacity = 0.5;
 constexpr double kFadedOpacity = 0.7;  // still readable
 

@@ -45,7 +45,7 @@ QRect PlaceInPixels(const forms::Control& control) {
   return QRect(left, top, ToPixels(p.left + p.width) - left, ToPixels(p.top + p.height) - top);
 }
 
-void Dress(QWidget& widget, const forms::Control& control, const QRect& place) {
+void ApplyShared(QWidget& widget, const forms::Control& control, const QRect& place) {
   widget.setObjectName(ToQt(control.name));
   widget.setGeometry(place);
   widget.setVisible(control.visible);

@@ -23,13 +23,13 @@ class ControlView {
 
   virtual QWidget& Widget() = 0;
 
-  // Shows what has changed in the control since the last call.
+  // Shows what changed in the control since the last call.
   virtual void Mirror() = 0;
 
   forms::Control& Model() const { return control_; }
 
  protected:
-  // Takes the control's properties; returns whether they differ from those taken last.
+  // Copies the control's properties; returns whether they changed since the last call.
   bool TakeProperties();
 
   forms::Control& control_;
@@ -40,10 +40,10 @@ class ControlView {
 // For any kind except a timer.
 ControlView* MakeView(forms::Control& control, const Dispatch& dispatch, QWidget* parent);
 
-// A control's place in its parent in logical pixels, without anything that its look adds around it.
+// A control's place in its parent in logical pixels, without what its look adds around it.
 QRect PlaceInPixels(const forms::Control& control);
 
-// Sets place, tool tip, state and names, which all kinds share.
-void Dress(QWidget& widget, const forms::Control& control, const QRect& place);
+// Applies what all kinds share: place, tool tip, state and names.
+void ApplyShared(QWidget& widget, const forms::Control& control, const QRect& place);
 
 }  // namespace screens::qt

@@ -23,18 +23,18 @@ void ControlWidget::Mirror() {
   const forms::PicturePtr before = shown_ ? shown_->picture : nullptr;
   if (!TakeProperties()) return;
   const forms::Properties& now = control_;
-  Dress(*this, control_, Geometry());
+  ApplyShared(*this, control_, Geometry());
   if (control_.kind == forms::Kind::Label) {
     setVisible(now.visible && !now.caption.empty());
     const QString caption = ToQt(now.caption);
     if (now.toolTip.empty() && ShownCaption() != caption) setToolTip(caption);
   }
-  // A control without mouse handlers or tool tip lets the mouse through to what is below. A
-  // possible container must not: the mouse would bypass its children too.
-  const bool deaf =
+  // A control without mouse handlers or tool tip lets the mouse through to what is below. A picture
+  // box must not: the mouse would bypass its children too.
+  const bool ignoresMouse =
       !control_.onClick && !control_.onMouseMove && !control_.onMouseDown && !control_.onMouseWheel;
   setAttribute(Qt::WA_TransparentForMouseEvents,
-               deaf && toolTip().isEmpty() && control_.kind != forms::Kind::PictureBox);
+               ignoresMouse && toolTip().isEmpty() && control_.kind != forms::Kind::PictureBox);
   setCursor(now.grabCursor                  ? Qt::ClosedHandCursor
             : now.handCursor && now.enabled ? Qt::PointingHandCursor
                                             : Qt::ArrowCursor);
@@ -42,7 +42,7 @@ void ControlWidget::Mirror() {
   update();
 }
 
-// For a line, the box of its ends with room for its width.
+// A line gets the box around its ends, plus its width.
 QRect ControlWidget::Geometry() const {
   if (control_.kind == forms::Kind::Line) {
     const forms::LineEnds& e = control_.ends;
@@ -57,8 +57,8 @@ void ControlWidget::Click() {
   dispatch_(control_.onClick);
 }
 
-void ControlWidget::TellMouse(const std::function<void(forms::MousePoint)>& handler,
-                              const QMouseEvent& event) {
+void ControlWidget::NotifyMouse(const std::function<void(forms::MousePoint)>& handler,
+                                const QMouseEvent& event) {
   if (!handler) return;
   const QPointF at = event.position() * kTwipsPerPixel;
   const bool shift =
@@ -67,22 +67,22 @@ void ControlWidget::TellMouse(const std::function<void(forms::MousePoint)>& hand
 }
 
 void ControlWidget::mouseMoveEvent(QMouseEvent* event) {
-  TellMouse(control_.onMouseMove, *event);
+  NotifyMouse(control_.onMouseMove, *event);
 }
 
-// Under Wayland programs cannot place windows; only the compositor moves them.
+// Under Wayland only the compositor can move windows.
 void ControlWidget::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   if (control_.dragHandle && QGuiApplication::platformName() == u"wayland") {
     window()->windowHandle()->startSystemMove();
     return;
   }
-  TellMouse(control_.onMouseDown, *event);
+  NotifyMouse(control_.onMouseDown, *event);
 }
 
 void ControlWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  TellMouse(control_.onMouseUp, *event);
+  NotifyMouse(control_.onMouseUp, *event);
   if (rect().contains(event->position().toPoint())) Click();
 }
 

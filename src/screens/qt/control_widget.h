@@ -31,7 +31,7 @@ class ControlWidget : public QWidget, public ControlView {
  private:
   static constexpr int kShadow = 18;  // pixels on each side of a card
 
-  void TellMouse(const std::function<void(forms::MousePoint)>& handler, const QMouseEvent& event);
+  void NotifyMouse(const std::function<void(forms::MousePoint)>& handler, const QMouseEvent& event);
   int Margin() const { return control_.look == forms::Look::Card ? kShadow : 0; }
   QRect Geometry() const;
   QRectF Body() const;  // without the margin
@@ -45,7 +45,7 @@ class ControlWidget : public QWidget, public ControlView {
   void PaintRendered(QPainter& painter, const QRectF& into);
   void PaintCaption(QPainter& painter);
 
-  int wheel_ = 0;     // rotation less than a full step
+  int wheel_ = 0;     // rotation short of a full step
   QPixmap rendered_;  // the picture at the current size
 };
 

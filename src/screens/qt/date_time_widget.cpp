@@ -47,7 +47,7 @@ void DateTimeWidget::Mirror() {
   const bool moved = !shown_ || shown_->moment != control_.moment;
   if (!TakeProperties()) return;
   const forms::Properties& now = control_;
-  Dress(*this, control_, PlaceInPixels(control_));
+  ApplyShared(*this, control_, PlaceInPixels(control_));
   if (!now.refusal.empty()) {
     setToolTip(ToQt(now.refusal));
     setAccessibleDescription(ToQt(now.refusal));
@@ -74,8 +74,8 @@ void DateTimeWidget::ShowMoment() {
   typed_ = false;
 }
 
-// Month names are in composed form; typed or pasted text may not be, and may contain line ends.
-bool DateTimeWidget::Take() {
+// Month names are in composed form; typed or pasted text may not be, and may contain line breaks.
+bool DateTimeWidget::Commit() {
   if (!typed_) return true;
   const QString typed = text().simplified().normalized(QString::NormalizationForm_C);
   dispatch_([&] { forms::TypeMoment(control_, typed.toStdString()); });
@@ -87,7 +87,7 @@ bool DateTimeWidget::Take() {
 // Steps the part at the cursor or at the start of the selection.
 void DateTimeWidget::stepBy(int steps) {
   const int part = PartAtCursor();
-  if (!Take()) return;
+  if (!Commit()) return;
   dispatch_([&] { forms::StepMoment(control_, part, steps); });
   SelectPart(part);
 }
@@ -113,12 +113,12 @@ void DateTimeWidget::SelectPart(int part) {
 }
 
 void DateTimeWidget::DropDown() {
-  Take();
+  Commit();
   const foundation::DateTimeFields at = foundation::FieldsOf(control_.moment);
   calendar_->DropDown(QDate(at.year, at.month, at.day));
 }
 
-// The style sheet has no arrows: one for the calendar, or two for stepping.
+// Adds the arrows, which the style sheet leaves out: one for the calendar, or two for stepping.
 void DateTimeWidget::paintEvent(QPaintEvent* event) {
   QAbstractSpinBox::paintEvent(event);
   QPainter painter(this);
@@ -141,7 +141,7 @@ void DateTimeWidget::keyPressEvent(QKeyEvent* event) {
     DropDown();
     return;
   }
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) Take();
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) Commit();
   QAbstractSpinBox::keyPressEvent(event);
 }
 
@@ -154,8 +154,8 @@ void DateTimeWidget::mousePressEvent(QMouseEvent* event) {
   }
 }
 
-// Selects the text, so that typing replaces it, unless the mouse places the cursor or text is half
-// typed.
+// Selects the text, so that typing replaces it, unless the mouse places the cursor or the text is
+// half typed.
 void DateTimeWidget::focusInEvent(QFocusEvent* event) {
   QAbstractSpinBox::focusInEvent(event);
   const bool byKey =
@@ -169,10 +169,10 @@ void DateTimeWidget::focusOutEvent(QFocusEvent* event) {
   if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason) {
     return;
   }
-  Take();
+  Commit();
 }
 
-// Reacts to the wheel only with the focus.
+// Reacts to the wheel only while it has the focus.
 void DateTimeWidget::wheelEvent(QWheelEvent* event) {
   if (hasFocus()) {
     QAbstractSpinBox::wheelEvent(event);

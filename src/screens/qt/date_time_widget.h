@@ -1,5 +1,5 @@
-// A picker of a date, with a drop-down calendar, or of a time of day. The text is typed freely and
-// taken over by Enter or when the focus leaves.
+// A picker of a date, with a drop-down calendar, or of a time of day. Typed text takes effect on
+// Enter or when the focus leaves.
 #pragma once
 
 #include <QAbstractSpinBox>
@@ -32,14 +32,14 @@ class DateTimeWidget : public QAbstractSpinBox, public ControlView {
   bool IsDate() const { return control_.kind == forms::Kind::DatePicker; }
   QString Longest() const;
   void ShowMoment();
-  bool Take();  // takes over the text; returns whether it was valid
+  bool Commit();  // reads the typed text; returns whether it was valid
   void DropDown();
   bool Separates(QChar character) const;  // between two parts of the text
   int PartAtCursor() const;
   void SelectPart(int part);
 
-  bool typed_ = false;                 // has text that was not taken over yet
-  CalendarPopup* calendar_ = nullptr;  // only of a date
+  bool typed_ = false;                 // the text is not committed yet
+  CalendarPopup* calendar_ = nullptr;  // null for a time
 };
 
 }  // namespace screens::qt

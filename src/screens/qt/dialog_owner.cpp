@@ -32,7 +32,7 @@ RunningHandler::~RunningHandler() {
   Running().pop_back();
 }
 
-// Sets the owner only on the native window, so that the dialog stays if the owner closes.
+// Sets the owner only on the native window, so that the dialog stays open if the owner closes.
 void GiveOwner(QDialog& dialog) {
   dialog.winId();
   dialog.windowHandle()->setTransientParent(Owner());

@@ -5,7 +5,7 @@
 
 namespace screens::qt {
 
-// Rows are as wide as their list. Text that is too long is elided and shown in a tool tip.
+// Rows are as wide as their list; longer text is elided and shown in a tool tip.
 class EntryDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;

@@ -6,8 +6,8 @@
 namespace screens::qt {
 namespace {
 
-constexpr int kSecond = 1000;    // milliseconds
-constexpr int kPastTheTurn = 5;  // so that the clock has turned when the handler reads it
+constexpr int kSecond = 1000;  // milliseconds
+constexpr int kMargin = 5;     // so that the handler reads the new second
 
 }  // namespace
 
@@ -37,7 +37,7 @@ void FormTimer::Schedule() {
   int wait = interval_;
   if (interval_ % kSecond == 0) {
     const auto past = static_cast<int>(QDateTime::currentMSecsSinceEpoch() % kSecond);
-    wait += kPastTheTurn - past;
+    wait += kMargin - past;
   }
   timer_.start(wait);
 }

@@ -1,5 +1,5 @@
-// A timer of a form. Intervals of whole seconds are aligned with the clock, so that a displayed
-// clock never skips a second. A handler that is still running is not called again.
+// A form's timer. Intervals of whole seconds are aligned with the clock, so that a displayed clock
+// never skips a second. A handler that is still running is not called again.
 #pragma once
 
 #include <QTimer>
@@ -18,7 +18,7 @@ class FormTimer : public QObject {
   // Follows the control's interval and enabled state.
   void Mirror();
 
-  // Cannot be started again.
+  // Stops until the next Mirror.
   void Stop();
 
  private:

@@ -108,7 +108,7 @@ void FormWindow::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) fitted_ = false;
 }
 
-// By the first paint the desktop has added the frame.
+// The desktop has added the frame by the first paint.
 void FormWindow::paintEvent(QPaintEvent*) {
   if (!std::exchange(fitted_, true)) {
     QMetaObject::invokeMethod(
@@ -172,7 +172,7 @@ void FormWindow::leaveEvent(QEvent*) {
   Dispatch("Form_MouseLeave", [this] { form_.Form_MouseLeave(); });
 }
 
-// Checks again once Qt has settled: a drop-down of this window does not count as another window.
+// Checks later, when Qt has settled: a drop-down of this window does not count as another window.
 void FormWindow::ActivationChanged() {
   if (isActiveWindow()) active_ = true;
   if (isActiveWindow() || !active_) return;
@@ -186,7 +186,7 @@ void FormWindow::ActivationChanged() {
       Qt::QueuedConnection);
 }
 
-// Keys of controls have already passed the event filter.
+// The event filter has already handled keys of controls.
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   const bool seen = ViewOf(focusWidget()) != nullptr;
   if (seen || !PressKey(*event, nullptr)) QWidget::keyPressEvent(event);

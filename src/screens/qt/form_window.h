@@ -19,19 +19,19 @@ class FormWindow : public QWidget {
  public:
   explicit FormWindow(forms::Form& form);
 
-  // Shows what has changed in the form and its controls.
+  // Shows what changed in the form and its controls.
   void Mirror();
 
   bool IsRetired() const { return retired_; }
 
-  // Hides the window and detaches it from its form: no events or timers reach the form any more.
+  // Hides the window and detaches it from its form, which receives no more events or timer ticks.
   // The window is deleted once none of its handlers is running.
   void Retire();
 
  signals:
-  void ClosedByUser();  // unless the form objected
+  void ClosedByUser();  // and the form did not cancel
   void Hidden();        // by the program or by closing, not by minimising
-  void HandlerDone();   // it may have changed other forms too
+  void HandlerDone();   // other forms may have changed too
 
  protected:
   void showEvent(QShowEvent*) override;

@@ -1,4 +1,4 @@
-// How a window shows what its form has changed.
+// FormWindow: showing the form's changes.
 
 #include <utility>
 

@@ -22,7 +22,7 @@ constexpr int kRowHeight = 28;  // pixels, or more if the font needs it
 constexpr int kRowMargin = 8;
 constexpr double kChosenOpacity = 0.3;
 constexpr double kHoverOpacity = 0.4;
-constexpr int kShownEvery = 50;  // milliseconds
+constexpr int kRefreshInterval = 50;  // milliseconds
 
 // Draws rows: the matching prefix bold, the selected row gold.
 class RowDelegate : public EntryDelegate {
@@ -113,10 +113,10 @@ ListBoxWidget::ListBoxWidget(forms::Control& control, Dispatch dispatch, QWidget
   setMouseTracking(true);
   setFrameShape(QFrame::NoFrame);
 
-  soon_.setSingleShot(true);
-  connect(&soon_, &QTimer::timeout, this, [this] { dispatch_([] {}); });
+  refresh_.setSingleShot(true);
+  connect(&refresh_, &QTimer::timeout, this, [this] { dispatch_([] {}); });
   control_.items->onEntriesChanged = [self = QPointer(this)] {
-    if (self) self->TakeNoteOfChange();
+    if (self) self->ScheduleMirror();
   };
   // A click on the selected entry counts as well.
   connect(this, &QListView::clicked, this, [this](const QModelIndex& index) {
@@ -127,9 +127,9 @@ ListBoxWidget::ListBoxWidget(forms::Control& control, Dispatch dispatch, QWidget
   Mirror();
 }
 
-void ListBoxWidget::TakeNoteOfChange() {
+void ListBoxWidget::ScheduleMirror() {
   entriesChanged_ = true;
-  if (!soon_.isActive()) soon_.start(kShownEvery);
+  if (!refresh_.isActive()) refresh_.start(kRefreshInterval);
 }
 
 void ListBoxWidget::Mirror() {
@@ -144,13 +144,13 @@ void ListBoxWidget::Mirror() {
   if (control_.emphasis != searched) scrollTo(currentIndex(), PositionAtTop);
 }
 
-// At a new size the same row stays on top, and the selection in view.
+// A new size keeps the same row on top and the selection in view.
 void ListBoxWidget::MirrorLook() {
   const auto measures = [this] { return std::pair(size(), font().pixelSize()); };
   const auto before = measures();
   const QModelIndex first = indexAt({0, 0}), chosen = currentIndex();
   const bool inView = viewport()->rect().contains(visualRect(chosen).center());
-  Dress(*this, control_, PlaceInPixels(control_));
+  ApplyShared(*this, control_, PlaceInPixels(control_));
   setFont(ToQt(control_.font));
   viewport()->update();
   if (measures() == before) return;
@@ -159,9 +159,9 @@ void ListBoxWidget::MirrorLook() {
   if (inView) scrollTo(chosen);
 }
 
-// While entries arrive, the user may scroll through those present.
+// Keeps the scroll position: the user may scroll while entries arrive.
 void ListBoxWidget::MirrorEntries() {
-  soon_.stop();
+  refresh_.stop();
   const int before = model_.rowCount(), scrolled = verticalScrollBar()->value();
   const bool chosen = currentIndex().isValid();
   model_.Recount();
@@ -197,7 +197,7 @@ void ListBoxWidget::paintEvent(QPaintEvent* event) {
                    ToQt(control_.whenEmpty));
 }
 
-// QListView would make the first entry current.
+// Without a current entry, QListView would make the first one current.
 void ListBoxWidget::focusInEvent(QFocusEvent* event) {
   if (currentIndex().isValid()) {
     QListView::focusInEvent(event);

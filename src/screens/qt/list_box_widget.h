@@ -1,4 +1,4 @@
-// A list box for any number of entries: only visible rows are drawn.
+// A list box for any number of entries; draws only visible rows.
 #pragma once
 
 #include <QAbstractListModel>
@@ -9,7 +9,7 @@
 
 namespace screens::qt {
 
-// The number of entries at the last count; texts are read when they are drawn.
+// Knows only the number of entries at the last count; reads texts when they are drawn.
 class EntriesModel : public QAbstractListModel {
   Q_OBJECT
 
@@ -46,13 +46,13 @@ class ListBoxWidget : public QListView, public ControlView {
   void selectionChanged(const QItemSelection& selected, const QItemSelection& former) override;
 
  private:
-  void TakeNoteOfChange();
+  void ScheduleMirror();
   void MirrorEntries();
   void MirrorSelection();
   void MirrorLook();
 
   EntriesModel model_;
-  QTimer soon_;            // batches entries that arrive one by one
+  QTimer refresh_;         // batches entries that arrive one by one
   int chosenBefore_ = -1;  // before the last press
   bool entriesChanged_ = true;
   bool mirroring_ = false;

@@ -7,7 +7,7 @@ namespace screens::qt {
 
 class QtClipboard : public forms::Clipboard {
  public:
-  // Stores pixels. Returns false for a null picture too.
+  // Sets the picture as pixels. Returns false on failure and for a null picture.
   bool SetPicture(const forms::PicturePtr& picture) override;
 };
 

@@ -14,8 +14,8 @@ QtHost::~QtHost() {
   for (const auto& [form, window] : windows_) delete window;
 }
 
-// Creates the window before loading the form, so that a form which runs the event loop while
-// loading is not loaded twice.
+// Creates the window before loading the form: a form that runs the event loop while loading must
+// not be loaded twice.
 FormWindow& QtHost::WindowOf(forms::Form& form) {
   if (const auto found = windows_.find(&form); found != windows_.end()) return *found->second;
   auto* window = new FormWindow(form);
@@ -66,16 +66,16 @@ void QtHost::ShowModal(forms::Form& form, forms::Form& owner) {
   window->setScreen(behind.screen());
   FitOnScreen(*window);
   CentreOn(behind, *window);
-  QEventLoop until;
-  QObject::connect(window, &FormWindow::Hidden, &until, &QEventLoop::quit);
-  QObject::connect(window, &QObject::destroyed, &until, &QEventLoop::quit);
+  QEventLoop loop;
+  QObject::connect(window, &FormWindow::Hidden, &loop, &QEventLoop::quit);
+  QObject::connect(window, &QObject::destroyed, &loop, &QEventLoop::quit);
   window->show();
   // Its first events may have unloaded it before it could be hidden.
   if (!window) return;
   if (window->IsRetired()) {
     window->hide();
   } else {
-    until.exec();
+    loop.exec();
   }
 }
 

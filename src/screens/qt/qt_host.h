@@ -27,10 +27,11 @@ class QtHost : public forms::FormHost {
   forms::DrawingTarget& TargetOf(forms::Control& pictureBox) override;
   void ForgetTarget(forms::Control& pictureBox) override { pages_.erase(&pictureBox); }
 
-  // Shows what has changed in any form.
+  // Shows what changed in any form.
   void MirrorAll() { MirrorOthers(nullptr); }
 
-  // The window of a form. Creates it and loads the form at the first call and after an unload.
+  // The window of a form. The first call, and the first after an unload, creates it and loads the
+  // form.
   FormWindow& WindowOf(forms::Form& form);
 
  private:

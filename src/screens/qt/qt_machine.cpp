@@ -46,8 +46,8 @@ foundation::MessageAnswer QtMessageBoxes::Show(std::string_view text, foundation
 }
 
 void QtYielder::Yield() {
-  constexpr qint64 kShownEvery = 50;  // milliseconds
-  if (show && (!shown_.isValid() || shown_.elapsed() >= kShownEvery)) {
+  constexpr qint64 kRefreshInterval = 50;  // milliseconds
+  if (show && (!shown_.isValid() || shown_.elapsed() >= kRefreshInterval)) {
     shown_.start();
     show();
   }

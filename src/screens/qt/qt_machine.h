@@ -1,4 +1,4 @@
-// The machine's clock, message boxes, event loop and browser, by Qt.
+// The machine's clock, message boxes, event loop and browser, implemented with Qt.
 #pragma once
 
 #include <QElapsedTimer>
@@ -24,7 +24,7 @@ class QtMessageBoxes : public foundation::MessageBoxes {
 
 class QtYielder : public foundation::Yielder {
  public:
-  // Shows what has changed meanwhile; called several times a second.
+  // Called several times a second to show what has changed.
   std::function<void()> show;
 
   void Yield() override;

@@ -57,7 +57,7 @@ QBrush ToQt(const forms::Fill& fill) {
   return screens::qt::ToQt(std::get<forms::Colour>(fill));
 }
 
-// Pixels are drawn by the caller, which knows the picture's size.
+// The caller draws pixels, since it knows the picture's size.
 void Paint(QPainter&, const forms::Dots&) {}
 
 void Paint(QPainter& painter, const forms::Outline& outline) {
@@ -80,7 +80,7 @@ bool IsStandInForLegacyHindi(const forms::Font& font) {
   return font.name == foundation::kLegacyHindiFace && !installed;
 }
 
-// Without its font, text in the legacy encoding would show as Latin letters.
+// Without its font, text in the legacy encoding would appear as Latin letters.
 QString Readable(std::string_view text, const forms::Font& font) {
   const bool legacy = IsStandInForLegacyHindi(font);
   return screens::qt::ToQt(legacy ? foundation::FromLegacyHindi(text) : std::string(text));
@@ -113,7 +113,7 @@ void Paint(QPainter& painter, const forms::Inset& inset) {
   PaintPicture(painter, *inset.picture, QRectF(inset.at.x, inset.at.y, inset.width, inset.height));
 }
 
-// Faces named by forms that the program's font replaces.
+// Non-free faces that forms name and the program's font replaces.
 bool HasOpenStandIn(std::string_view face) {
   return face == "Arial" || face == "Tahoma";
 }
@@ -194,9 +194,9 @@ void PaintPicture(QPainter& painter, const forms::Picture& picture, const QRectF
   painter.translate(into.topLeft());
   painter.scale(into.width() / picture.width, into.height() / picture.height);
   for (const auto& item : picture.items) {
-    if (const auto* dots = std::get_if<forms::Dots>(&item)) {
+    if (const auto* pixels = std::get_if<forms::Dots>(&item)) {
       painter.setRenderHint(QPainter::SmoothPixmapTransform);
-      painter.drawImage(QRectF(0, 0, picture.width, picture.height), ImageOf(*dots->raster));
+      painter.drawImage(QRectF(0, 0, picture.width, picture.height), ImageOf(*pixels->raster));
     } else {
       std::visit([&](const auto& drawn) { Paint(painter, drawn); }, item);
     }

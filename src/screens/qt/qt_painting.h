@@ -24,12 +24,12 @@ int ToPixels(double twips);
 QColor ToQt(forms::Colour colour);
 QString ToQt(std::string_view utf8);
 
-// The size follows the form's twips, not the screen resolution. Faces that are not free are
-// replaced by the program's.
+// The size follows the form's twips, not the screen resolution. Non-free faces are replaced by
+// the program's own.
 QFont ToQt(const forms::Font& font);
 
-// The font, reduced until the text fits on one line or wrapped into a box, but never below the
-// smallest readable size.
+// The font, reduced until the text fits a line or, wrapped, a box; never below the smallest
+// readable size.
 QFont Fitted(QFont font, const QString& text, double width);
 QFont FittedInto(QFont font, const QString& text, QSizeF box);
 
@@ -51,7 +51,7 @@ void PaintArrow(QPainter& painter, QPointF middle, int direction);
 // Shares the raster's pixels, which must outlive the image.
 QImage ImageOf(const forms::Raster& raster);
 
-// The picture as pixels, on white.
+// Renders the picture on white.
 forms::Raster Rasterise(const forms::Picture& picture, QSize size);
 
 QIcon ToIcon(const forms::Picture& picture);

@@ -17,22 +17,22 @@ namespace {
 constexpr double kTwipsPerInch = 72 * kTwipsPerPoint;
 constexpr float kLargestPaper = 48 * static_cast<float>(kTwipsPerInch);  // never clips
 
-// All pages are printed in order. Finds the widgets by name: the dialog has no option for the order
-// and shows a range even without PrintPageRange.
-void OfferAllPagesOnly(const QPrintDialog& dialog) {
+// Documents print complete and in order. The widgets are found by name: the dialog has no option
+// for the order and shows a range even without PrintPageRange.
+void OfferOnlyAllPages(const QPrintDialog& dialog) {
   for (const char* choice : {"gbPrintRange", "reverse"}) {
     if (auto* widget = dialog.findChild<QWidget*>(QLatin1String(choice))) widget->setEnabled(false);
   }
 }
 
-// The dialog proposes a file only on some platforms.
+// On some platforms the dialog proposes no file itself.
 void ProposeFile(const QPrintDialog& dialog, const QString& name) {
   auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
   if (file != nullptr) file->setText(QDir::home().filePath(name + QStringLiteral(".pdf")));
 }
 
 // QPrinter does not notice a short write.
-bool IsWhole(const QString& pdf) {
+bool IsComplete(const QString& pdf) {
   QFile file(pdf);
   constexpr qint64 kEnd = 8;  // bytes, with line ends
   return file.open(QIODevice::ReadOnly) && file.seek(file.size() - kEnd) &&
@@ -45,9 +45,9 @@ forms::Raster QtRasteriser::Render(const forms::Picture& picture) const {
   const double ratio = qGuiApp->devicePixelRatio();
   const QSize size(qRound(picture.width / kTwipsPerPixel * ratio),
                    qRound(picture.height / kTwipsPerPixel * ratio));
-  forms::Raster dots = Rasterise(picture, size);
-  dots.dotsPerInch *= ratio;
-  return dots;
+  forms::Raster pixels = Rasterise(picture, size);
+  pixels.dotsPerInch *= ratio;
+  return pixels;
 }
 
 forms::Control QtPrinter::Paper() {
@@ -75,7 +75,7 @@ void QtPrinter::SetDocumentName(std::string_view name) {
 void QtPrinter::AskUser() {
   if (!pdfFile_.isEmpty()) return;
   QPrintDialog dialog(&Device());
-  OfferAllPagesOnly(dialog);
+  OfferOnlyAllPages(dialog);
   ProposeFile(dialog, documentName_);
   GiveOwner(dialog);
   if (dialog.exec() != QDialog::Accepted) {
@@ -113,7 +113,7 @@ void QtPrinter::Print(std::string_view text) {
   if (!text.empty()) page_.Print(text);
 }
 
-void QtPrinter::Release() {
+void QtPrinter::FlushPage() {
   const forms::PicturePtr drawn = paper_.picture;
   page_.Cls();
   if (!drawn || drawn->items.empty()) return;
@@ -124,19 +124,19 @@ void QtPrinter::Release() {
 }
 
 void QtPrinter::NewPage() {
-  Release();
+  FlushPage();
 }
 
 void QtPrinter::EndDoc() {
-  const auto forget = qScopeGuard([this] {
+  const auto cleanup = qScopeGuard([this] {
     painter_.reset();
     printer_.reset();
   });
-  Release();
+  FlushPage();
   if (!painter_) return;
   painter_->end();
   const QString file = Device().outputFileName();
-  if (!file.isEmpty() && !IsWhole(file)) throw Refusal();
+  if (!file.isEmpty() && !IsComplete(file)) throw Refusal();
 }
 
 }  // namespace screens::qt

@@ -19,8 +19,8 @@ class QtRasteriser : public forms::Rasteriser {
   forms::Raster Render(const forms::Picture& picture) const override;
 };
 
-// Qt's printer and print dialog. A page is recorded as a picture and printed when it is complete,
-// unless nothing was drawn on it.
+// Qt's printer and print dialog. Records each page as a picture and prints it when complete, unless
+// it is empty.
 class QtPrinter : public forms::Printer {
  public:
   QtPrinter() = default;
@@ -30,7 +30,7 @@ class QtPrinter : public forms::Printer {
   void SetDocumentName(std::string_view name) override;
   void AskUser() override;
   void SetOrientation(forms::Orientation orientation) override;
-  // Both print the page; FileAccess if the printer does not accept it.
+  // Both print the page; FileAccess if the printer rejects it.
   void NewPage() override;
   void EndDoc() override;
 
@@ -56,7 +56,7 @@ class QtPrinter : public forms::Printer {
                     double height) override {
     page_.PaintPicture(picture, x, y, width, height);
   }
-  // Opens the document. FileAccess if the printer does not accept one.
+  // Opens the document. FileAccess if the printer rejects it.
   void Print(std::string_view text) override;
   double TextWidth(std::string_view text) const override { return page_.TextWidth(text); }
   double TextHeight(std::string_view text) const override { return page_.TextHeight(text); }
@@ -65,14 +65,14 @@ class QtPrinter : public forms::Printer {
   QPrinter& Device();
   foundation::Error Refusal();  // names the file or the printer
   void Open();
-  void Release();
+  void FlushPage();
 
   QString pdfFile_;
   QString documentName_;
   QtTextMeasure measure_;
   forms::Control paper_ = Paper();
   forms::PicturePage page_{paper_, measure_};
-  std::unique_ptr<QPrinter> printer_;  // until the document ends, even by an error
+  std::unique_ptr<QPrinter> printer_;  // until the document ends, even with an error
   std::unique_ptr<QPainter> painter_;  // while a document is open
   bool begun_ = false;                 // a page has been printed
 

@@ -12,7 +12,7 @@
 namespace screens::qt {
 namespace {
 
-// Timers keep running below the message box; their errors are ignored.
+// Timers keep running behind the message box; their errors are ignored.
 void EndWith(const std::string& reason) {
   static bool ending = false;
   if (std::exchange(ending, true)) return;

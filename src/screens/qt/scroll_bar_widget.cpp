@@ -16,7 +16,7 @@ ScrollBarWidget::ScrollBarWidget(forms::Control& control, Dispatch dispatch, QWi
 void ScrollBarWidget::Mirror() {
   if (!TakeProperties()) return;
   const forms::Properties& now = control_;
-  Dress(*this, control_, PlaceInPixels(control_));
+  ApplyShared(*this, control_, PlaceInPixels(control_));
   mirroring_ = true;
   setRange(now.scroll.minimum, now.scroll.maximum);
   setSingleStep(now.scroll.smallChange);

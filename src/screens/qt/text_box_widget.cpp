@@ -27,7 +27,7 @@ TextBoxWidget::TextBoxWidget(forms::Control& control, Dispatch dispatch, QWidget
 void TextBoxWidget::Mirror() {
   if (!TakeProperties()) return;
   const forms::Properties& now = control_;
-  Dress(*this, control_, PlaceInPixels(control_));
+  ApplyShared(*this, control_, PlaceInPixels(control_));
   setFont(ToQt(now.font));
   setPlaceholderText(ToQt(now.whenEmpty));
   if (const QString text = ToQt(now.caption); text != this->text()) setText(text);
@@ -54,8 +54,8 @@ void TextBoxWidget::paintEvent(QPaintEvent* event) {
                    ToQt(control_.trailing));
 }
 
-// Selects the whole text on any focus. After a click this must wait for the release, which places
-// the cursor.
+// Selects all text when it gets the focus. A click then places the cursor, so its release selects
+// again.
 void TextBoxWidget::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
   clickedInto_ = event->reason() == Qt::MouseFocusReason;

@@ -24,7 +24,7 @@ class TextBoxWidget : public QLineEdit, public ControlView {
  private:
   QFont RemarkFont() const;
 
-  bool clickedInto_ = false;  // the button that gave the focus is still down
+  bool clickedInto_ = false;  // the click that gave it the focus is not released yet
 };
 
 }  // namespace screens::qt

@@ -5,8 +5,8 @@
 
 namespace screens::qt {
 
-// The largest inside of a window whose frame still fits on the screen, in logical pixels. A window
-// that is not shown yet is assumed to get the same frame as the program's other windows.
+// The largest size of a window, without its frame, that fits on the screen, in logical pixels. A
+// window not shown yet is assumed to get the same frame as the program's other windows.
 QSize RoomOnScreen(const QWidget& window);
 
 // Shrinks a window to its screen; if it is visible, also moves it back onto the screen.
