@@ -31,7 +31,7 @@ TEST_F(CityPicker, OpensOnTheCallersPlace) {
   EXPECT_EQ(Chosen() + form.txtCity.trailing, "Delhi, Delhi, India4 places");
 }
 
-TEST_F(CityPicker, FollowsWhatIsTypedAndTheArrows) {
+TEST_F(CityPicker, FollowsTypingAndArrows) {
   form.Load("India", "Delhi", caller);
   const auto typed = [&](const char* text) {
     SetText(form.txtCity, text);
@@ -64,7 +64,7 @@ TEST_F(CityPicker, WritesThePlaceIntoTheCallersLabels) {
   EXPECT_EQ(PlaceOf(caller), "Atlantis Poseidonis(Old) 31.15N 24.16W 0.0W  ");
 }
 
-TEST_F(CityPicker, LeavesTheLabelsAtAnyOtherEnd) {
+TEST_F(CityPicker, LeavesTheLabelsUnchangedIfCancelled) {
   form.Load("India", "Bom", caller);
   const std::string before = PlaceOf(caller);
   Press(forms::Key::Escape);
@@ -84,14 +84,14 @@ TEST_F(CityPicker, CannotAcceptWithoutAChoice) {
   Choose("Void");
   EXPECT_EQ(form.lstCity.whenEmpty + form.txtCity.trailing, "No places here.");
   EXPECT_ERROR(InvalidCall, Press(forms::Key::Enter));
-  // Nor with a number that does not fit 16 bits.
+  // A record number beyond 16 bits fails too.
   Choose("India");
   SetText(form.txtCity, "Ujjain");
   form.lstCity.items->SetItemData(form.lstCity.items->ListIndex(), 32767);
   EXPECT_ERROR(Overflow, Press(forms::Key::Enter));
 }
 
-TEST_F(CityPicker, HoldsTheCountryChosenLastWhateverComesInBetween) {
+TEST_F(CityPicker, EndsWithTheCountryChosenLast) {
   yielder.between = [&](int turn) {
     EXPECT_EQ(form.txtCity.trailing, "loading…");
     SetText(form.txtCity, turn % 2 == 0 ? "N" : "Nad");

@@ -16,7 +16,7 @@ TEST(DashboardForm, AsksBeforeItEnds) {
   EXPECT_THROW(d.form.Form_QueryUnload(cancel), support::ProgramEnded);
 }
 
-TEST(DashboardForm, LightsTheMenuItemUnderTheMouse) {
+TEST(DashboardForm, HighlightsTheMenuItemUnderTheMouse) {
   Dashboard d;
   const auto lit = [&](int i) { return d.form.PIC[i].hot && d.form.LBL[i].font.underline; };
   d.form.LBL[3].onMouseMove({});

@@ -22,15 +22,15 @@ std::string WordsAt(int hour, const char* latitude = "28.40N") {
   return WordsOf(*SkyPicture(SceneAt(hour, 0, latitude), 840, 560));
 }
 
-// A Saturday: its third part, its eighth and its sixth.
-TEST(DayScene, ShowsTheCalendarDayAlsoBeforeSunrise) {
+// On a Saturday, Durvela is the third part, Gulik the eighth and Yum the sixth.
+TEST(DayScene, ShowsTheCalendarDayEvenBeforeSunrise) {
   for (const int hour : {0, 6, 12, 23}) {
     EXPECT_EQ(WordsAt(hour),
               "06:43 18:23\nDurvela\n09:38 - 11:06\nGulik\n16:55 - 18:23\nYum\n14:00 - 15:28");
   }
 }
 
-// Days whose periods were worked out independently, to the second.
+// The comments give the periods to the second, worked out independently.
 TEST(DayScene, RoundsPeriodsOutward) {
   const auto labels = [](const char* latitude, const char* longitude, int year, int month,
                          int day) {
@@ -47,7 +47,7 @@ TEST(DayScene, RoundsPeriodsOutward) {
              Row("19.04N", "72.52E", 2037, 3, 13, "11:18 - 12:48, 08:18 - 09:48, 15:48 - 17:18"));
 }
 
-TEST(DayScene, PutsTheSunWhereItStands) {
+TEST(DayScene, PlacesTheSunByTheTime) {
   EXPECT_NEAR(SceneAt(6, 42).sun, 2 - 1 / 740.0, 1e-9);  // of 740 minutes of night
   EXPECT_NEAR(SceneAt(6, 43).sun, 0, 1e-9);
   EXPECT_NEAR(SceneAt(12, 33).sun, 0.5, 1e-9);
@@ -55,7 +55,7 @@ TEST(DayScene, PutsTheSunWhereItStands) {
   EXPECT_NEAR(SceneAt(18, 24).sun, 1 + 1 / 740.0, 1e-9);
 }
 
-TEST(DayScene, IsUndividedWhereThereIsNoSunriseToGoBy) {
+TEST(DayScene, IsUndividedBeyond63Degrees) {
   for (const char* latitude : {"64.00N", "89.59N"}) {
     EXPECT_EQ(WordsAt(12, latitude), "Daylight is not divided here today");
   }
@@ -70,7 +70,7 @@ TEST(SkyPicture, NamesThePeriodsReadablyAtAnySize) {
       if (text == nullptr) continue;
       EXPECT_GE(text->size, 10);  // 7.5 points
       EXPECT_TRUE(text->at.x > 0 && text->at.x < width);
-      // Clear of the clock, which spans 213 to 334 of 560 in the middle of the arc.
+      // Clear of the clock, which takes 213 to 334 of 560 in the middle of the arc.
       const bool beside = std::abs(text->at.x - 290 * width / 840) > 100 * width / 840;
       const bool above = text->at.y < 213 * height / 560;
       EXPECT_TRUE(beside || above) << text->text << " at " << width << " by " << height;

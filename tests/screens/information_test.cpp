@@ -34,7 +34,7 @@ TEST(InformationScreens, ShowThePartsOfTheirOwnPeriods) {
             table(WhatIsPage()) + "\n" + table(GulikPage()) + "\n" + table(YumPage()));
 }
 
-TEST(PeriodPictures, TellTheTableAndTheSampleDay) {
+TEST(PeriodPictures, ShowTheTableAndTheSampleDay) {
   EXPECT_EQ(WordsOf(*WeekdayTable({Period::Durvela, Period::Yum})),
             "Sun Mon Tue Wed Thu Fri Sat\nDurvela 8 2 7 5 6 4 3\nYum 5 4 3 2 8 7 6");
   EXPECT_EQ(WordsOf(*SampleDay({Period::Gulik})),
@@ -44,7 +44,7 @@ TEST(PeriodPictures, TellTheTableAndTheSampleDay) {
             "Yum 14:00 - 15:28\n06:43 18:23\nSaturday, 5-3-2011, Delhi");
 }
 
-TEST(About, NamesWhoseWorkItUses) {
+TEST(About, CreditsTheWorkItUses) {
   const std::string credits = WordsOf(*CreditsPicture());
   for (const char* credit : {"GeoNames", "CC BY 4.0", "Qt 6", "Noto Sans"}) {
     EXPECT_NE(credits.find(credit), std::string::npos) << credit;
@@ -60,16 +60,16 @@ TEST(About, ScrollsItsCreditsUntilTheMouseIsOverThem) {
   EXPECT_EQ(credits.top, top - 5);
   credits.top = 6 - credits.height;
   form.Timer1.onTimer();
-  EXPECT_EQ(credits.top, 1 - credits.height);  // a little of them still shows
+  EXPECT_EQ(credits.top, 1 - credits.height);  // a strip of them is still visible
   form.Timer1.onTimer();
-  EXPECT_EQ(credits.top, 2592);  // the foot of their frame
+  EXPECT_EQ(credits.top, 2592);  // the bottom of their frame
   form.picS.onMouseMove({});
   EXPECT_FALSE(form.Timer1.enabled);
   form.Picture1.onMouseMove({});
   EXPECT_TRUE(form.Timer1.enabled);
 }
 
-TEST(About, BringsItsCreditsInAtTheFootOfTheirFrameAtAnySize) {
+TEST(About, RestartsItsCreditsAtTheBottomOfTheirFrameAtAnySize) {
   Fakes fakes;
   frmAbout form(fakes.services);
   form.Form_Load();

@@ -1,4 +1,4 @@
-// A city picker with fakes, its own atlas and a dashboard that takes the result.
+// A city picker with fakes, its own atlas and a dashboard that receives the result.
 #pragma once
 
 #include "atlas/clsAtlas.h"
@@ -23,7 +23,7 @@ struct Picker : Fakes {
 
  private:
   static atlas::clsAtlas& Filled(const support::AppFolderScope& folder, atlas::clsAtlas& atlas) {
-    // In no order.
+    // Unsorted.
     const atlas::PlaceRecord places[] = {
         {"Ujjain", "Ujjain", "Madhya Pradesh", "23.11", "N", "75.47", "E"},
         {"Bombay", "Mumbai", "Maharashtra", "18.58", "N", "72.50", "E"},

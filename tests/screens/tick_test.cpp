@@ -1,5 +1,5 @@
-// The dashboard's labels second by second. Sunrise and sunset of these days in Delhi stand in the
-// NOAA solar calculator within a minute; the segments follow by hand from the weekday.
+// The dashboard's labels second by second. The NOAA solar calculator gives the sunrise and sunset
+// of these days in Delhi to within a minute; the segments were worked out by hand from the weekday.
 
 #include <gtest/gtest.h>
 
@@ -22,28 +22,28 @@ TEST(Tick, ShowsTodayAtTheDefaultPlace) {
 
 TEST(Tick, MovesOnAtTheMomentOfSunrise) {
   Dashboard d;
-  // Before it: the sun of Friday the 4th, with the weekday of Saturday the 5th.
+  // Before sunrise: the sun of Friday the 4th, with the weekday of Saturday the 5th.
   d.TickAt(2011, 3, 5, 6, 42, 59);
   EXPECT_EQ(d.Figures(), "06:44:00 18:23:00 09:38:45-11:06:07");
   d.TickAt(2011, 3, 5, 6, 43, 0);
   EXPECT_EQ(d.Figures(), kSaturday);
 }
 
-TEST(Tick, FallsBackIntoTheMonthBefore) {
+TEST(Tick, FallsBackIntoThePreviousMonth) {
   Dashboard d;
-  // The sun of Monday, 28 February, and of it Tuesday's seventh eighth.
+  // The sun of Monday, 28 February, divided for Tuesday: the seventh eighth.
   d.TickAt(2011, 3, 1, 0, 0, 0);
   EXPECT_EQ(d.Figures(), "06:48:00 18:20:00 15:27:00-16:53:30");
 }
 
-TEST(Tick, ShowsNothingButZerosBeyond63Degrees) {
+TEST(Tick, ShowsZerosBeyond63Degrees) {
   Dashboard d;
   d.SaveDefault("lat", "64.00N");
   d.TickAt(2011, 6, 21, 12, 0, 0);
   EXPECT_EQ(d.Figures(), "00:00:00 00:00:00 00:00:00-00:00:00");
 }
 
-TEST(Tick, KeepsSunriseAndEmptiesDurvelaWhereTheSunDoesNotSet) {
+TEST(Tick, KeepsSunriseAndClearsDurvelaIfTheSunDoesNotSet) {
   Dashboard d;
   d.TickAt(2011, 6, 21, 12, 0, 0);
   d.SaveDefault("lat", "70.00N");
@@ -60,7 +60,7 @@ TEST(Tick, ReadsItsDateBackInTheUsersLanguage) {
   EXPECT_EQ(d.Figures(), kSaturday);
 }
 
-TEST(Tick, LeavesTheRestWhenTheSessionIndexIsOutOfBounds) {
+TEST(Tick, ShowsTheDateEvenIfTheSessionIndexIsOutOfBounds) {
   Dashboard d;
   d.session.CurrentRecord = 1001;
   d.TickAt(2011, 3, 5, 11, 12, 9);

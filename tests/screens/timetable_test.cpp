@@ -22,7 +22,7 @@ struct Timetable : Fakes {
   }
 
   Picker picker;
-  Calls reports;  // their places
+  Calls reports;  // the place of each
   frmMain dashboard{services};
   frmDurvela form{services,
                   dashboard,
@@ -32,7 +32,7 @@ struct Timetable : Fakes {
                                              of.zoneTime, of.country));
                    }}};
 
-  // What the last Quick View has drawn, the moves of the pen aside.
+  // What the last Quick View drew, without pen moves.
   Calls Drawn() const {
     Calls drawn;
     for (const std::string& call : host.target.calls) {
@@ -43,7 +43,7 @@ struct Timetable : Fakes {
   }
 };
 
-TEST(Timetable, BeginsWithAMonthFromTodayAtNoonInTheDefaultPlace) {
+TEST(Timetable, StartsWithAMonthFromTodayAtNoonAtTheDefaultPlace) {
   const auto endFrom = [](int year, int month, int day) {
     const auto today = DateFromParts(year, month, day);
     Timetable t(today + 0.9);
@@ -57,7 +57,7 @@ TEST(Timetable, BeginsWithAMonthFromTodayAtNoonInTheDefaultPlace) {
              Row(2011, 1, 31, DateFromParts(2011, 3, 3)));
 }
 
-// Delhi's sun on these days gives the figures; positions are twips, a line of the target 240 high.
+// Figures follow from Delhi's sunrise and sunset; positions are in twips, with lines 240 high.
 TEST(Timetable, DrawsARowADay) {
   Timetable t;
   t.form.DT2.moment = DateFromParts(2011, 3, 7);
@@ -90,8 +90,8 @@ TEST(Timetable, ComparesTimesOfDayToo) {
              Row(day, day + 1, 0, 2), Row(day, day - 1, 0.5, 0));
 }
 
-TEST(Timetable, EndsItsListWithoutAWordWhereARowFails) {
-  // The node has no year after 9999.
+TEST(Timetable, EndsItsListSilentlyIfARowFails) {
+  // The corrected node needs the year after, so the year 9999 fails.
   EXPECT_EQ(RowsDrawn(DateFromParts(9998, 12, 30), DateFromParts(9999, 12, 31), 0.5), 2);
 }
 
@@ -108,7 +108,7 @@ TEST(Timetable, SavesThePlaceThatItShows) {
             "Place saved as default. It will load automatically next time");
 }
 
-TEST(Timetable, HandsItsPlaceToTheReport) {
+TEST(Timetable, PassesItsPlaceToTheReport) {
   Timetable t;
   t.form.cmdPreview.onClick();
   EXPECT_EQ(t.reports, Calls{"Delhi 28.40N 77.13E 82.30E -5.30 India "});
@@ -116,7 +116,7 @@ TEST(Timetable, HandsItsPlaceToTheReport) {
 
 TEST(Timetable, EditsItsPlaceWithThePicker) {
   Timetable t;
-  // Closed while the places are read: no picker comes up without its screen.
+  // If the timetable is closed while the places are read, no picker opens.
   t.host.shown = false;
   t.form.cmdEditPlace.onClick();
   EXPECT_TRUE(t.host.calls.empty());
@@ -131,7 +131,7 @@ TEST(Timetable, EditsItsPlaceWithThePicker) {
   EXPECT_EQ(Words(t.form.lblCity.caption, t.form.lblLat.caption), "Ujjain(Madhya Pradesh) 23.11N ");
 }
 
-TEST(Timetable, GoesBackToTheDashboardAndStartsAnew) {
+TEST(Timetable, ReturnsToTheDashboardAndReopensInItsInitialState) {
   Timetable t;
   const float width = t.form.frRes.place.width;
   t.form.scaleWidth *= 1.5F;
@@ -146,7 +146,7 @@ TEST(Timetable, GoesBackToTheDashboardAndStartsAnew) {
   EXPECT_EQ(t.form.windowState, forms::WindowState::Normal);
 }
 
-TEST(Timetable, RemarksOnWhatIsNoDateUntilThereIsOne) {
+TEST(Timetable, RemarksOnAnInvalidDateUntilItIsCorrected) {
   Timetable t;
   const auto remarks = [&] {
     return std::tuple(t.form.StartRemark.visible, t.form.EndRemark.visible,
@@ -155,7 +155,7 @@ TEST(Timetable, RemarksOnWhatIsNoDateUntilThereIsOne) {
   forms::TypeMoment(t.form.DT2, "soon");
   EXPECT_EQ(remarks(), std::tuple(false, true, false));
   forms::TypeMoment(t.form.dtTime, "noon");
-  forms::TypeMoment(t.form.DT2, "5/4/2011");  // as it was
+  forms::TypeMoment(t.form.DT2, "5/4/2011");  // the former date
   EXPECT_EQ(remarks(), std::tuple(false, false, true));
   t.form.Form_Load();
   EXPECT_EQ(remarks(), std::tuple(false, false, false));
@@ -176,7 +176,7 @@ TEST(Timetable, MovesWithTheMouseOnItsTitle) {
 }
 
 // A larger window shows more days, and the scroll bar covers none of them.
-TEST(Timetable, KeepsItsRowsInTheirSize) {
+TEST(Timetable, KeepsTheSizeOfItsRows) {
   Timetable t;
   const float pitch = 240 + 100, bottom = 31 * pitch - 100;
   const auto shownAt = [&](int width, int height) {
@@ -196,7 +196,7 @@ TEST(Timetable, KeepsItsRowsInTheirSize) {
              Row(1920, 1080, std::pair(1.0F, 39)), Row(360, 510, std::pair(0.5025F, 36)));
 }
 
-TEST(Timetable, MarksAListThatIsNotWhatIsAskedFor) {
+TEST(Timetable, MarksAnOutdatedList) {
   Timetable t;
   const auto mark = [&] {
     EXPECT_EQ(t.form.picRes.faded, !t.form.lblOldList.caption.empty());
