@@ -178,7 +178,7 @@ TEST(Contrast, IsEnoughOnEveryScreen) {
   program.host.WindowOf(program.Timetable());
   forms::TypeMoment(program.Timetable().DT1, "soon");  // shows its remark
   program.Timetable().lblOldList.caption = "Shown: Delhi. Press Quick View.";
-  for (int tick = 0; tick < 100; ++tick) program.Timetable().Timer1_Timer();  // until its sun rests
+  for (int tick = 0; tick < 100; ++tick) program.Timetable().Timer1_Timer();  // until its sun stops
   for (forms::Form* form : std::initializer_list<forms::Form*>{
            &program.dashboard, &program.Timetable(), &program.About(), &program.Preview(),
            &program.Picker(), &program.Information(CalculatePage()),

@@ -150,9 +150,9 @@ TEST_F(PickerWindow, ShowsLongTextsInTips) {
 
 TEST_F(PickerWindow, KeepsItsCountryWhenTheWheelTurnsOverIt) {
   const int before = countries->currentIndex();
-  EXPECT_FALSE(TakesWheel(*countries));
+  EXPECT_FALSE(AcceptsWheel(*countries));
   countries->setFocus();
-  EXPECT_FALSE(TakesWheel(*countries));
+  EXPECT_FALSE(AcceptsWheel(*countries));
   EXPECT_EQ(countries->currentIndex(), before);
 }
 

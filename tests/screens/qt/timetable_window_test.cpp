@@ -172,7 +172,7 @@ TEST_F(TimetableWindow, LeavesFieldsWithoutTheFocusAlone) {
   window.findChild<QWidget*>(u"cmdShow"_s)->setFocus();
   for (const QString& name : {u"DT1"_s, u"DT2"_s, u"dtTime"_s}) {
     const QString before = Field(name)->text();
-    EXPECT_FALSE(TakesWheel(*Field(name)));
+    EXPECT_FALSE(AcceptsWheel(*Field(name)));
     EXPECT_EQ(Field(name)->text(), before);
   }
 }
@@ -195,7 +195,7 @@ TEST_F(TimetableWindow, ShowsItsPageAndMoves) {
   form.DT2.moment = foundation::DateFromParts(2011, 4, 5);
   quickView->click();
   // The mouse reaches the page inside its frame.
-  EXPECT_TRUE(TakesWheel(*window.childAt(600, 400)));
+  EXPECT_TRUE(AcceptsWheel(*window.childAt(600, 400)));
   EXPECT_LT(form.picRes.place.top, 0);
   EXPECT_GT(window.findChild<QScrollBar*>(u"VScroll1"_s)->value(), 0);
   QTest::mousePress(quickView, Qt::LeftButton);

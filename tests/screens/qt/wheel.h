@@ -7,8 +7,8 @@
 
 namespace screens::qt {
 
-// Whether the widget accepts the event, so that nothing else scrolls.
-inline bool TakesWheel(QWidget& widget) {
+// Returns whether the widget accepts the event, so that nothing else scrolls.
+inline bool AcceptsWheel(QWidget& widget) {
   const QPointF over = QRectF(widget.rect()).center();
   QWheelEvent wheel(over, widget.mapToGlobal(over), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
                     Qt::NoScrollPhase, false);
