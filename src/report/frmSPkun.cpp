@@ -121,7 +121,7 @@ void frmSPkun::ShowPage(std::int16_t& PageNum, std::string_view Pname, std::stri
   const std::string_view number = mark == std::string_view::npos ? PTitle : PTitle.substr(mark + 1);
   PageNum = foundation::RoundToInt16(foundation::LeadingNumber(number));
   PIC.picture = nullptr;
-  // A page of an earlier report may still have this name.
+  // Its file may still hold a page of an earlier report.
   if (unwritten_.contains(PageNum)) {
     throw foundation::FileError(foundation::ErrorKind::FileAccess, PageFile(PageNum),
                                 "cannot be written");
@@ -199,7 +199,7 @@ void frmSPkun::cmdNext_Click() {
   if (index < cmbPage.items->ListCount()) Select(cmbPage, index);
 }
 
-// `row` counts from 0, as the list does.
+// Numbers typed here count from 0, unlike those in the lists.
 void frmSPkun::cmdGO_Click() {
   int number = foundation::RoundToInt16(foundation::LeadingNumber(txtPage.caption));
   const int pages = cmbPage.items->ListCount();

@@ -1,5 +1,5 @@
-// frmSPkun, the print preview: shows the pages of a report one at a time. Pages come from page
-// files; the alternative, drawing forms directly, is not used by reports.
+// frmSPkun, the print preview: shows the pages of a report one at a time. Reports use page files;
+// forms can also be drawn directly.
 #pragma once
 
 #include <cstdint>
@@ -15,7 +15,7 @@
 
 namespace report {
 
-// The name of pages that are kept in page files.
+// The name of pages that come from page files.
 inline constexpr std::string_view kCachePage = "cachepage";
 
 class frmSPkun : public forms::Form {
@@ -64,15 +64,14 @@ class frmSPkun : public forms::Form {
 
   std::string city;  // the report's place, for the document name
 
-  // Prints a form by its own PrintForm.
   void SendToPrint(forms::Form& myObject) { myObject.PrintForm(); }
 
   // Clears the lists of pages and deletes the last report's page files.
   void RESET();
 
-  // Draw a form directly: its image and its picture boxes on PIC, offset by X and Y twips. Without
-  // an offset the image replaces what PIC shows. The first page clears PIC and sets its size. Both
-  // do the same.
+  // Both draw a form directly: its image and its picture boxes on PIC, offset by X and Y twips.
+  // Without an offset the image replaces what PIC shows. The first page clears PIC and sets its
+  // size.
   void setPage(forms::Form& page, double X = 0, double Y = 0);
   void setPage2(forms::Form& page, double X = 0, double Y = 0);
 
@@ -87,8 +86,9 @@ class frmSPkun : public forms::Form {
   void cmdHide_Click();
   void cmdPrintPage_Click();
 
-  // Shows or prints a page and sets PageNum to the number in its title. Errors of GenHoro and
-  // LoadPage, and FileAccess for a page that could not be written; PIC is then empty.
+  // Shows or prints a page; for a page file, sets PageNum to the number in its title. Errors of
+  // GenHoro. Errors of LoadPage, and FileAccess for a page that could not be written, leave PIC
+  // empty.
   void ShowPage(std::int16_t& PageNum, std::string_view Pname, std::string_view PTitle,
                 bool ToPrinter);
 
@@ -118,7 +118,7 @@ class frmSPkun : public forms::Form {
   void OpenPanel(bool open);
   void ResizePanel(float width);
   void LayOut();
-  void NameDocument(int first, int last);  // after its pages
+  void NameDocument(int first, int last);
   void SetOrientation();
 
   Services services_;

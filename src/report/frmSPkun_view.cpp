@@ -16,9 +16,9 @@ constexpr int kKeyStep = 1000;                        // twips per arrow key
 constexpr float kSlideStep = 100;                     // twips
 constexpr double kSmallStep = 0.1, kLargeStep = 0.5;  // of the full range
 
-// Disables a bar that has nothing to scroll. Overflow beyond 16 bits.
-void SetRange(forms::Control& bar, float way, double largeStep) {
-  const std::int16_t maximum = foundation::RoundToInt16(std::max(way, 0.0F));
+// Disables and hides a bar if there is nothing to scroll. Overflow beyond 16 bits.
+void SetRange(forms::Control& bar, float distance, double largeStep) {
+  const std::int16_t maximum = foundation::RoundToInt16(std::max(distance, 0.0F));
   bar.enabled = bar.visible = maximum > 0;
   bar.scroll.maximum = maximum;
   bar.scroll.smallChange = std::max(1, foundation::RoundToInt32(kSmallStep * maximum));
@@ -59,12 +59,12 @@ void frmSPkun::PIC_MouseDown(forms::MousePoint at) {
   });
 }
 
-// The page follows the mouse in directions that can scroll.
+// The page follows the mouse in each direction that can scroll.
 void frmSPkun::PIC_MouseMove(forms::MousePoint at) {
   if (!dragging_ || at.shift) return;
-  const auto offset = [](const forms::Control& bar, float present, double moved) {
-    if (!bar.enabled) return present;
-    const double wanted = -(present + moved);
+  const auto offset = [](const forms::Control& bar, float current, double moved) {
+    if (!bar.enabled) return current;
+    const double wanted = -(current + moved);
     return static_cast<float>(
         -std::clamp(wanted, double(bar.scroll.minimum), double(bar.scroll.maximum)));
   };
@@ -93,7 +93,7 @@ void frmSPkun::cmdShow_Click() {
   OpenPanel(true);
 }
 
-// Moves the focus away from what disappears. The list stays visible until the panel is shut.
+// Moves the focus off a control that disappears. The list stays visible until the panel is shut.
 void frmSPkun::OpenPanel(bool open) {
   cmdHide.visible = lstPage.tabStop = open;
   if (open) lstPage.visible = true;

@@ -23,7 +23,7 @@ class ReportMaker {
       : input_(input), preview_(preview), services_(services) {}
 
   void Run() {
-    TakePlace();
+    WritePlace();
     services_.host.Unload(preview_);
     preview_.RESET();
     preview_.city = input_.city;
@@ -52,8 +52,8 @@ class ReportMaker {
   }
 
  private:
-  // The dashboard writes its own place to the record while the report yields.
-  void TakePlace() {
+  // Called for each row: while the report yields, the dashboard writes its place to the record.
+  void WritePlace() {
     foundation::SessionRecord& record = services_.session.Current();
     record.LatitudeText = input_.latitude;
     record.LongitudeText = input_.longitude;
@@ -74,12 +74,11 @@ class ReportMaker {
   }
 
   void AddRow(DateTime date) {
-    TakePlace();
+    WritePlace();
     FillHead(*page_, date, services_.session, services_.host.TargetOf(preview_.PIC));
     FillRow(*page_, row_++, date, services_.session);
   }
 
-  // Shows the next day.
   void ShowStatus(DateTime day) {
     const DateTimeFields at = foundation::FieldsOf(day);
     input_.lblStatus.caption =

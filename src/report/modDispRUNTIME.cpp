@@ -17,18 +17,18 @@ constexpr auto kFrameBorder = forms::Rgb(0xF5B017);  // 1552629, red in its lowe
 
 bool Names(std::string_view caption, std::string_view name) {
   const std::string upper = foundation::UpperAscii(caption);
-  const std::string whole = foundation::UpperAscii(name);
-  return upper == whole || upper == whole.substr(0, 3);
+  const std::string full = foundation::UpperAscii(name);
+  return upper == full || upper == full.substr(0, 3);
 }
 
-class LanguageDress {
+class LanguageStyle {
  public:
-  LanguageDress(std::int32_t language, int extraSize, bool keepSize)
+  LanguageStyle(std::int32_t language, int extraSize, bool keepSize)
       : language_(language), extraSize_(extraSize), keepSize_(keepSize) {}
 
   void Apply(forms::Control& control) const {
-    const bool takesPart = control.font.name != forms::kBaseFace || control.tag == "hhh";
-    if (!takesPart) return;
+    const bool applies = control.font.name != forms::kBaseFace || control.tag == "hhh";
+    if (!applies) return;
     std::string phrase = control.caption;
     Resume([&] { phrase = foundation::LanguagePhrase(control.caption, language_); });
     const bool hasPhrase = phrase != control.caption;
@@ -84,11 +84,11 @@ void ColourForm(forms::Form& form, bool colourOption) {
 void ApplyLanguageFonts(forms::Form& form, std::int32_t language, int extraSize,
                         bool blnDontChangePageFontSize) {
   if (language == 0 && extraSize == 0) return;
-  const LanguageDress dress(language, extraSize, blnDontChangePageFontSize);
+  const LanguageStyle style(language, extraSize, blnDontChangePageFontSize);
   for (forms::Control& control : form.Controls()) {
     if (control.tag == "n" || control.tag == "N") continue;
     if (control.kind != forms::Kind::Label && control.kind != forms::Kind::TextBox) continue;
-    dress.Apply(control);
+    style.Apply(control);
   }
 }
 

@@ -16,11 +16,11 @@ forms::Colour PlanetColourOf(std::string_view caption);
 // tagged "cs" black with a gold border, and those tagged "cs2" all black.
 void ColourForm(forms::Form& form, bool colourOption);
 
-// Translates captions and texts: uses the phrase and face of the language, enlarged by its size
-// step and `extraSize` points unless the page keeps its sizes. Applies to labels and text boxes
-// that have a phrase and are not in the base font. Tag "n" excludes a control, "hhh" includes it
-// whatever its face, "hcon" changes the face even without a phrase. Does nothing for language 0
-// without an extra size. Ignores failures.
+// Translates captions and texts: uses the phrase and face of the language, and adds its size step
+// and `extraSize` points unless the page keeps its sizes. Applies to labels and text boxes that
+// have a phrase and are not in the base font. Tag "n" excludes a control, "hhh" includes it even in
+// the base font, "hcon" changes the face even without a phrase. Does nothing for language 0 without
+// an extra size. Ignores failures.
 void ApplyLanguageFonts(forms::Form& form, std::int32_t language, int extraSize,
                         bool blnDontChangePageFontSize);
 

@@ -19,10 +19,11 @@ constexpr std::string_view kNotPrinted = "np";
 constexpr double kSmallestPrinted = 7;  // points, the minimum for texts
 constexpr auto kBlack = forms::Rgb(0);
 
-forms::PicturePtr Ground(forms::Colour colour, double width, double height) {
-  auto ground = forms::NewPicture(width, height);
-  ground->items.emplace_back(forms::Outline{forms::Path::Box({0, 0}, width, height), colour, {}});
-  return ground;
+forms::PicturePtr Background(forms::Colour colour, double width, double height) {
+  auto background = forms::NewPicture(width, height);
+  background->items.emplace_back(
+      forms::Outline{forms::Path::Box({0, 0}, width, height), colour, {}});
+  return background;
 }
 
 class FormDrawing {
@@ -86,7 +87,7 @@ class FormDrawing {
     });
   }
 
-  // Sizes go by their shortest decimal text, as a document writes its numbers as text.
+  // Sizes are those of the shortest decimal text, because documents store numbers as text.
   void Paint(const Control& control, const forms::PicturePtr& picture) {
     Resume([&] {
       target_.PaintPicture(
@@ -95,21 +96,21 @@ class FormDrawing {
     });
   }
 
-  // Prints the pieces between CR LF one below the other.
+  // Prints each line of the caption below the one before.
   void DrawText(const Control& control) {
     std::string_view rest = control.caption;
     if (rest.empty()) return;
     for (bool first = true, more = true; more; first = false) {
       const std::size_t end = rest.find("\r\n");
       more = end != std::string_view::npos;
-      TakeFont(control);
-      Place(control, first);
+      ApplyFont(control);
+      PlaceText(control, first);
       Resume([&] { target_.Print(rest.substr(0, end)); });
       if (more) rest.remove_prefix(end + 2);
     }
   }
 
-  void TakeFont(const Control& control) {
+  void ApplyFont(const Control& control) {
     const forms::Font& font = control.font;
     Resume([&] { target_.SetRightToLeft(false); });
     Resume([&] { target_.SetFont(font.name); });
@@ -124,7 +125,7 @@ class FormDrawing {
     });
   }
 
-  void Place(const Control& control, bool first) {
+  void PlaceText(const Control& control, bool first) {
     Resume([&] { target_.SetCurrentX(X_ + control.place.left + DX_); });
     if (first) Resume([&] { target_.SetCurrentY(Y_ + control.place.top + DY_); });
     if (control.container == nullptr) return;
@@ -142,11 +143,12 @@ class FormDrawing {
 }  // namespace
 
 forms::PicturePtr ImageOf(const forms::Form& form) {
-  return form.picture ? form.picture : Ground(form.backColour, form.scaleWidth, form.scaleHeight);
+  return form.picture ? form.picture
+                      : Background(form.backColour, form.scaleWidth, form.scaleHeight);
 }
 
 forms::PicturePtr ImageOf(const Control& box) {
-  return box.picture ? box.picture : Ground(box.backColour, box.place.width, box.place.height);
+  return box.picture ? box.picture : Background(box.backColour, box.place.width, box.place.height);
 }
 
 void DrawFormOnTarget(forms::Form& form, DrawingTarget& Target, double X, double Y,

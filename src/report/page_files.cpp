@@ -17,7 +17,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kExtension = ".tmp";
-constexpr int kUsualDotsPerInch = 96;
+constexpr int kDefaultDotsPerInch = 96;
 
 }  // namespace
 
@@ -25,19 +25,19 @@ fs::path PageFile(std::int16_t PageNum) {
   return foundation::TempFolder() / ("prv" + std::to_string(PageNum) + std::string(kExtension));
 }
 
-void SavePage(std::int16_t PageNum, const forms::Raster& dots) {
+void SavePage(std::int16_t PageNum, const forms::Raster& raster) {
   std::error_code failure;
   fs::create_directories(foundation::TempFolder(), failure);
-  bitmap::WriteBmp(PageFile(PageNum), bitmap::ToPixels(dots),
-                   foundation::RoundToInt32(dots.dotsPerInch));
+  bitmap::WriteBmp(PageFile(PageNum), bitmap::ToPixels(raster),
+                   foundation::RoundToInt32(raster.dotsPerInch));
 }
 
 forms::PicturePtr LoadPage(std::int16_t PageNum) {
   const bitmap::BmpPicture file = bitmap::ReadBmp(PageFile(PageNum));
-  const double dotsPerInch = file.dotsPerInch > 0 ? file.dotsPerInch : kUsualDotsPerInch;
-  const double twipsPerDot = forms::kTwipsPerPoint * 72 / dotsPerInch;
+  const double dotsPerInch = file.dotsPerInch > 0 ? file.dotsPerInch : kDefaultDotsPerInch;
+  const double twipsPerPixel = forms::kTwipsPerPoint * 72 / dotsPerInch;
   auto picture =
-      forms::NewPicture(file.pixels.Width() * twipsPerDot, file.pixels.Height() * twipsPerDot);
+      forms::NewPicture(file.pixels.Width() * twipsPerPixel, file.pixels.Height() * twipsPerPixel);
   picture->items.emplace_back(
       forms::Dots{std::make_shared<const forms::Raster>(bitmap::ToRaster(file.pixels))});
   return picture;

@@ -8,12 +8,11 @@
 
 namespace report {
 
-// The file of a page.
 std::filesystem::path PageFile(std::int16_t PageNum);
 
 // Writes a page, replacing any of the same number, and creates the folder if necessary. FileAccess
 // if it cannot be written, InvalidCall for an empty raster.
-void SavePage(std::int16_t PageNum, const forms::Raster& dots);
+void SavePage(std::int16_t PageNum, const forms::Raster& raster);
 
 // Reads a page as a picture in twips. FileNotFound if it does not exist, FileAccess if it cannot be
 // read, InvalidCall if it is not a bitmap file.

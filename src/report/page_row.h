@@ -1,4 +1,4 @@
-// One day on a page of the report.
+// The heading and rows of a report page.
 #pragma once
 
 #include "forms/drawing_target.h"
@@ -9,7 +9,7 @@
 namespace report {
 
 // Sets the title from the month and year of the moment, and the place line from the current record.
-// The place line is right-aligned as measured by the target that it will be drawn on.
+// Right-aligns the place line by its width on `target`, which should be the one that draws it.
 void FillHead(pk_Durvela& page, foundation::DateTime moment,
               const foundation::SessionTable& session, forms::DrawingTarget& target);
 

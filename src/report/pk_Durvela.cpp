@@ -2,7 +2,7 @@
 
 namespace report {
 
-// Every report writes row 0; the other rows start empty.
+// Rows start empty, except row 0, which any report of at least one day overwrites.
 pk_Durvela::pk_Durvela() : Form("pk_Durvela", "", page_layout::kWidth, page_layout::kHeight) {
   backColour = forms::Rgb(0xFFFFFF);
   for (const forms::ControlArray* column : Columns()) {

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double kWidestPortrait = 21000;  // twips
 
-// Runs statements one by one; after a failure the user decides whether to go on.
+// Runs statements one by one; after a failure, asks the user whether to continue.
 class AskingUser {
  public:
   AskingUser(foundation::MessageBoxes& boxes, forms::Printer& printer)
