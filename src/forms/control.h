@@ -1,4 +1,4 @@
-// A control of a form: what it is, where it stands, what it shows and what it answers to.
+// A control of a form: its kind, position, content and event handlers.
 #pragma once
 
 #include <functional>
@@ -53,44 +53,44 @@ enum class Look {
   Plain,
   Card,     // a soft shadow below
   Tile,     // an item of a picture menu: picture above, room for a caption, lit when hot or pressed
-  Primary,  // of a form's buttons, the one that it is there for
-  OnEarth,  // a button on a dark ground
-  Flat,     // a button without an edge
+  Primary,  // a form's main button
+  OnEarth,  // a button on a dark background
+  Flat,     // a button without a border
 };
 
 enum class Key { Up, Down, Left, Right, Home, End, Enter, Escape, Other };
 
-// A key that was pressed; whoever has dealt with it says so, and nobody else sees it.
+// A pressed key. A handler that deals with it sets `handled`; it then goes no further.
 struct KeyPress {
   Key key = Key::Other;
   bool handled = false;
 };
 
-// Where the mouse is, in twips from the control's corner. Handlers that need only the place take a
-// Point.
+// The mouse position in twips from the control's corner. Handlers that need only the position take
+// a Point.
 struct MousePoint : Point {
   bool shift = false;  // with Shift, Ctrl or Alt held down
 };
 
 struct Control;
 
-// What a form writes down for a control; the rest starts as it stands here.
+// What a form declares for a control; omitted properties have these defaults.
 struct Properties {
   Control* container = nullptr;  // a picture box of the same form; null for the form itself
   Place place;
-  LineEnds ends;        // a Line's, in place of `place`
-  std::string caption;  // UTF-8, "&" before a button's key; of a text box, what stands in it
-  foundation::DateTime moment = 0;  // of a date picker a midnight, of a time picker a time of day
-  std::string refusal;  // of a picker: why it did not take what was typed; empty if it did
+  LineEnds ends;                    // a Line's, instead of `place`
+  std::string caption;              // UTF-8, "&" before a button's key; a text box's text
+  foundation::DateTime moment = 0;  // a date picker's midnight or a time picker's time of day
+  std::string refusal;              // why a picker rejected typed text; empty if it did not
   ScrollRange scroll;
   Font font;
   std::string tag;
   std::string toolTip;
-  std::string spokenName;  // for assistive programs, where no caption of its own tells
-  std::string spokenText;  // and what a picture of dots shows, in words
-  std::string whenEmpty;   // shown by a text box or list that is empty
-  std::string trailing;    // a remark at the right end of a text box
-  std::string emphasis;    // what entries of a list begin with is shown bold
+  std::string spokenName;  // for assistive programs, instead of the caption
+  std::string spokenText;  // for assistive programs, the text of a raster image
+  std::string whenEmpty;   // shown by an empty text box or list
+  std::string trailing;    // a note at the right end of a text box
+  std::string emphasis;    // shown bold at the start of list entries
   Colour foreColour;
   Colour backColour = kTransparent;
   Colour borderColour = kTransparent;
@@ -101,14 +101,14 @@ struct Properties {
   bool visible = true;
   bool enabled = true;
   bool tabStop = false;  // reached by the Tab key, pressed by Enter
-  int tabIndex = 0;      // controls are reached from the lowest up
+  int tabIndex = 0;      // Tab order, lowest first
   bool sorted = false;   // a list
   bool handCursor = false;
-  bool grabCursor = false;  // what lies under it is being moved
-  bool dragHandle = false;  // moves the form where only the screen can move windows
-  bool hot = false;         // under the mouse, as far as the form says so
+  bool grabCursor = false;  // while its content is dragged
+  bool dragHandle = false;  // moves the form if only the display server can move windows
+  bool hot = false;         // set by the form while the mouse is over it
   bool pressed = false;
-  bool faded = false;  // shows what is out of date
+  bool faded = false;  // dimmed, because its content is out of date
   Look look = Look::Plain;
   PicturePtr picture;
   int interval = 0;  // a Timer's, in milliseconds; 0 is off
@@ -122,7 +122,7 @@ struct Control : Properties {
   int index = -1;                   // in its control array; -1 outside one
   std::unique_ptr<ItemList> items;  // of a list box or combo box
 
-  // Handlers; what a form leaves empty does nothing.
+  // Handlers; empty ones do nothing.
   std::function<void()> onClick;  // of a list: another entry was selected
   std::function<void()> onDoubleClick;
   std::function<void()> onChange;  // of its text, moment, refusal or scroll value
@@ -131,23 +131,22 @@ struct Control : Properties {
   std::function<void(MousePoint)> onMouseUp;
   std::function<void(MousePoint)> onMouseMove;
   std::function<void(int)> onMouseWheel;  // steps, up above 0
-  std::function<void(int)> onHover;       // of a list: the place under the mouse, -1 for none
+  std::function<void(int)> onHover;       // of a list: the index under the mouse, or -1
   std::function<void()> onTimer;
 };
 
-// Members that not every kind has. NoSuchMember for the kinds that lack them: a Timer has no
-// place, a Line has ends instead, and none of Shape, Line, Image and Timer has a font.
+// Members that some kinds lack; NoSuchMember for those. A Timer has no place, a Line has ends
+// instead, and a Shape, Line, Image or Timer has no font.
 Place& PlaceOf(Control& control);
 Font& FontOf(Control& control);
 
-// What the user or the program sets raises the same events: a text or scroll value that
-// differs from the present one onChange, the selection of another entry onClick. InvalidCall where
-// there is no such entry.
+// Raise the same events as the user's actions: onChange if the text or scroll value changes,
+// onClick if another entry is selected. InvalidCall if there is no such entry.
 void SetText(Control& textBox, std::string_view text);
-void SetScroll(Control& scrollBar, int value);  // brought into the bar's range
+void SetScroll(Control& scrollBar, int value);  // clamped to the bar's range
 void Select(Control& list, int index);
 
-// The user's choice from a list: onClick, also for the entry that is selected already.
+// The user's choice from a list: raises onClick even if the entry is already selected.
 void Choose(Control& list, int index);
 
 }  // namespace forms

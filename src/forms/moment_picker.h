@@ -1,5 +1,5 @@
-// What a picker of a date or of a time of day shows, and how its user changes it. Each of these
-// raises onChange if the moment or the refusal changes.
+// The text of date and time pickers, and how users change it. These functions raise onChange if the
+// moment or the refusal changes.
 #pragma once
 
 #include <string>
@@ -14,13 +14,13 @@ std::string MomentText(const Control& picker);
 
 void SetMoment(Control& picker, foundation::DateTime moment);
 
-// Takes any text that is a date of the years 100 to 9999, or a time of day in hours and minutes.
-// Any other leaves the moment as it is and sets the refusal, which the next moment clears.
+// Accepts a date of the years 100 to 9999, or a time of day in hours and minutes. Any other text
+// leaves the moment unchanged and sets the refusal, which the next valid moment clears.
 void TypeMoment(Control& picker, std::string_view text);
 
-// Steps one part of the text, counted from 0: day, month or year; hour, minute or half of the day.
-// Days carry into months, and minutes into hours; a month too short for the day takes its last
-// one. Dates stay within their years, times run through midnight.
+// Steps one part of the text, counted from 0: day, month or year; hour, minute or AM/PM. Days carry
+// into months, and minutes into hours; if the new month is too short, its last day is used. Dates
+// stay within the years 100 to 9999; times wrap at midnight.
 void StepMoment(Control& picker, int part, int steps);
 
 }  // namespace forms
