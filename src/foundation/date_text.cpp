@@ -11,7 +11,7 @@
 namespace foundation {
 namespace {
 
-// Reads a text from the left, piece by piece.
+// Reads a text piece by piece from the left.
 class Reader {
  public:
   explicit Reader(std::string_view text) : rest_(text) { SkipBlanks(); }
@@ -29,7 +29,7 @@ class Reader {
     return true;
   }
 
-  // What stands between two fields of a date: one "-" or "/" with blanks around it, or blanks.
+  // The separator of two fields of a date: "-" or "/", with or without blanks around it, or blanks.
   bool TakeDateSeparator() {
     const std::size_t before = rest_.size();
     SkipBlanks();
@@ -37,7 +37,7 @@ class Reader {
     return rest_.size() < before;
   }
 
-  // A whole number of one to four digits.
+  // An integer of one to four digits.
   std::optional<int> TakeNumber() {
     int number = 0;
     std::size_t digits = 0;
@@ -51,7 +51,7 @@ class Reader {
     return number;
   }
 
-  // A name before a number, since a name may begin with one.
+  // Tries a name first, since a name may begin with a number.
   std::optional<int> TakeMonth() {
     const MonthMatch name = MonthAtStart(rest_);
     if (name.month == 0) return TakeNumber();
@@ -59,7 +59,7 @@ class Reader {
     return name.month;
   }
 
-  // "AM" or "PM", in any case: the hours that it adds to hours counted from 0.
+  // Returns the hours to add for "AM" or "PM", ignoring case, to an hour counted from 0.
   std::optional<int> TakeHalfOfDay() {
     const std::string half = FoldCase(rest_.substr(0, 2));
     if (half != "am" && half != "pm") return std::nullopt;
@@ -102,7 +102,7 @@ std::optional<DateTime> TakeTime(Reader& reader) {
   return TimeFromParts(*hour, *minute, *second);
 }
 
-// The whole of what is left is a time.
+// A time that is the rest of the text.
 std::optional<DateTime> TakeLastTime(Reader& reader) {
   const auto time = TakeTime(reader);
   reader.SkipBlanks();

@@ -1,5 +1,4 @@
-// The one error type of the system: a number, a fixed English description and, where something can
-// be named, what failed.
+// The program's only error type: a number, a fixed English description and, if known, what failed.
 #pragma once
 
 #include <exception>
@@ -9,16 +8,16 @@
 namespace foundation {
 
 enum class ErrorKind : int {
-  InvalidCall = 5,  // an argument outside what the routine can work on
-  Overflow = 6,     // a number too large for its kind
+  InvalidCall = 5,  // an argument that the routine cannot handle
+  Overflow = 6,     // a number too large for its type
   Subscript = 9,    // an index outside its array, or an array never filled
   DivisionByZero = 11,
-  TypeMismatch = 13,  // a text that is not the number, date or time it should be
+  TypeMismatch = 13,  // a text that is not a valid number, date or time
   FileNotFound = 53,
   FileAccess = 75,
   ObjectNotSet = 91,
-  NoSuchMember = 438,  // an object that has no such property or operation
-  Cancelled = 32755,   // a dialog, by the user
+  NoSuchMember = 438,  // an object without that property or method
+  Cancelled = 32755,   // by the user, in a dialog
 };
 
 class Error : public std::exception {
@@ -29,8 +28,8 @@ class Error : public std::exception {
   ErrorKind Kind() const { return kind_; }
   int Number() const { return static_cast<int>(kind_); }
 
-  // What failed, a sentence without its full stop: "The file prv1.tmp cannot be read". Empty if
-  // nothing can be named.
+  // What failed, as a sentence without its full stop: "The file prv1.tmp cannot be read". Empty if
+  // unknown.
   const std::string& Context() const { return context_; }
 
   // For the user: the context or, without one, the description of the kind, such as "Overflow".

@@ -6,8 +6,8 @@
 
 namespace foundation {
 
-Error FileError(ErrorKind kind, const std::filesystem::path& file, std::string_view trouble) {
-  return Error(kind, "The file " + file.string() + " " + std::string(trouble));
+Error FileError(ErrorKind kind, const std::filesystem::path& file, std::string_view problem) {
+  return Error(kind, "The file " + file.string() + " " + std::string(problem));
 }
 
 std::string ReadFile(const std::filesystem::path& file) {
@@ -25,7 +25,7 @@ std::string ReadFile(const std::filesystem::path& file) {
     if (!stream) throw unreadable;
     return bytes;
   } catch (const std::bad_alloc&) {
-    throw unreadable;  // more than memory holds
+    throw unreadable;  // larger than memory
   } catch (const std::length_error&) {
     throw unreadable;
   }

@@ -9,8 +9,8 @@
 
 namespace foundation {
 
-// "The file x.afm cannot be read", from a file and its trouble.
-Error FileError(ErrorKind kind, const std::filesystem::path& file, std::string_view trouble);
+// An error such as "The file x.afm cannot be read", where `problem` is "cannot be read".
+Error FileError(ErrorKind kind, const std::filesystem::path& file, std::string_view problem);
 
 // The contents of a file. FileNotFound if it does not exist, FileAccess if it cannot be read.
 std::string ReadFile(const std::filesystem::path& file);

@@ -68,7 +68,7 @@ void SetUserNames(LocaleNames names) {
 }
 
 MonthMatch MonthAtStart(std::string_view text) {
-  const std::string folded = FoldCase(text);  // which keeps the length of every character
+  const std::string folded = FoldCase(text);  // keeps the length of every character
   const Names& names = TheNames();
   MonthMatch longest;
   for (const Months* months : {&names.foldedUser, &names.foldedEnglish}) {

@@ -1,4 +1,4 @@
-// The names of months and weekdays in the user's own locale.
+// The names of months and weekdays in the user's locale.
 #pragma once
 
 #include <array>
@@ -11,15 +11,14 @@ namespace foundation {
 struct LocaleNames {
   std::array<std::string, 12> months;             // January first, full names, UTF-8
   std::array<std::string, 7> weekdays;            // Sunday first, full names, UTF-8
-  std::array<std::string, 7> shortWeekdays = {};  // Sunday first; empty: the full names cut short
-  int firstWeekday = 1;                           // with which the week begins, 1 = Sunday
-  std::array<std::string, 12> datedMonths = {};   // as a date inflects them; empty: as `months`
+  std::array<std::string, 7> shortWeekdays = {};  // Sunday first; if empty, cut from the full names
+  int firstWeekday = 1;                           // 1 = Sunday
+  std::array<std::string, 12> datedMonths = {};   // as inflected in dates; if empty, as `months`
 };
 
 const LocaleNames& EnglishNames();
 
-// The user's names. English until the host has put the user's locale here; the process locale is
-// never asked.
+// English until the host sets the names of the user's locale. The process locale is never used.
 const LocaleNames& UserNames();
 void SetUserNames(LocaleNames names);
 
@@ -31,23 +30,23 @@ struct MonthMatch {
   std::size_t length = 0;  // bytes of the text that are the name
 };
 
-// The longest full month name, the user's or the English one in any case, that the text begins
-// with: "Tháng 11" before "Tháng 1", "11月" before a number 11.
+// The longest full month name, the user's or English, that the text begins with, ignoring case:
+// "Tháng 11" rather than "Tháng 1", "11月" rather than the number 11.
 MonthMatch MonthAtStart(std::string_view text);
 
-// The month, 1 to 12, that a text of two characters or more abbreviates: the only one whose name,
-// plain or as a date inflects it, begins that way in any case. English names count if none of the
-// user's does. 0 if there is no such month, or more than one.
+// The month, 1 to 12, that a text of at least two characters abbreviates, ignoring case: the only
+// one whose name, plain or as inflected in dates, begins with the text. Tries English names if none
+// of the user's match. 0 if no month or several match.
 int MonthByBeginning(std::string_view text);
 
 // The full name of weekday 1 (Sunday) to 7 (Saturday). InvalidCall for any other.
 const std::string& WeekdayName(int weekday);
 
-// The same in short, as a table's head has it.
+// Its short form, for table headings. InvalidCall likewise.
 std::string ShortWeekdayName(int weekday);
 
-// The name of day 1 to 7 of the user's week, whichever weekday that begins with. InvalidCall for
-// any other.
+// The name of day 1 to 7 of the user's week, which begins with `firstWeekday`. InvalidCall for any
+// other.
 const std::string& WeekdayNameOfWeek(int day);
 
 }  // namespace foundation

@@ -1,4 +1,4 @@
-// The table of session records in which screens and calculators meet.
+// Session records: how screens pass a moment and place to calculators.
 #pragma once
 
 #include <array>
@@ -11,8 +11,8 @@
 
 namespace foundation {
 
-// The moment and the place of one calculation. The moment is 0 until it is first filled. Nothing
-// uses the reserved fields; they keep the layout of the record.
+// The moment and place of a calculation. The moment is 0 until first set. Reserved fields are
+// unused; they preserve the layout of the record.
 struct SessionRecord {
   std::int32_t RecordTag = 0;
   std::string PersonName;  // for a report's header
@@ -30,7 +30,7 @@ struct SessionRecord {
   double WarTimeCorrection = 0;  // hours
   std::array<std::int32_t, 3> Reserved = {};
   std::int32_t AyanamsaChoice = 0;    // a mode of the engine, 0 Lahiri
-  Boolean16 RahuKetuFlag = kFalse16;  // the corrected node in place of the mean one
+  Boolean16 RahuKetuFlag = kFalse16;  // use the corrected node instead of the mean one
   std::string CityName;
   std::string ReservedText;
   std::string CountryName;
@@ -51,7 +51,7 @@ class SessionTable {
 };
 
 // Fills the current record if its Day is still 0: the moment from `now`, no name, both flags true,
-// ayanamsa 0. Subscript where there is no such record.
+// ayanamsa 0. Subscript if there is no such record.
 void InitSessionRecord(SessionTable& session, DateTime now);
 
 }  // namespace foundation

@@ -23,8 +23,8 @@ std::size_t CharacterLength(std::string_view text) {
   return length;
 }
 
-// Capitals of two bytes in UTF-8 whose small letters stand a fixed distance further on, or, at
-// distance 1, at every other place from the first. After the Unicode case-folding data.
+// Capitals of two bytes in UTF-8 whose small letters follow at a fixed distance; at distance 1,
+// capitals and small letters alternate. From the Unicode case-folding data.
 struct CapitalRange {
   char32_t first, last;
   int distance;
@@ -72,7 +72,7 @@ std::vector<std::string_view> Characters(std::string_view text) {
 }
 
 std::string_view LastCharacter(std::string_view text) {
-  // The longest character that ends the text and is one whole.
+  // The longest ending that is a single character.
   for (std::size_t length = std::min<std::size_t>(4, text.size()); length > 1; --length) {
     const std::string_view end = text.substr(text.size() - length);
     if (CharacterLength(end) == length) return end;
