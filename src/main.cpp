@@ -8,8 +8,8 @@
 
 namespace {
 
-// Answers without a display, before the toolkit asks for one.
-bool HasAnswered(std::string_view option) {
+// Handles options that need no display, before the toolkit opens one.
+bool HandleOption(std::string_view option) {
   if (option == "--version") {
     std::printf("%s %s\n", foundation::kProgramName, foundation::kVersion);
   } else if (option == "--help") {
@@ -23,7 +23,7 @@ bool HasAnswered(std::string_view option) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc == 2 && HasAnswered(argv[1])) return 0;
+  if (argc == 2 && HandleOption(argv[1])) return 0;
   screens::qt::LeaveThemeAside();
   QApplication application(argc, argv);
   screens::qt::DressApplication();
