@@ -1,4 +1,4 @@
-// The calls with which a form is drawn, and the colours and languages that it is shown in.
+// The calls that draw a form, and its colours and languages.
 
 #include <gtest/gtest.h>
 
@@ -36,25 +36,25 @@ constexpr char kDrawn[] =
 #include "report/drawn_sheet.inc"
     ;
 
-// A target that can do nothing but print at one place.
+// A target that can only print.
 struct Bare : forms::DrawingTarget {
   std::vector<std::string> texts;
   void Print(std::string_view text) override { texts.emplace_back(text); }
 };
 
-TEST(FormDrawing, GoesFillsFirstAndThenControlByControl) {
+TEST(FormDrawing, DrawsFillsFirstThenControlsInOrder) {
   Sheet sheet;
   Bare bare;
   DrawFormOnTarget(sheet, bare, 0, 0);
   support::RecordingTarget printer;
-  DrawFormOnTarget(sheet, bare, 1000, 2000, &printer, 1, 3, 4);  // only on the printer
+  DrawFormOnTarget(sheet, bare, 1000, 2000, &printer, 1, 3, 4);  // replaces the target
   EXPECT_EQ(bare.texts, (std::vector<std::string>{"one", "two", "in"}));
   std::string calls;
   for (const std::string& call : printer.calls) calls += call + "\n";
   EXPECT_EQ(calls, kDrawn);
 }
 
-TEST(FormDrawing, GoesIntoADocument) {
+TEST(FormDrawing, DrawsIntoADocument) {
   const support::FakeRasteriser rasteriser;
   bitmap::LibjpegLibrary library;
   pdf::Paper paper(pdf::PictureMeans{rasteriser, library});
@@ -76,7 +76,7 @@ struct Chart : forms::Form {
   CONTROL(Shape, Box, {.tag = "cs"});
 };
 
-TEST(DisplayColours, AreThoseOfThePlanetsNamed) {
+TEST(DisplayColours, MatchTheNamedPlanets) {
   Chart chart;
   ColourForm(chart, false);
   EXPECT_EQ(chart.Planet.foreColour, forms::Colour());
@@ -89,7 +89,7 @@ TEST(DisplayColours, AreThoseOfThePlanetsNamed) {
   EXPECT_EQ(chart.Box.borderColour, forms::Rgb(0xF5B017));  // 1552629
 }
 
-TEST(LanguageFonts, DressLabelsWithAPhrase) {
+TEST(LanguageFonts, ApplyToLabelsWithAPhrase) {
   const support::AppFolderScope folder;
   folder.Write("Language/ehindi.txt", "sun\xA7सूर्य\nmoon\xA7चन्द्र");
   Chart chart;
@@ -99,9 +99,9 @@ TEST(LanguageFonts, DressLabelsWithAPhrase) {
   EXPECT_EQ(labels,
             "चन्द्र Lohit Devanagari|Sun Noto Sans|सूर्य Lohit Devanagari|Sun Arial|"
             "mer Lohit Devanagari|Mercur Arial| Noto Sans|");
-  // A step of 5 and 2 more.
+  // Its step of 5 and 2 extra.
   EXPECT_EQ(chart.Planet.font, (forms::Font{.name = "Lohit Devanagari", .size = 17}));
-  ApplyLanguageFonts(chart, 4, 0, false);  // whose file is not there
+  ApplyLanguageFonts(chart, 4, 0, false);  // its file is missing
   EXPECT_EQ(chart.Unknown.caption, "Mercur");
 }
 

@@ -20,15 +20,14 @@ struct Preview : ReportingTest {
     preview.Form_Load();
   }
 
-  // The calls that the printer gets.
   std::string Print(forms::Control& button) {
     printer.calls.clear();
     button.onClick();
-    std::string told;
+    std::string calls;
     for (const std::string& call : printer.calls) {
-      told += (call.starts_with("PaintPicture 0 0 ") ? "page" : call) + "|";
+      calls += (call.starts_with("PaintPicture 0 0 ") ? "page" : call) + "|";
     }
-    return told;
+    return calls;
   }
 };
 
@@ -51,7 +50,7 @@ TEST_F(Preview, ShowsPagesFromTheirFiles) {
   EXPECT_EQ(preview.lstPage.toolTip, "");
 }
 
-TEST_F(Preview, ReadsThePageNumberBehindTheFirstP) {
+TEST_F(Preview, ReadsThePageNumberAfterTheFirstP) {
   std::int16_t number = 7;
   preview.ShowPage(number, kCachePage, "Durvela April 2011 ..P2", false);
   EXPECT_EQ(number, 2);
@@ -59,7 +58,7 @@ TEST_F(Preview, ReadsThePageNumberBehindTheFirstP) {
   EXPECT_EQ(number, 0);
 }
 
-TEST_F(Preview, FailsAtAPageWhoseMonthHasACapitalP) {
+TEST_F(Preview, FailsOnAPageWhoseMonthHasACapitalP) {
   foundation::LocaleNames names = foundation::EnglishNames();
   names.months[1] = "Pebrero";  // February in Filipino
   const support::UserNamesScope scope(names);
@@ -67,22 +66,22 @@ TEST_F(Preview, FailsAtAPageWhoseMonthHasACapitalP) {
   EXPECT_ERROR(FileNotFound, Select(preview.cmbPage, 1));
 }
 
-TEST_F(Preview, ScrollsByKeysAndByHand) {
+TEST_F(Preview, ScrollsByKeysWheelAndDragging) {
   preview.scaleHeight = preview.scaleWidth = 9000;
   preview.Form_Resize();
   const forms::Place& page = preview.PIC.place;
-  const int way = static_cast<int>(page.height - preview.picPage.place.height);
-  EXPECT_NEAR(preview.VScroll1.scroll.largeChange, 0.5 * way, 0.5);
+  const int distance = static_cast<int>(page.height - preview.picPage.place.height);
+  EXPECT_NEAR(preview.VScroll1.scroll.largeChange, 0.5 * distance, 0.5);
   const auto press = [&](forms::Key key, int times) {
     forms::KeyPress keyPress = {key};
     for (int i = 0; i < times; ++i) preview.Form_KeyDown(keyPress);
     return page.top;
   };
-  ExpectRows(press, Row(forms::Key::Down, 1, -1000), Row(forms::Key::Down, 9, -way),
+  ExpectRows(press, Row(forms::Key::Down, 1, -1000), Row(forms::Key::Down, 9, -distance),
              Row(forms::Key::Up, 20, 0));
 
   preview.PIC.onMouseWheel(-1);
-  EXPECT_NEAR(page.top, -0.1 * way, 1);
+  EXPECT_NEAR(page.top, -0.1 * distance, 1);
   preview.PIC.onMouseWheel(2);
   EXPECT_EQ(page.top, 0);
 
@@ -97,11 +96,11 @@ TEST_F(Preview, ScrollsByKeysAndByHand) {
   preview.PIC.onMouseMove({400, 300});
   EXPECT_EQ(page.top, -200);
 
-  preview.Form_Load();  // large enough for the page
+  preview.Form_Load();  // makes the window tall enough for the page
   EXPECT_EQ(std::tuple(preview.VScroll1.enabled, page.top), std::tuple(false, 0));
 }
 
-TEST_F(Preview, ShowsItsButtonsWholeAtItsSmallest) {
+TEST_F(Preview, FitsItsButtonsAtItsMinimumWidth) {
   preview.scaleWidth = preview.minimumWidth;
   preview.Form_Resize();
   const forms::Place& last = preview.cmdPrint.place;
@@ -130,19 +129,19 @@ TEST_F(Preview, SlidesItsPanelInAndOut) {
   EXPECT_EQ(button.left, panel.width - button.width);
 }
 
-TEST_F(Preview, PrintsAllPagesOrThatWhichItShows) {
+TEST_F(Preview, PrintsAllPagesOrTheShownOne) {
   EXPECT_EQ(Print(preview.cmdPrint),
             "DocumentName Durvela January 2011 to March 2011, Delhi|"
             "AskUser|Orientation 1|Print 0 0 |page|NewPage|page|NewPage|page|NewPage|EndDoc|");
   preview.PIC.place.width = 21001;
   EXPECT_EQ(Print(preview.cmdPrintPage),
             "DocumentName Durvela January 2011, Delhi|Orientation 2|Print 0 240 |page|EndDoc|");
-  preview.AddPage(kCachePage, "Durvela again ..P1");  // goes back, but no more than four pages
+  preview.AddPage(kCachePage, "Durvela again ..P1");  // goes back, but stops after four pages
   Print(preview.cmdPrint);
   EXPECT_EQ(printer.calls.size(), 4 + 4 * 2 + 1U);
 }
 
-TEST_F(Preview, TellsWhatFailsInPrinting) {
+TEST_F(Preview, ReportsPrintingErrors) {
   const std::string name = "DocumentName Durvela January 2011 to March 2011, Delhi|";
   const std::string failure = "The file " + PageFile(1).string() + " is not a bitmap";
   folder.Write("temp/prv1.tmp", "no bitmap");
@@ -153,14 +152,14 @@ TEST_F(Preview, TellsWhatFailsInPrinting) {
   boxes.answer = foundation::MessageAnswer::No;
   printer.cancelled = true;
   EXPECT_EQ(Print(preview.cmdPrint), name + "AskUser|EndDoc|");
-  std::string told;
-  for (const auto& box : boxes.shown) told += box.text + "\n";
-  EXPECT_EQ(told, "Printing Cancelled: " + failure + "\n" + failure +
-                      ". Do you want to continue with the next page?\n"
-                      "Cancel was selected. Do you want to continue with the next page?\n");
+  std::string messages;
+  for (const auto& box : boxes.shown) messages += box.text + "\n";
+  EXPECT_EQ(messages, "Printing Cancelled: " + failure + "\n" + failure +
+                          ". Do you want to continue with the next page?\n"
+                          "Cancel was selected. Do you want to continue with the next page?\n");
 }
 
-TEST_F(Preview, TakesTheDirectPathForOtherPages) {
+TEST_F(Preview, DrawsOtherPagesDirectly) {
   settings.SaveSetting(foundation::kProgramName, "Setting", "company", "Company");
   settings.SaveSetting(foundation::kProgramName, "Setting", "tag", "Tag");
   session.Current().PersonName = "Person";
@@ -179,8 +178,8 @@ TEST_F(Preview, TakesTheDirectPathForOtherPages) {
             "300 15315 Company|2750 15315 Tag|10400 15600 1|");
 }
 
-// The file of a former page is still there under the name of one that could not be written.
-TEST_F(Preview, ShowsNoFormerPageInstead) {
+// A page that could not be written may leave an older page's file under its name.
+TEST_F(Preview, ShowsNoStalePage) {
   rasteriser.dots = {};
   preview.CreateTMPfile(1, preview.PIC);
   std::int16_t number = 1;
@@ -190,8 +189,8 @@ TEST_F(Preview, ShowsNoFormerPageInstead) {
 
 using PageFiles = ReportingTest;
 
-TEST_F(PageFiles, StaySilentWhereTheyCannotBeWritten) {
-  folder.Write("temp", "a file in the folder's place");
+TEST_F(PageFiles, IgnoreFailuresToWriteThem) {
+  folder.Write("temp", "a file instead of the folder");
   preview.CreateTMPfile(1, preview.PIC);
   preview.KillAllTmpFile();
   EXPECT_ERROR(FileNotFound, LoadPage(1));

@@ -1,4 +1,4 @@
-// The report from its range of days to its page files.
+// Reports, from a range of days to page files.
 
 #include <gtest/gtest.h>
 
@@ -18,7 +18,7 @@ using support::Row;
 const foundation::DateTime k5March = DateFromParts(2011, 3, 5);
 
 struct Report : ReportingTest {
-  // The calls, complete or by their first word.
+  // Counts the calls that begin with these words.
   auto Drawn(const std::string& what) const {
     return std::ranges::count_if(host.target.calls, [&](const std::string& call) {
       return (call + " ").starts_with(what + " ");
@@ -27,12 +27,12 @@ struct Report : ReportingTest {
 };
 using ReportPage = Report;
 
-// 44 letters of 100 twips, to the left of 12465.
+// 44 letters of 100 twips each, ending at 12465.
 constexpr char kPlace[] = "Print 8065 360 (Delhi  Long:77.13E  Lat:28.40N  Zone:-5.30)";
 
-TEST_F(ReportPage, HasItsHeadsItsPlaceAndItsFigures) {
+TEST_F(ReportPage, ShowsHeadingsPlaceAndTimes) {
   Make(k5March, k5March);
-  // The figures were worked out independently.
+  // The times were calculated independently.
   for (const char* call :
        {"Print 1110 240 nqosZyk ¼ekpZ 2011½", "Print 10770 720 ;e?kaVd dky", kPlace,
         "Print 1125 1320 5-Sat", "Print 2250 1320 06:43:00", "Print 3420 1320 18:23:00",
@@ -46,8 +46,8 @@ TEST_F(ReportPage, HasItsHeadsItsPlaceAndItsFigures) {
   EXPECT_EQ(Drawn("Print"), 2 + 3 + 10 + 1 + 10);  // one row
 }
 
-// Further days that were worked out independently.
-TEST_F(ReportPage, HasARowADay) {
+// The times of further days, calculated independently.
+TEST_F(ReportPage, HasOneRowPerDay) {
   const struct {
     int month, day;
     const char* row;
@@ -87,7 +87,7 @@ TEST_F(ReportPage, ShortensWeekdaysToThreeLetters) {
   EXPECT_EQ(foundation::ShortWeekdayName(5), "गुरुवा");
 }
 
-TEST_F(Report, MakesAPageAMonth) {
+TEST_F(Report, MakesOnePagePerMonth) {
   const auto made = [&](double from, double to) {
     host.target.calls.clear();
     Make(from, to);
@@ -96,8 +96,8 @@ TEST_F(Report, MakesAPageAMonth) {
     for (int i = 0; i < list.ListCount(); ++i) pages += std::string(list.List(i)) + "|";
     return pages + std::to_string(Drawn("Print")) + ", " + std::to_string(Drawn("Cls"));
   };
-  // Each page is drawn on a clear ground, which is cleared once more to show the first. Of an empty
-  // page there are the static heads, and row 0 as it is made.
+  // The target is cleared before each page, and once more to show the first. An empty page has its
+  // fixed headings and the placeholders of row 0.
   ExpectRows(made,
              Row(DateFromParts(2011, 1, 28), DateFromParts(2011, 2, 2),
                  "1: Durvela January 2011 ..P1|2: Durvela February 2011 ..P2|92, 3"),
@@ -107,20 +107,20 @@ TEST_F(Report, MakesAPageAMonth) {
   EXPECT_EQ(preview.PIC.place.width, 13635);
 }
 
-// A range in which adding a day and a time rounds differently from the days before.
-TEST_F(Report, HasItsLastDayAtAnyTime) {
+// In this range, the last day plus the time rounds differently from the days before.
+TEST_F(Report, IncludesItsLastDayAtAnyTime) {
   Make(DateFromParts(1989, 9, 1), DateFromParts(1989, 9, 30), foundation::TimeFromParts(0, 0, 2));
-  EXPECT_EQ(Drawn("Print 1110 9150 30-Sat"), 1);  // further left from row 28 on
+  EXPECT_EQ(Drawn("Print 1110 9150 30-Sat"), 1);  // the last four rows are further left
 }
 
-TEST_F(Report, FailsAtADayWithoutASunrise) {
+TEST_F(Report, FailsOnADayWithoutSunrise) {
   const foundation::DateTime day = DateFromParts(2011, 6, 21);
   EXPECT_ERROR(InvalidCall, MakeReport({day, day, 0.5, "69.40N", "18.57E", "15.0E", "-1", "Tromso",
                                         "Norway", status},
                                        preview, services));
 }
 
-TEST_F(Report, LeavesAFileAMonthUntilTheNext) {
+TEST_F(Report, KeepsOneFilePerMonthUntilTheNextReport) {
   const auto files = [&] {
     return std::distance(std::filesystem::directory_iterator(folder.path / "temp"), {});
   };
@@ -132,16 +132,16 @@ TEST_F(Report, LeavesAFileAMonthUntilTheNext) {
   EXPECT_EQ(files(), 2);
 }
 
-TEST_F(Report, KeepsItsPlaceWhateverComesInBetween) {
-  std::string told;
+TEST_F(Report, KeepsItsPlaceIfTheRecordChanges) {
+  std::string captions;
   yielder.between = [&](int turn) {
-    told += status.caption + "|";
+    captions += status.caption + "|";
     if (turn == 1) Make(DateFromParts(2011, 5, 1), DateFromParts(2011, 5, 1));
     session.Current().LatitudeText = "60.00N";
     session.Current().CityName = "Elsewhere";
   };
   Make(k5March, k5March + 1);
-  EXPECT_EQ(told, "Loading.. 6 March 2011|Loading.. 2 May 2011||Loading.. 7 March 2011||");
+  EXPECT_EQ(captions, "Loading.. 6 March 2011|Loading.. 2 May 2011||Loading.. 7 March 2011||");
   EXPECT_EQ(preview.cmbPage.items->List(1), "2: Durvela March 2011 ..P1");
   EXPECT_EQ(Drawn("Print 2250 1590 06:42:00"), 1);
   EXPECT_EQ(Drawn(kPlace), 2);

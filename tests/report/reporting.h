@@ -1,4 +1,4 @@
-// The report with fakes, in its own program folder.
+// Reports with fake services, in a temporary program folder.
 #pragma once
 
 #include <gtest/gtest.h>
