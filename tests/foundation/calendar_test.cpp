@@ -63,7 +63,7 @@ TEST(DateText, RejectsInvalidTexts) {
   EXPECT_EQ(TryReadTime("5-March-2011"), std::nullopt);
 }
 
-TEST(DateText, ReadsTheUsersMonthsAndEnglishOnes) {
+TEST(DateText, ReadsUserAndEnglishMonths) {
   const auto read = [](std::string_view text) { return FieldsOf(ReadDateTime(text)); };
   {
     // Names that start with a number or with each other, contain a blank, or start an English one.
@@ -79,7 +79,7 @@ TEST(DateText, ReadsTheUsersMonthsAndEnglishOnes) {
   EXPECT_EQ(TryReadDateTime("5 März 2011"), std::nullopt);
 }
 
-TEST(DateText, ReadsDatesAsTheyAreTyped) {
+TEST(DateText, ReadsTypedDates) {
   const auto read = [](std::string_view text) {
     const auto date = TryReadTypedDate(text);
     return date ? FieldsOf(*date) : DateTimeFields{};
@@ -93,7 +93,7 @@ TEST(DateText, ReadsDatesAsTheyAreTyped) {
       "6:12|5/3/2011 6:12|2011-3-5|12.30";
   for (const auto text : Split(kTexts, '|')) EXPECT_EQ(read(text), DateTimeFields{}) << text;
 
-  LocaleNames names = EnglishNames();  // Finnish, whose "mar" is no March; and a Hindi one
+  LocaleNames names = EnglishNames();  // Finnish, where "mar" is November; and a Hindi July
   names.months[2] = "maaliskuu";
   names.months[5] = "kesäkuu";
   names.months[6] = "जुलाई";
@@ -105,7 +105,7 @@ TEST(DateText, ReadsDatesAsTheyAreTyped) {
              Row("5 jul 2011", Fields(2011, 7, 5)));
 }
 
-TEST(DateText, WritesTheTimeOfDayByItsHalves) {
+TEST(DateText, WritesTimesWithAmOrPm) {
   ExpectRows([](int hour, int minute) { return HourMinuteHalf(TimeFromParts(hour, minute, 59)); },
              Row(0, 0, "12:00 AM"), Row(11, 59, "11:59 AM"), Row(12, 0, "12:00 PM"),
              Row(18, 5, "06:05 PM"));

@@ -1,4 +1,4 @@
-// INI files. The expectations come from Qt 6.4.2.
+// INI files. Expected values come from Qt 6.4.2.
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ std::string ValueOf(std::string_view spelled) {
   return In("[s]\nk=" + std::string(spelled) + "\nlast=1\n", "s", "k");
 }
 
-TEST(IniValues, AreSpelledAsTheToolkitDoes) {
+TEST(IniValues, AreWrittenAsQtWritesThem) {
   const std::pair<std::string_view, std::string_view> values[] = {
       {"", ""},
       {"उज्जैन", "उज्जैन"},
@@ -57,9 +57,9 @@ TEST(IniValues, AreSpelledAsTheToolkitDoes) {
   EXPECT_EQ(In(With("", "s", "k", longText), "s", "k"), longText);
 }
 
-TEST(IniValues, AreReadAsTheToolkitReadsThem) {
+TEST(IniValues, AreReadAsQtReadsThem) {
   ExpectRows(ValueOf,
-             // lists, by hand and by the toolkit
+             // lists, written by hand and by Qt
              Row("a, b", "a, b"), Row("a ,b,,", "a, b, , "), Row(R"("a" , "b")", "a, b"),
              Row(R"(a, b c, "d,e")", "a, b c, d,e"), Row("@@a, @@", "@a, @"),
              Row("1, @ByteArray(x), @Invalid()", "1, x, "), Row("@Invalid()", "none"),
@@ -70,12 +70,12 @@ TEST(IniValues, AreReadAsTheToolkitReadsThem) {
              // escapes
              Row(R"(\x41\x20ac\xd83d\xde00\101\a\"\'\?\\)", "A€😀A\a\"'?\\"), Row(R"(\q\z\x)", ""),
              Row(R"(\x12345)", "\u2345"), Row("a\\ ", "a"), Row("a \\t ", "a \t"),
-             // on into the next line
+             // continued on the next line
              Row("a\\\nb", "ab"), Row("a \\\r\n b", "a  b"), Row("a\\", "alast=1"),
              Row("\"a\n; b\"", "a\n; b"));
 }
 
-TEST(IniKeys, AreReadAsTheToolkitReadsThem) {
+TEST(IniKeys, AreReadAsQtReadsThem) {
   const auto file =
       "\xEF\xBB\xBFtop=1\n;a \"\n[General]\n%25=2\nA.b_c-D=3\na%20b=4\n%E9=5\n%UD83D%UDE00=6\n"
       "[%General]\nk=7\n[x]\ny%20z=8\nb\\c=9\n[%U0915]\n%U0916=10\nगा=11\n%4%zz=12\n"
@@ -107,7 +107,7 @@ TEST(IniDocument, ChangesNoOtherByte) {
       Row("[s]\n[t]", "k", "1", "[s]\nk=1\n[t]"s),
       Row("\xEF\xBB\xBF", "k", "1", "\xEF\xBB\xBF\n[s]\nk=1\n"s),
       Row("[s]\nk=", "k", "1", "[s]\nk=1"s), Row("[s]\nk=\" 1\n ", "k", "2", "[s]\nk=2 "s),
-      // an open end is closed first
+      // an unfinished line is completed first
       Row("a=1", "k", "2", "a=1\n\n[s]\nk=2\n"s),
       Row("[s]\na=\"1", "k", "2", "[s]\na=\"1\"\nk=2\n"s),
       Row("[s]\na=1\\", "k", "2", "[s]\na=1\\\n\nk=2\n"s),

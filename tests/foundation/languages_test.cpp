@@ -64,7 +64,7 @@ using Phrases = std::map<std::string, std::string>;
 const struct {
   std::string file, first, last;  // range of the script's characters; empty for English
   Phrases known;
-} kLanguages[] = {  // by their numbers
+} kLanguages[] = {  // by number
     {"eenglish", "", "", {{"MOON", "Moon"}, {"P. PHALG", "P. Phalg"}, {"BAVA", "Bava"}}},
     {"ehindi", "ऀ", "ॿ", {{"SUN", "सूर्य"}, {"PISCES", "मीन"}, {"REVTI", "रेवती"}}},
     {"emarathi", "ऀ", "ॿ", {{"MAR", "मंगळ"}, {"LIBRA", "तूळ"}, {"PURNIMA", "पौर्णिमा"}}},
@@ -104,7 +104,7 @@ TEST(LegacyHindi, ConvertsToUnicode) {
   for (const auto& [legacy, unicode] : texts) EXPECT_EQ(FromLegacyHindi(legacy), unicode) << legacy;
 }
 
-TEST(Folders, KeepPagesInTheUsersCacheIfTheProgramIsShared) {
+TEST(Folders, KeepPagesInTheUserCacheIfShared) {
   const support::AppFolderScope folder;
   const auto temp = [&](bool shared, const char* cache, const char* home) {
     if (shared) folder.Write("shared", "");

@@ -54,7 +54,7 @@ TEST(NumberText, IsTheShortestThatReadsBack) {
 }
 
 TEST(NumberTexts, AreRoundedAndGrouped) {
-  // Exact ties go to even; 1.005 is slightly less than that.
+  // Exact ties go to even; 1.005 is stored as slightly less.
   ExpectRows(FixedText, Row(2.5, 2, "2.50"), Row(0.125, 2, "0.12"), Row(1.005, 2, "1.00"));
   ExpectRows(GroupedText, Row(0, "0"), Row(-100, "-100"), Row(202281, "202,281"),
              Row(-1234567, "-1,234,567"));
@@ -78,7 +78,7 @@ TEST(Resume, ContinuesAfterAFailedStatementAndReportsIt) {
   EXPECT_TRUE(Resume([&] { value = 2; }));
   EXPECT_EQ(value, 2);
   // Only the program's own errors are swallowed.
-  EXPECT_THROW(Resume([] { throw std::logic_error("a fault of the program"); }), std::logic_error);
+  EXPECT_THROW(Resume([] { throw std::logic_error("a bug"); }), std::logic_error);
 }
 
 TEST(Errors, PreventReadingMissingElements) {

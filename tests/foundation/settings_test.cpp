@@ -1,4 +1,4 @@
-// The settings file, also with several programs at once.
+// The settings file, also when several programs use it.
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -24,7 +24,7 @@ struct Store : testing::Test {
     settings.SaveSetting("Durvela", "settings", key, value);
   }
 
-  // As this process has it, or as a new one reads it.
+  // The value in this process, and as a new process reads it.
   std::string Held(std::string_view key) {
     return settings.GetSetting("Durvela", "settings", key, "none");
   }
@@ -53,8 +53,8 @@ TEST_F(Store, KeepsItsSectionsApart) {
   EXPECT_EQ(Stored("city") + ", " + Stored("city", "Setting"), "दिल्ली, not the place");
 }
 
-// Changes that keep the size, many of them within one tick of the clock that dates files.
-TEST_F(Store, ShowsEveryChangeOfItsFile) {
+// Changes of the same size, many within one tick of the clock for file times.
+TEST_F(Store, SeesEveryChangeToItsFile) {
   Write("[settings]\ncity=\n");
   for (int i = 100; i < 400; ++i) {
     std::fstream(file, std::ios::in | std::ios::out) << "[settings]\ncity=" << i;
@@ -80,7 +80,7 @@ TEST_F(Store, KeepsPermissionsAndLinks) {
   fs::create_directory(target.parent_path());
   fs::create_symlink("../dotfiles/link", file);
   fs::create_symlink("mine.ini", target.parent_path() / "link");
-  Save("city", "Agra");  // the links lead nowhere yet
+  Save("city", "Agra");  // the links still point nowhere
   chmod(target.c_str(), 0640);
   Save("city", "Pune");
   EXPECT_TRUE(fs::is_symlink(file));
@@ -88,7 +88,7 @@ TEST_F(Store, KeepsPermissionsAndLinks) {
   EXPECT_EQ(ReadFile(target), "[settings]\ncity=Pune\n");
 }
 
-TEST_F(Store, StaysAsItWasOnAFullDisk) {
+TEST_F(Store, SurvivesAFullDisk) {
   Write("; mine\n[settings]\ncity=Delhi\n");
   const std::string longName(1000, 'x');
   const Setting place[] = {{"city", "Agra"}, {"country", longName}};
@@ -104,7 +104,7 @@ TEST_F(Store, StaysAsItWasOnAFullDisk) {
 }
 
 // A file instead of the folder, a folder instead of the file, a link to itself.
-TEST_F(Store, NamesAFileThatCannotBeWrittenAndTriesAgain) {
+TEST_F(Store, NamesAnUnusableFileAndTriesAgain) {
   const auto fail = [&](const char* trouble) {
     EXPECT_EQ(support::FailureOf([&] { Save("city", "Mumbai"); }),
               "The file " + file.string() + trouble);
@@ -124,8 +124,8 @@ TEST_F(Store, NamesAFileThatCannotBeWrittenAndTriesAgain) {
   EXPECT_EQ(FilesInFolder(), 1);
 }
 
-// Threads lock each other out as processes do: each opens the folder for itself.
-TEST_F(Store, LosesNoKeyWhenSeveralSaveAtOnce) {
+// Threads lock each other out like processes, because each opens the folder separately.
+TEST_F(Store, LosesNoKeyToSimultaneousSaves) {
   constexpr int kSavers = 4, kKeys = 10;
   const auto key = [](int saver, int i) { return std::to_string(saver * kKeys + i); };
   {

@@ -26,7 +26,7 @@ TEST(Text, CountsCharactersNotBytes) {
   ExpectRows(FirstCharacters, Row("शनिवार", 3, "शनि"), Row("ab", 3, "ab"));
 }
 
-// Names of days, divided as readers of each language divide them.
+// Weekdays, divided as readers of each language divide them.
 TEST(Text, CountsALetterWithItsMarksAndConjunctsAsOne) {
   ExpectRows([](std::string_view text) { return FirstLetters(text, 3); }, Row("Wednesday", "Wed"),
              Row("गुरुवार", "गुरुवा"), Row("शुक्रवार", "शुक्रवा"), Row("मंगलवार", "मंगल"),
@@ -36,8 +36,8 @@ TEST(Text, CountsALetterWithItsMarksAndConjunctsAsOne) {
              Row("\u1109\u116E\u110B\u116D\u110B\u1175\u11AF\u1109",
                  "\u1109\u116E\u110B\u116D\u110B\u1175\u11AF"),
              Row("E\u0301a\uFE0Fbc", "E\u0301a\uFE0Fb"), Row("", ""));
-  // A joiner keeps a conjunct together, a non-joiner takes it apart; a mark with nothing before it
-  // is a letter, as is a stray byte.
+  // A joiner keeps a conjunct together, a non-joiner splits it; a mark with nothing before it is a
+  // letter, as is a stray byte.
   ExpectRows([](std::string_view text) { return FirstLetters(text, 1); },
              Row("क्\u200Dषण", "क्\u200Dष"), Row("क्\u200Cषण", "क्\u200C"), Row("\u093Fक", "\u093F"),
              Row("\x93k", "\x93"), Row("क्।", "क्"));
@@ -80,7 +80,7 @@ TEST(TimeTexts, ShowDurationsWithoutCarries) {
   EXPECT_ERROR(InvalidCall, DecimalToTimeText(1, 0));
 }
 
-TEST(TimeTexts, GiveTheirFields) {
+TEST(TimeTexts, SplitIntoFields) {
   EXPECT_EQ(TimeTextHour("12abc:7x:8y"), "12abc");
   ExpectRows(TimeTextMinute, Row("12abc:7x:8y", "7x"), Row("6", ""));
   ExpectRows(TimeTextSecond, Row("12:30:45.5", 45.5), Row("6:12", 0), Row("0:0:1e999", 0));
