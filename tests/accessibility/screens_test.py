@@ -13,7 +13,7 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib
 
-TAB, RETURN, ESCAPE = 0xFF09, 0xFF0D, 0xFF1B  # X11's symbols
+TAB, RETURN, ESCAPE = 0xFF09, 0xFF0D, 0xFF1B  # X11 key symbols
 ENTRIES_READ = 3
 PATIENCE, PAUSE = 10, 0.02  # seconds
 ANSWER_IN = 5000  # milliseconds
@@ -23,8 +23,8 @@ INFORMATION = ["What is Durvela", "Calculation of Durvela", "Products", "Sitara 
                "Yama Ghantak", "Gulika Kaal"]
 OK = ["push button: OK"]
 
-# From the dashboard on: what to press in each window and the title of the next; the role of the last
-# one, and its tab stops.
+# What to press in each window, starting from the dashboard, and the title of the next one; the role
+# of the last window and its tab stops.
 SCREENS = [
     ([], "frame",
      ["push button: What is Durvela", "push button: Timetable", "push button: About us",
@@ -60,7 +60,7 @@ def until(condition):
     end = time.monotonic() + PATIENCE
     while True:
         found = None
-        with contextlib.suppress(GLib.Error):  # objects that do not exist yet, or any more
+        with contextlib.suppress(GLib.Error):  # the object does not exist yet or any more
             found = condition()
         if found or time.monotonic() > end:
             return found
@@ -76,7 +76,7 @@ def type_text(text):
 
 
 def children(node):
-    """The first children of a long list."""
+    """All children, but only the first of a list."""
     count = node.get_child_count()
     if node.get_role_name() == "list":
         count = min(count, ENTRIES_READ)
@@ -92,7 +92,7 @@ def caret(node):
 
 
 def is_stop(node):
-    """Excludes list entries, which claim the focus without their list, and texts of message boxes."""
+    """Excludes list entries, which claim the focus without their list, and message texts."""
     focusable = has(node, Atspi.StateType.FOCUSABLE)
     return focusable and node.get_role_name() not in ("list item", "label")
 
@@ -105,7 +105,7 @@ def name_of(node):
 
 
 def find_window(title, role=None):
-    """The newest one."""
+    """The newest window of that title."""
     windows = [window for program in children(Atspi.get_desktop(0)) for window in children(program)]
     fitting = [window for window in windows
                if window.get_name() == title and role in (None, window.get_role_name())
@@ -114,7 +114,7 @@ def find_window(title, role=None):
 
 
 def read(node):
-    """Its visible descendants, itself first."""
+    """The node and its visible descendants."""
     if not has(node, Atspi.StateType.SHOWING):
         return []
     return [node] + [each for child in children(node) for each in read(child)]
@@ -124,7 +124,7 @@ class Screen:
     """A window and its keyboard focus."""
 
     def __init__(self, title, role=None, stops=None):
-        """Waits until it has that many stops, or any."""
+        """Waits for the focus and, if given, for that many stops."""
         self.window = until(lambda: find_window(title, role))
         assert self.window, f"{title} does not show"
         until(lambda: self.read() and stops in (None, len(self.stops)))
@@ -161,7 +161,7 @@ class Screen:
 
 
 class Screens(unittest.TestCase):
-    def test_tell_their_controls_and_lead_the_keyboard_around(self):
+    def test_name_their_controls_and_cycle_the_focus(self):
         for way, role, ring in SCREENS:
             title = DASHBOARD
             with self.subTest(way=way), running_program():
@@ -177,7 +177,7 @@ class Screens(unittest.TestCase):
                     self.assertTrue(
                         until(lambda: not has(screen.window, Atspi.StateType.SHOWING)))
 
-    def test_take_a_date_that_is_typed_and_describe_what_is_none(self):
+    def test_accept_typed_dates_and_explain_invalid_ones(self):
         with running_program():
             Screen(DASHBOARD).open("Timetable")
             screen = Screen("Durvela")
@@ -193,7 +193,7 @@ class Screens(unittest.TestCase):
             self.assertTrue(until(lambda: end.get_description().startswith("Not a date")))
             self.assertIn("Not a date", [node.get_name() for node in read(screen.window)])
 
-    def test_tell_the_page_of_a_report(self):
+    def test_describe_the_page_of_a_report(self):
         """In words, one line per day, although the page is a picture."""
         with running_program():
             Screen(DASHBOARD).open("Timetable")
