@@ -1,4 +1,4 @@
-// A user's configuration folder for tests.
+// A temporary configuration folder for a test.
 #pragma once
 
 #include <cstdlib>
@@ -7,7 +7,7 @@
 
 namespace support {
 
-// An empty one while it lives.
+// Uses an empty folder for its lifetime, then restores the previous one.
 class ConfigFolderScope {
  public:
   ConfigFolderScope() {
@@ -18,7 +18,7 @@ class ConfigFolderScope {
     setenv(kVariable, pattern.c_str(), 1);
   }
   ~ConfigFolderScope() {
-    setenv(kVariable, before_.c_str(), 1);  // an empty one is none
+    setenv(kVariable, before_.c_str(), 1);  // empty counts as unset
     std::filesystem::remove_all(path);
   }
   ConfigFolderScope(const ConfigFolderScope&) = delete;

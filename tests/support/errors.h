@@ -9,7 +9,7 @@
 
 namespace support {
 
-// The message of the error that it raises; empty if it raises none.
+// The message of the error that the operation raises; empty if it raises none.
 template <typename Operation>
 std::string FailureOf(Operation operation) {
   try {
@@ -22,7 +22,7 @@ std::string FailureOf(Operation operation) {
 
 }  // namespace support
 
-// With one kind of error.
+// Expects an error of this kind.
 #define EXPECT_ERROR(kind, ...)                                             \
   try {                                                                     \
     static_cast<void>(__VA_ARGS__);                                         \

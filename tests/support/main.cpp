@@ -1,5 +1,5 @@
 // main() for tests: takes the process locale from the environment, as toolkit programs do, and
-// checks locale and zone if the run expects certain ones.
+// checks locale and zone if EXPECTED_PLACE is set.
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 
 namespace {
 
-// The process locale and the zone's abbreviation: "C UTC" if the machine lacks what was asked for.
+// The process locale and the zone's abbreviation: "C UTC" if the machine lacks the requested ones.
 std::string Place() {
   const std::time_t newYear1970 = 0;
   char zone[16] = "";

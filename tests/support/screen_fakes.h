@@ -1,4 +1,4 @@
-// Fakes of the screen's services: a host that only records which forms it shows, and a target that
+// Fakes of the screen's services: a host that records which forms it shows, and a target that
 // records what is drawn.
 #pragma once
 
@@ -13,7 +13,7 @@
 
 namespace support {
 
-// Thrown by the fake host in place of not returning.
+// Thrown by the fake host, whose EndProgram must not return.
 struct ProgramEnded {};
 
 // Records every call as text. In any font, a letter is 100 twips wide and a line 240 high.

@@ -1,4 +1,4 @@
-// A session whose current record holds a place.
+// A session with a place in its current record.
 #pragma once
 
 #include "foundation/session.h"

@@ -1,4 +1,4 @@
-// Checks a function against a table whose rows hold arguments and, last, the result.
+// Checks a function against a table whose rows hold the arguments and, last, the result.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Lists of words: their order by their first letters, their spelling by the language files.
+// Lists of words, to check their order and that the language files know them.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@ inline constexpr std::string_view kVocabulary =
 #include "foundation/vocabulary.inc"
     ;
 
-// The first letters of the words for 1 to `last`, "Ari Tau Gem".
+// The first letters of words 1 to `last`, such as "Ari Tau Gem".
 std::string Beginnings(int last, int letters, const auto& wordOf) {
   std::string list;
   for (int number = 1; number <= last; ++number) {
@@ -22,7 +22,7 @@ std::string Beginnings(int last, int letters, const auto& wordOf) {
   return list;
 }
 
-// The same of words that the language files know; one that they lack begins with "?".
+// The same, with "?" before words that the language files lack.
 std::string Translated(int last, int letters, const auto& wordOf) {
   const std::string known = "," + foundation::UpperAscii(kVocabulary) + ",";
   return Beginnings(last, letters, [&](std::int16_t number) {
