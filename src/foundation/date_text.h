@@ -29,8 +29,8 @@ DateTime ReadDateTime(std::string_view text);
 // A time without a date, as a fraction of a day.
 std::optional<DateTime> TryReadTime(std::string_view text);
 
-// A date without a time, as users type it: dots may also separate fields ("5.3.2011"), and months
-// may be shortened as MonthByBeginning allows ("5 Mar 2011", "5. Mar. 2011").
+// Reads a date in the looser form that users type: dots also separate the fields ("5.3.2011"), and
+// MonthByBeginning resolves abbreviated months ("5 Mar 2011", "5. Mar. 2011").
 std::optional<DateTime> TryReadTypedDate(std::string_view text);
 
 // "06:05 PM", in English in every locale, so that any keyboard can type it. Drops the seconds.

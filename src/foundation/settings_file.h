@@ -28,8 +28,8 @@ class SettingsFile : public Settings {
     friend auto operator<=>(const Time&, const Time&) = default;
   };
 
-  // Tells two states of a file apart; all zeros if there is none. Unlike the time of the last
-  // writing, the time of the last change of any kind cannot be set back.
+  // A fingerprint for detecting changes to the file; all zeros if the file is missing. Uses the
+  // status change time (ctime), because programs can set the modification time back.
   struct State {
     std::uint64_t device = 0, number = 0;
     std::int64_t size = 0;

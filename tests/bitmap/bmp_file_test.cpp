@@ -11,7 +11,7 @@ namespace {
 
 using namespace std::string_literals;
 
-// Three by two pixels at 96 dots per inch: red, green, blue over black, grey, white.
+// A 3x2 image at 96 dpi. Top row: red, green, blue; bottom row: black, grey, white.
 const std::string kFile =
     "BM\x4E\0\0\0\0\0\0\0\x36\0\0\0"
     "\x28\0\0\0\3\0\0\0\2\0\0\0\1\0\x18\0\0\0\0\0\x18\0\0\0\xC4\x0E\0\0\xC4\x0E\0\0\0\0\0\0\0\0\0\0"
