@@ -11,7 +11,7 @@
 #include "forms/picture_page.h"
 #include "foundation/numbers.h"
 #include "pdf/PDFPrinter.h"
-#include "report/modPrint.h"
+#include "report/form_drawing.h"
 #include "report/page_row.h"
 #include "screens/qt/application.h"
 

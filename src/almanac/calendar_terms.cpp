@@ -5,7 +5,7 @@
 #include "foundation/bounded_array.h"
 #include "foundation/date_text.h"
 #include "foundation/numbers.h"
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 
 namespace dayperiods {
 namespace {

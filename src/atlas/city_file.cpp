@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "foundation/files.h"
-#include "foundation/modFileFx.h"
+#include "foundation/folders.h"
 #include "foundation/text.h"
 
 namespace atlas {

@@ -1,7 +1,7 @@
 #include "atlas/clsAtlas.h"
 
 #include "atlas/city_file.h"
-#include "atlas/modEncDec.h"
+#include "atlas/scrambling.h"
 #include "foundation/files.h"
 
 namespace atlas {

@@ -5,8 +5,8 @@
 #include <numbers>
 
 #include "atlas/index_file.h"
+#include "foundation/angle_text.h"
 #include "foundation/error.h"
-#include "foundation/modConvertFx.h"
 #include "foundation/numbers.h"
 
 namespace atlas {

@@ -9,7 +9,7 @@
 #include "dayperiods/weekday_segments.h"
 #include "foundation/error.h"
 #include "foundation/resume.h"
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 
 namespace day {
 namespace {

@@ -5,7 +5,7 @@
 #include "engine/record_chart.h"
 #include "foundation/date_text.h"
 #include "foundation/numbers.h"
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 
 namespace dayperiods {
 

@@ -3,11 +3,11 @@
 #include <cmath>
 
 #include "dayperiods/clsBirthDetails.h"
+#include "foundation/angle_text.h"
 #include "foundation/checked.h"
 #include "foundation/date_text.h"
-#include "foundation/modConvertFx.h"
 #include "foundation/numbers.h"
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 
 namespace dayperiods {
 namespace {

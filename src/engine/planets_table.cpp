@@ -5,9 +5,9 @@
 #include "engine/clsPP.h"
 #include "engine/sub_lords.h"
 #include "engine/zodiac.h"
-#include "foundation/modFileFx.h"
 #include "foundation/numbers.h"
-#include "foundation/zzVorin.h"
+#include "foundation/phrases.h"
+#include "foundation/time_text.h"
 
 namespace engine {
 namespace {

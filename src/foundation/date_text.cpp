@@ -6,7 +6,7 @@
 #include "foundation/locale_names.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 
 namespace foundation {
 namespace {

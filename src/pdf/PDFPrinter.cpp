@@ -1,6 +1,6 @@
 #include "pdf/PDFPrinter.h"
 
-#include "foundation/modFileFx.h"
+#include "foundation/folders.h"
 #include "pdf/tokens.h"
 
 namespace pdf {

@@ -5,7 +5,7 @@
 #include "bitmap/cDIBSection.h"
 #include "bitmap/mIntelJPEGLibrary.h"
 #include "foundation/error.h"
-#include "foundation/modFileFx.h"
+#include "foundation/folders.h"
 #include "foundation/numbers.h"
 #include "pdf/PDFPrinter.h"
 

@@ -1,7 +1,7 @@
 // The objects around the pages' contents.
 
 #include "foundation/error.h"
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 #include "pdf/PDFPrinter.h"
 #include "pdf/tokens.h"
 

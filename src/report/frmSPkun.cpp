@@ -2,10 +2,10 @@
 
 #include "engine/record_chart.h"
 #include "foundation/files.h"
-#include "foundation/modFileFx.h"
+#include "foundation/folders.h"
 #include "foundation/numbers.h"
 #include "foundation/resume.h"
-#include "report/modPrint.h"
+#include "report/form_drawing.h"
 #include "report/page_bands.h"
 #include "report/page_files.h"
 

@@ -6,7 +6,7 @@
 #include "foundation/date_text.h"
 #include "foundation/locale_names.h"
 #include "foundation/numbers.h"
-#include "report/modPrint.h"
+#include "report/form_drawing.h"
 #include "report/page_row.h"
 #include "report/pk_Durvela.h"
 

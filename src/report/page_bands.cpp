@@ -1,10 +1,10 @@
 #include "report/page_bands.h"
 
 #include "foundation/numbers.h"
+#include "foundation/time_text.h"
 #include "foundation/version.h"
-#include "foundation/zzVorin.h"
-#include "report/modDispRUNTIME.h"
-#include "report/modPrint.h"
+#include "report/display_styles.h"
+#include "report/form_drawing.h"
 
 namespace report {
 namespace {

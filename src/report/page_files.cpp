@@ -7,7 +7,7 @@
 #include "bitmap/bmp_file.h"
 #include "bitmap/raster.h"
 #include "forms/units.h"
-#include "foundation/modFileFx.h"
+#include "foundation/folders.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 

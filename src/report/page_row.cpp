@@ -9,7 +9,7 @@
 #include "foundation/letters.h"
 #include "foundation/locale_names.h"
 #include "foundation/numbers.h"
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 
 namespace report {
 namespace {

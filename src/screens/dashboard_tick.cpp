@@ -7,7 +7,7 @@
 #include "engine/record_chart.h"
 #include "foundation/date_text.h"
 #include "foundation/resume.h"
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 #include "screens/frmMain.h"
 #include "screens/place_labels.h"
 

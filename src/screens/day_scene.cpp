@@ -5,7 +5,7 @@
 #include "dayperiods/clsUtilities.h"
 #include "dayperiods/weekday_segments.h"
 #include "foundation/resume.h"
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 
 namespace screens {
 namespace {

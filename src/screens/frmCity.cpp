@@ -1,8 +1,8 @@
 #include "screens/frmCity.h"
 
 #include "atlas/getCountryZone.h"
+#include "foundation/angle_text.h"
 #include "foundation/error.h"
-#include "foundation/modConvertFx.h"
 #include "foundation/numbers.h"
 #include "foundation/resume.h"
 #include "foundation/text.h"

@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "foundation/numbers.h"
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 
 namespace words {
 namespace {

@@ -9,7 +9,7 @@
 #include "atlas/zone_index.h"
 #include "engine/place_decoding.h"
 #include "foundation/files.h"
-#include "foundation/modFileFx.h"
+#include "foundation/folders.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "support/machine_fakes.h"

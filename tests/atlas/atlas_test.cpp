@@ -4,7 +4,7 @@
 
 #include "atlas/clsAtlas.h"
 #include "atlas/getCountryZone.h"
-#include "atlas/modEncDec.h"
+#include "atlas/scrambling.h"
 #include "forms/item_list.h"
 #include "foundation/files.h"
 #include "support/app_folder.h"

@@ -12,8 +12,9 @@
 
 #include "foundation/byte_text.h"
 #include "foundation/files.h"
+#include "foundation/folders.h"
 #include "foundation/legacy_hindi.h"
-#include "foundation/modFileFx.h"
+#include "foundation/phrases.h"
 #include "foundation/text.h"
 #include "support/app_folder.h"
 #include "support/errors.h"

@@ -6,9 +6,9 @@
 
 #include <cmath>
 
+#include "foundation/angle_text.h"
 #include "foundation/letters.h"
-#include "foundation/modConvertFx.h"
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 #include "support/errors.h"
 #include "support/locales.h"
 #include "support/table.h"

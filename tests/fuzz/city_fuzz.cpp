@@ -3,7 +3,7 @@
 
 #include "atlas/city_file.h"
 #include "atlas/clsAtlas.h"
-#include "atlas/modEncDec.h"
+#include "atlas/scrambling.h"
 #include "forms/item_list.h"
 #include "fuzz/fuzz.h"
 #include "support/app_folder.h"

@@ -4,7 +4,7 @@
 #include "foundation/date_text.h"
 #include "foundation/locale_names.h"
 #include "foundation/numbers.h"
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 #include "fuzz/fuzz.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // A key in the first line and arbitrary bytes after it as a language file: returns a phrase from
 // the file, or the key.
 
-#include "foundation/modFileFx.h"
+#include "foundation/phrases.h"
 #include "fuzz/fuzz.h"
 #include "support/app_folder.h"
 

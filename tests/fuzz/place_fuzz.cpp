@@ -5,7 +5,7 @@
 
 #include "dayperiods/clsUtilities.h"
 #include "engine/clsPP.h"
-#include "foundation/modConvertFx.h"
+#include "foundation/angle_text.h"
 #include "foundation/numbers.h"
 #include "fuzz/fuzz.h"
 

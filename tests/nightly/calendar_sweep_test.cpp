@@ -4,7 +4,7 @@
 
 #include "engine/time_base.h"
 #include "foundation/date_text.h"
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 #include "nightly/days.h"
 #include "support/errors.h"
 #include "support/locales.h"

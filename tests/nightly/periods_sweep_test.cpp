@@ -9,7 +9,7 @@
 #include "dayperiods/clsUtilities.h"
 #include "dayperiods/sunrise_at.h"
 #include "engine/record_chart.h"
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 #include "nightly/days.h"
 #include "support/session_at.h"
 

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "bitmap/libjpeg_library.h"
-#include "foundation/modFileFx.h"
+#include "foundation/folders.h"
 #include "pdf/paper.h"
 #include "support/screen_fakes.h"
 

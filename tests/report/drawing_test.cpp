@@ -4,8 +4,8 @@
 
 #include "bitmap/libjpeg_library.h"
 #include "pdf/paper.h"
-#include "report/modDispRUNTIME.h"
-#include "report/modPrint.h"
+#include "report/display_styles.h"
+#include "report/form_drawing.h"
 #include "support/app_folder.h"
 #include "support/screen_fakes.h"
 

@@ -6,7 +6,7 @@
 #include <fstream>
 #include <string_view>
 
-#include "foundation/modFileFx.h"
+#include "foundation/folders.h"
 
 namespace support {
 

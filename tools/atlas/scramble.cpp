@@ -12,7 +12,7 @@
 
 #include "atlas/city_file.h"
 #include "atlas/index_file.h"
-#include "atlas/modEncDec.h"
+#include "atlas/scrambling.h"
 #include "tools/atlas/index_lines.h"
 #include "tools/atlas/place_table.h"
 

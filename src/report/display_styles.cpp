@@ -1,8 +1,8 @@
-#include "report/modDispRUNTIME.h"
+#include "report/display_styles.h"
 
 #include <string>
 
-#include "foundation/modFileFx.h"
+#include "foundation/phrases.h"
 #include "foundation/resume.h"
 #include "foundation/text.h"
 #include "report/display_settings.h"

@@ -1,4 +1,4 @@
-#include "atlas/modEncDec.h"
+#include "atlas/scrambling.h"
 
 #include <cstdint>
 #include <limits>

@@ -1,22 +1,16 @@
-#include "foundation/modFileFx.h"
+#include "foundation/phrases.h"
 
 #include <array>
-#include <cstdlib>
-#include <utility>
+#include <filesystem>
 
 #include "foundation/files.h"
+#include "foundation/folders.h"
 #include "foundation/text.h"
 
 namespace foundation {
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path& Folder() {
-  std::error_code unknown;
-  static fs::path folder = fs::read_symlink("/proc/self/exe", unknown).parent_path();
-  return folder;
-}
 
 constexpr std::array<std::string_view, 5> kLanguageFiles = {
     "eenglish.txt", "ehindi.txt", "emarathi.txt", "emalayalam.txt", "ekannad.txt"};
@@ -33,33 +27,6 @@ fs::path LanguageFile(std::int32_t language) {
 }
 
 }  // namespace
-
-fs::path AppFolder() {
-  return Folder() / "";
-}
-
-void SetAppFolder(fs::path folder) {
-  Folder() = std::move(folder);
-}
-
-fs::path AtlasFolder() {
-  return AppFolder() / "atlas" / "";
-}
-
-fs::path BackgroundFolder() {
-  return AppFolder() / "BG" / "";
-}
-
-fs::path TempFolder() {
-  std::error_code unknown;
-  if (!fs::exists(AppFolder() / "shared", unknown)) return AppFolder() / "temp" / "";
-  const char* cache = std::getenv("XDG_CACHE_HOME");
-  const char* home = std::getenv("HOME");
-  const fs::path folder = cache != nullptr && *cache != '\0' ? fs::path(cache)
-                          : home != nullptr                  ? fs::path(home) / ".cache"
-                                                             : fs::temp_directory_path(unknown);
-  return folder / "Durvela" / "temp" / "";
-}
 
 std::string LanguagePhrase(std::string_view key, std::int32_t language) {
   const std::string file = ReadFile(LanguageFile(language));

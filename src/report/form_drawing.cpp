@@ -1,4 +1,4 @@
-#include "report/modPrint.h"
+#include "report/form_drawing.h"
 
 #include <string_view>
 

@@ -1,10 +1,10 @@
-#include "foundation/modConvertFx.h"
+#include "foundation/angle_text.h"
 
 #include <cmath>
 
 #include "foundation/checked.h"
 #include "foundation/numbers.h"
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 
 namespace foundation {
 

@@ -1,4 +1,4 @@
-#include "foundation/zzVorin.h"
+#include "foundation/time_text.h"
 
 #include <cmath>
 
