@@ -14,6 +14,7 @@
 namespace day {
 namespace {
 
+using atlas::Place;
 using std::chrono::hours;
 using std::chrono::local_days;
 using std::chrono::minutes;

@@ -6,8 +6,8 @@
 #include <optional>
 #include <vector>
 
+#include "atlas/place.h"
 #include "clocks/zone_clock.h"
-#include "day/place.h"
 
 namespace day {
 
@@ -41,6 +41,6 @@ struct Day {
 // solar series of clsBirthDetails; beyond 63 degrees of latitude, and wherever that series is more
 // than five minutes from the engine's Sun, they are that Sun's, to the second.
 // InvalidCall for another year.
-Day DayOf(const Place& place, const clocks::ZoneClock& clock, std::chrono::local_days date);
+Day DayOf(const atlas::Place& place, const clocks::ZoneClock& clock, std::chrono::local_days date);
 
 }  // namespace day

@@ -7,10 +7,10 @@
 namespace {
 
 using namespace std::chrono;
+using atlas::Place;
 using clocks::Instant;
 using clocks::ZoneClock;
 using day::Day;
-using day::Place;
 
 const Place kDelhi = {"Delhi", "Delhi", "India", 28 + 40 / 60.0, 77 + 13 / 60.0, "Asia/Kolkata"};
 const Place kNewYork = {"New York", "New York", "USA", 40 + 43 / 60.0, -74, "America/New_York"};

@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace day {
+namespace atlas {
 
 struct Place {
   std::string name, state, country;  // UTF-8; may be empty
@@ -12,4 +12,4 @@ struct Place {
   std::string zone;                  // an IANA name, "Asia/Kolkata"
 };
 
-}  // namespace day
+}  // namespace atlas
