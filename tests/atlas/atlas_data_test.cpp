@@ -58,8 +58,9 @@ TEST_F(AtlasData, ContainsEveryPlaceInTheTables) {
       ASSERT_NEAR(Latitude(i), foundation::LeadingNumber(given[2]), 0.5001 / 60) << row;
       ASSERT_NEAR(Longitude(i), foundation::LeadingNumber(given[3]), 1.0001 / 60) << row;
       ASSERT_TRUE(index.Next());
-      ASSERT_EQ(std::tuple(indexed("place"), indexed("state"), indexed("zone")),
-                std::tuple(given[0], given[1], given[5]));
+      ASSERT_EQ(std::tuple(indexed("place"), indexed("state"), indexed("iso"), indexed("zone"),
+                           indexed("population")),
+                std::tuple(given[0], given[1], given[4], given[5], given[6]));
       ASSERT_NEAR(minutes("latitude"), Latitude(i) * 60, 1e-6) << row;
       ASSERT_NEAR(minutes("longitude"), Longitude(i) * 60, 1e-6) << row;
     }

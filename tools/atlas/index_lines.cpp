@@ -25,17 +25,18 @@ class SharedTexts {
 }  // namespace
 
 std::vector<std::string> IndexLines(const std::vector<TablePlace>& places) {
-  SharedTexts states("state"), zones("zone");
+  SharedTexts states("state"), codes("iso"), zones("zone");
   std::vector<std::string> rows;
   for (const TablePlace& place : places) {
     const std::int32_t latitude = LatitudeMinutes(place), longitude = LongitudeMinutes(place);
     rows.push_back(place.name + '\t' + states.NumberOf(place.state) + '\t' +
                    std::to_string(place.latitude < 0 ? -latitude : latitude) + '\t' +
                    std::to_string(place.longitude < 0 ? -longitude : longitude) + '\t' +
-                   zones.NumberOf(place.zone));
+                   codes.NumberOf(place.iso) + '\t' + zones.NumberOf(place.zone) + '\t' +
+                   place.population);
   }
-  std::vector<std::string> lines = {states.Line(), zones.Line(), "",
-                                    "place\tstate\tlatitude\tlongitude\tzone"};
+  std::vector<std::string> lines = {states.Line(), codes.Line(), zones.Line(), "",
+                                    "place\tstate\tlatitude\tlongitude\tiso\tzone\tpopulation"};
   lines.insert(lines.end(), rows.begin(), rows.end());
   return lines;
 }

@@ -21,7 +21,8 @@ TablePlace PlaceOf(std::string_view line) {
   const auto fields = foundation::Split(line, '\t');
   if (fields.size() != 7) throw std::runtime_error("not seven fields");
   TablePlace place = {std::string(fields[0]), std::string(fields[1]), Degrees(fields[2]),
-                      Degrees(fields[3]), std::string(fields[5])};
+                      Degrees(fields[3]),     std::string(fields[4]), std::string(fields[5]),
+                      std::string(fields[6])};
   for (const char c : place.name + place.state) {
     if (c < ' ' || c > '~' || c == ',') throw std::runtime_error("a name with a comma or no ASCII");
   }

@@ -9,7 +9,9 @@
 struct TablePlace {
   std::string name, state;
   double latitude = 0, longitude = 0;  // degrees, north and east positive
+  std::string iso;                     // ISO 3166 code of its country
   std::string zone;                    // IANA name
+  std::string population;              // "0" if unknown
 };
 
 // The places in the order of the table. An error that names the line for one that cannot be read,
