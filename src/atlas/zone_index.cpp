@@ -5,9 +5,8 @@
 #include <numbers>
 
 #include "atlas/index_file.h"
-#include "foundation/angle_text.h"
+#include "atlas/place_texts.h"
 #include "foundation/error.h"
-#include "foundation/numbers.h"
 
 namespace atlas {
 namespace {
@@ -17,17 +16,6 @@ struct Position {
   double latitude, longitude;
   friend bool operator==(const Position&, const Position&) = default;
 };
-
-// Of "28.40N", 28 degrees 40 minutes.
-double Minutes(std::string_view text, char positive, char negative) {
-  const bool signedByLetter = text.ends_with(positive) || text.ends_with(negative);
-  auto number = foundation::WholeNumber(text.substr(0, text.size() - (signedByLetter ? 1 : 0)));
-  if (!signedByLetter || !number || *number < 0) {
-    throw foundation::Error(foundation::ErrorKind::TypeMismatch);
-  }
-  const double minutes = foundation::RoundToInt32(foundation::DegMinToDecimal(*number) * 60);
-  return text.ends_with(negative) ? -minutes : minutes;
-}
 
 // Grows with the distance over the globe: the square of half the chord, on a globe of radius 1.
 double Farness(const Position& a, const Position& b) {
@@ -62,10 +50,11 @@ std::optional<PlaceZone> Search(IndexFile& index, std::string_view city, const P
 
 std::optional<PlaceZone> ZoneOfPlace(std::string_view country, std::string_view city,
                                      std::string_view latitude, std::string_view longitude) {
+  const auto north = ArcMinutes(latitude, 'N', 'S'), east = ArcMinutes(longitude, 'E', 'W');
+  if (!north || !east) return std::nullopt;
   try {
-    const Position wanted = {Minutes(latitude, 'N', 'S'), Minutes(longitude, 'E', 'W')};
     IndexFile index(country);
-    return Search(index, city, wanted);
+    return Search(index, city, {static_cast<double>(*north), static_cast<double>(*east)});
   } catch (const foundation::Error&) {
     return std::nullopt;
   }
