@@ -1,6 +1,7 @@
 // Services of the machine, behind interfaces small enough to fake.
 #pragma once
 
+#include <chrono>
 #include <string_view>
 
 #include "foundation/calendar.h"
@@ -11,6 +12,11 @@ class Clock {
  public:
   virtual ~Clock() = default;
   virtual DateTime Now() const = 0;  // local time, whole seconds
+
+  // The present moment itself, and how far the machine's clock was or will be from Universal Time
+  // at one, east positive.
+  virtual std::chrono::sys_seconds InstantNow() const = 0;
+  virtual std::chrono::seconds OffsetAt(std::chrono::sys_seconds instant) const = 0;
 };
 
 enum class MessageIcon { None, Information, Question, Exclamation, Critical };

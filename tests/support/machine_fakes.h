@@ -1,6 +1,7 @@
 // Fakes of the machine's services.
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <map>
 #include <string>
@@ -12,9 +13,21 @@
 
 namespace support {
 
+// A machine whose clock shows `now`, a fixed time east of Greenwich.
 struct FakeClock : foundation::Clock {
   foundation::DateTime now = 0;
+  std::chrono::seconds east = std::chrono::minutes(330);
+
   foundation::DateTime Now() const override { return now; }
+  std::chrono::sys_seconds InstantNow() const override {
+    const foundation::DateTimeFields at = foundation::FieldsOf(now);
+    const std::chrono::year_month_day date(std::chrono::year(at.year),
+                                           std::chrono::month(static_cast<unsigned>(at.month)),
+                                           std::chrono::day(static_cast<unsigned>(at.day)));
+    return std::chrono::sys_days(date) + std::chrono::hours(at.hour) +
+           std::chrono::minutes(at.minute) + std::chrono::seconds(at.second) - east;
+  }
+  std::chrono::seconds OffsetAt(std::chrono::sys_seconds) const override { return east; }
 };
 
 struct FakeSettings : foundation::Settings {

@@ -14,11 +14,20 @@ namespace {
 
 using screens::qt::FormWindow;
 
-// A stopped clock, for the picture of a known day.
+// A stopped clock in India, for the picture of a known day.
 struct StandingClock : foundation::Clock {
+  static constexpr auto kDate = std::chrono::year(2011) / 3 / 5;
+  static constexpr auto kTime =
+      std::chrono::hours(11) + std::chrono::minutes(12) + std::chrono::seconds(9);
+  static constexpr auto kEast = std::chrono::minutes(330);
+
   foundation::DateTime Now() const override {
     return foundation::DateFromParts(2011, 3, 5) + foundation::TimeFromParts(11, 12, 9);
   }
+  std::chrono::sys_seconds InstantNow() const override {
+    return std::chrono::sys_days(kDate) + kTime - kEast;
+  }
+  std::chrono::seconds OffsetAt(std::chrono::sys_seconds) const override { return kEast; }
 };
 
 class Tour {

@@ -26,6 +26,15 @@ foundation::DateTime QtClock::Now() const {
          foundation::TimeFromParts(time.hour(), time.minute(), time.second());
 }
 
+std::chrono::sys_seconds QtClock::InstantNow() const {
+  return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+}
+
+std::chrono::seconds QtClock::OffsetAt(std::chrono::sys_seconds instant) const {
+  const auto seconds = static_cast<qint64>(instant.time_since_epoch().count());
+  return std::chrono::seconds(QDateTime::fromSecsSinceEpoch(seconds).offsetFromUtc());
+}
+
 foundation::MessageAnswer QtMessageBoxes::Show(std::string_view text, foundation::MessageIcon icon,
                                                foundation::MessageButtons buttons,
                                                std::string_view title) {

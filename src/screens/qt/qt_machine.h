@@ -13,6 +13,8 @@ namespace screens::qt {
 class QtClock : public foundation::Clock {
  public:
   foundation::DateTime Now() const override;
+  std::chrono::sys_seconds InstantNow() const override;
+  std::chrono::seconds OffsetAt(std::chrono::sys_seconds instant) const override;
 };
 
 class QtMessageBoxes : public foundation::MessageBoxes {

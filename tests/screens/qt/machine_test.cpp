@@ -3,6 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QLocale>
+#include <QProcess>
+#include <QTime>
+#include <chrono>
+#include <ctime>
 #include <map>
 
 #include "screens/qt/qt_machine.h"
@@ -11,7 +15,44 @@
 namespace screens::qt {
 namespace {
 
+using namespace std::chrono_literals;
 using support::Row;
+
+// East of Greenwich, of "+05:30:00".
+std::chrono::seconds OffsetByDate(std::chrono::seconds moment) {
+  QProcess date;
+  date.start(QStringLiteral("date"),
+             {QStringLiteral("-d@%1").arg(moment.count()), QStringLiteral("+%::z")});
+  EXPECT_TRUE(date.waitForFinished());
+  const QString text = QString::fromLatin1(date.readAllStandardOutput()).trimmed();
+  const QTime time = QTime::fromString(text.mid(1), QStringLiteral("hh:mm:ss"));
+  EXPECT_TRUE(time.isValid()) << text.toStdString();
+  const auto seconds = std::chrono::seconds(time.msecsSinceStartOfDay() / 1000);
+  return text.startsWith(QLatin1Char('-')) ? -seconds : seconds;
+}
+
+// `date` of the GNU tools, a program of its own, reads the same zone files.
+TEST(QtClock, KnowsTheInstantAndTheMachinesOffset) {
+  const std::chrono::seconds kMoments[] = {1767225600s,   // New Year 2026
+                                           1782864000s,   // 1 July 2026
+                                           1793511000s,   // 1 November 2026, 05:30
+                                           1793514600s,   // 06:30, behind America's change
+                                           -1000000000s,  // 1938
+                                           4086907200s};  // 5 July 2099
+  const QtClock clock;
+  for (const std::chrono::seconds moment : kMoments) {
+    EXPECT_EQ(clock.OffsetAt(std::chrono::sys_seconds(moment)), OffsetByDate(moment))
+        << moment.count();
+  }
+
+  const std::time_t before = std::time(nullptr);
+  const auto now = clock.InstantNow();
+  EXPECT_GE(now.time_since_epoch().count(), before);
+  EXPECT_LE(now.time_since_epoch().count(), std::time(nullptr));
+  const double local = static_cast<double>((now + clock.OffsetAt(now)).time_since_epoch().count());
+  const double days = clock.Now() - foundation::DateFromParts(1970, 1, 1);
+  EXPECT_NEAR(days * 86400, local, 2);
+}
 
 // Names as in the Common Locale Data Repository.
 TEST(SystemNames, AreThoseOfTheLocale) {
