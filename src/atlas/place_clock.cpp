@@ -50,21 +50,26 @@ std::optional<PlaceClock> ClockOfZone(const std::string& zone, PlaceClock::Sourc
   return PlaceClock{*clock, zone, source};
 }
 
+// A number of one or two digits.
+std::optional<int> ShortNumber(std::string_view digits) {
+  if (digits.size() > 2 || digits.find_first_not_of("0123456789") != std::string_view::npos) {
+    return std::nullopt;
+  }
+  const auto number = foundation::WholeNumber(digits);
+  if (!number) return std::nullopt;
+  return foundation::RoundToInt32(*number);
+}
+
 // East of Greenwich, of "-5.30" for five hours and thirty minutes.
 std::optional<seconds> OffsetOf(std::string_view zone) {
   const bool east = zone.starts_with('-');
   if (east || zone.starts_with('+')) zone.remove_prefix(1);
-  constexpr std::size_t kLongest = 5;  // "11.30"
-  if (zone.size() > kLongest || zone.find_first_not_of("0123456789.") != std::string_view::npos) {
-    return std::nullopt;
-  }
   const std::size_t point = zone.find('.');
-  const auto hour = foundation::WholeNumber(zone.substr(0, point));
+  const auto hour = ShortNumber(zone.substr(0, point));
   const auto minute =
-      point == std::string_view::npos ? 0.0 : foundation::WholeNumber(zone.substr(point + 1));
+      point == std::string_view::npos ? std::optional(0) : ShortNumber(zone.substr(point + 1));
   if (!hour || !minute || *hour > 23 || *minute > 59) return std::nullopt;
-  const seconds offset =
-      hours(foundation::RoundToInt32(*hour)) + minutes(foundation::RoundToInt32(*minute));
+  const seconds offset = hours(*hour) + minutes(*minute);
   return east ? offset : -offset;
 }
 
