@@ -1,6 +1,5 @@
 #include "foundation/calendar.h"
 
-#include <chrono>
 #include <cmath>
 #include <cstdint>
 
@@ -65,6 +64,18 @@ DateTimeFields FieldsOf(DateTime moment) {
           at.second / 3600,
           at.second / 60 % 60,
           at.second % 60};
+}
+
+std::chrono::local_seconds CivilTimeOf(DateTime moment) {
+  const DaySeconds at = Split(moment);
+  return std::chrono::local_days(at.day.time_since_epoch()) + std::chrono::seconds(at.second);
+}
+
+DateTime DateTimeOf(std::chrono::local_seconds time) {
+  const auto date = std::chrono::floor<days>(time);
+  const sys_days day = InRange(sys_days(date.time_since_epoch()));
+  return static_cast<double>((day - kDayZero).count()) +
+         static_cast<double>((time - date).count()) / kSecondsPerDay;
 }
 
 int WeekdayOf(DateTime moment) {

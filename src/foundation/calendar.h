@@ -1,6 +1,8 @@
 // Dates and times as one number, in the proleptic Gregorian calendar, years 100 to 9999.
 #pragma once
 
+#include <chrono>
+
 namespace foundation {
 
 // Days since midnight of 30 December 1899. The fraction is the time of day and always counts
@@ -26,5 +28,9 @@ DateTimeFields FieldsOf(DateTime moment);
 
 // 1 = Sunday to 7 = Saturday. InvalidCall as for FieldsOf.
 int WeekdayOf(DateTime moment);
+
+// The same moment as seconds of a clock and calendar. InvalidCall outside the years 100 to 9999.
+std::chrono::local_seconds CivilTimeOf(DateTime moment);
+DateTime DateTimeOf(std::chrono::local_seconds time);
 
 }  // namespace foundation

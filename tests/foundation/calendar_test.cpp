@@ -41,6 +41,24 @@ TEST(Calendar, RoundsFieldsAndSecondsToTheNearest) {
   EXPECT_EQ(FieldsOf(moment), Fields(1737, 5, 20, 6, 12, 9));
 }
 
+TEST(Calendar, CivilTimesAreTheSameMoments) {
+  using namespace std::chrono;
+  // Unix time 0, 13 o'clock on the day before number 0, the limits.
+  const std::pair<DateTime, local_seconds> kMoments[] = {
+      {25569, local_seconds(0s)},
+      {-1 + 13 / 24.0, local_days(1899y / 12 / 29) + 13h},
+      {DateFromParts(2026, 11, 1) + TimeFromParts(1, 30, 59),
+       local_days(2026y / 11 / 1) + 1h + 30min + 59s},
+      {DateFromParts(100, 1, 1), local_days(100y / 1 / 1)},
+      {DateFromParts(9999, 12, 31) + TimeFromParts(23, 59, 59), local_days(10000y / 1 / 1) - 1s}};
+  for (const auto& [moment, time] : kMoments) {
+    EXPECT_EQ(CivilTimeOf(moment), time);
+    EXPECT_EQ(DateTimeOf(time), moment);
+  }
+  EXPECT_ERROR(InvalidCall, DateTimeOf(local_days(100y / 1 / 1) - 1s));
+  EXPECT_ERROR(InvalidCall, DateTimeOf(local_days(10000y / 1 / 1)));
+}
+
 TEST(DateText, ReadsDatesAndTimes) {
   ExpectRows([](std::string_view text) { return FieldsOf(ReadDateTime(text)); },
              Row("5-March-2011 6:12:9", Fields(2011, 3, 5, 6, 12, 9)),

@@ -20,12 +20,7 @@ struct FakeClock : foundation::Clock {
 
   foundation::DateTime Now() const override { return now; }
   std::chrono::sys_seconds InstantNow() const override {
-    const foundation::DateTimeFields at = foundation::FieldsOf(now);
-    const std::chrono::year_month_day date(std::chrono::year(at.year),
-                                           std::chrono::month(static_cast<unsigned>(at.month)),
-                                           std::chrono::day(static_cast<unsigned>(at.day)));
-    return std::chrono::sys_days(date) + std::chrono::hours(at.hour) +
-           std::chrono::minutes(at.minute) + std::chrono::seconds(at.second) - east;
+    return std::chrono::sys_seconds(foundation::CivilTimeOf(now).time_since_epoch()) - east;
   }
   std::chrono::seconds OffsetAt(std::chrono::sys_seconds) const override { return east; }
 };
