@@ -59,6 +59,10 @@ Instant ZoneClock::BeginOf(std::chrono::local_days date) const {
   return found.kind == found.SKIPPED ? found.trans : found.pre;
 }
 
+Instant ZoneClock::NoonOf(std::chrono::local_days date) const {
+  return Read(CivilTime(date) + std::chrono::hours(12)).earlier;
+}
+
 // Changes of letters only are passed over.
 std::optional<Change> ZoneClock::NextChange(Instant instant) const {
   cctz::time_zone::civil_transition civil;

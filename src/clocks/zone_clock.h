@@ -49,6 +49,9 @@ class ZoneClock {
   // The first instant of a civil date, also if the clock skips its midnight.
   Instant BeginOf(std::chrono::local_days date) const;
 
+  // The civil noon of a date, by which the offset of a whole day is taken.
+  Instant NoonOf(std::chrono::local_days date) const;
+
   // The first change after an instant; nothing if there is none.
   std::optional<Change> NextChange(Instant instant) const;
 

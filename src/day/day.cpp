@@ -28,8 +28,7 @@ constexpr double kSecondsPerHour = 3600;
 class NoonClock {
  public:
   NoonClock(const clocks::ZoneClock& clock, local_days date)
-      : noon_(clock.Read(clocks::CivilTime(date) + hours(12)).earlier),
-        east_(clock.OffsetAt(noon_).east) {}
+      : noon_(clock.NoonOf(date)), east_(clock.OffsetAt(noon_).east) {}
 
   Instant Noon() const { return noon_; }
 
@@ -102,19 +101,37 @@ std::optional<Instant> RiseOf(const Place& place, const clocks::ZoneClock& clock
   return noon.At(*rise);
 }
 
-std::vector<Period> PeriodsOf(const dayperiods::DaylightSegments& parts, const NoonClock& clock) {
-  std::vector<Period> periods;
-  const auto add = [&](PeriodKind kind, int part) {
-    periods.push_back(
-        {kind, part, clock.At(parts.Boundary(part)), clock.At(parts.Boundary(part + 1))});
-  };
-  add(PeriodKind::Durvela, dayperiods::DurvelaSegment(parts.weekday));
-  add(PeriodKind::Gulik, dayperiods::GulikSegment(parts.weekday));
-  add(PeriodKind::Yum, dayperiods::YumSegment(parts.weekday));
-  return periods;
+std::vector<Instant> PartsOf(const dayperiods::DaylightSegments& daylight, const NoonClock& clock) {
+  std::vector<Instant> parts;
+  for (int part = 1; part <= dayperiods::kSegmentsOfDaylight + 1; ++part) {
+    parts.push_back(clock.At(daylight.Boundary(part)));
+  }
+  return parts;
+}
+
+int PartOf(PeriodKind kind, int weekday) {
+  switch (kind) {
+    case PeriodKind::Durvela:
+      return dayperiods::DurvelaSegment(weekday);
+    case PeriodKind::Gulik:
+      return dayperiods::GulikSegment(weekday);
+    default:
+      return dayperiods::YumSegment(weekday);
+  }
 }
 
 }  // namespace
+
+int WeekdayOf(local_days date) {
+  return static_cast<int>(std::chrono::weekday(date).c_encoding()) + 1;
+}
+
+std::optional<Period> PeriodOn(const Day& day, PeriodKind kind, int weekday) {
+  if (day.parts.empty()) return std::nullopt;
+  const int part = PartOf(kind, weekday);
+  const auto end = static_cast<std::size_t>(part);
+  return Period{kind, part, day.parts[end - 1], day.parts[end]};
+}
 
 Day DayOf(const Place& place, const clocks::ZoneClock& clock, local_days date) {
   const int year = static_cast<int>(std::chrono::year_month_day(date).year());
@@ -122,17 +139,17 @@ Day DayOf(const Place& place, const clocks::ZoneClock& clock, local_days date) {
 
   const NoonClock noon(clock, date);
   const auto [rise, set, up] = DaylightOf(place, noon, date);
-  Day day = {.date = date,
-             .weekday = static_cast<int>(std::chrono::weekday(date).c_encoding()) + 1,
-             .sun = {},
-             .periods = {}};
+  Day day = {.date = date, .weekday = WeekdayOf(date), .sun = {}, .parts = {}, .periods = {}};
   if (rise) day.sun.rise = noon.At(*rise);
   if (set) day.sun.set = noon.At(*set);
   if (!rise && !set) day.sun.state = up ? Sun::State::PolarDay : Sun::State::PolarNight;
   day.sun.nextRise = RiseOf(place, clock, date + std::chrono::days(1));
   if (rise && set) {
-    day.periods =
-        PeriodsOf({*rise, (*set - *rise) / dayperiods::kSegmentsOfDaylight, day.weekday}, noon);
+    day.parts =
+        PartsOf({*rise, (*set - *rise) / dayperiods::kSegmentsOfDaylight, day.weekday}, noon);
+    for (const PeriodKind kind : {PeriodKind::Durvela, PeriodKind::Gulik, PeriodKind::Yum}) {
+      day.periods.push_back(*PeriodOn(day, kind, day.weekday));
+    }
   }
   return day;
 }

@@ -34,7 +34,9 @@ struct Day {
   std::chrono::local_days date;
   int weekday = 0;  // of the date, 1 = Sunday
   Sun sun;
-  std::vector<Period> periods;  // Durvela, Gulik, Yum; none unless the sun rises and sets
+  // Both empty unless the sun rises and sets.
+  std::vector<Instant> parts;  // the ends of the eight parts of daylight, from sunrise to sunset: 9
+  std::vector<Period> periods;  // Durvela, Gulik, Yum
 };
 
 // The day by the place's clock, years 100 to 9999. Sunrise and sunset are whole minutes by the
@@ -42,5 +44,12 @@ struct Day {
 // than five minutes from the engine's Sun, they are that Sun's, to the second.
 // InvalidCall for another year.
 Day DayOf(const atlas::Place& place, const clocks::ZoneClock& clock, std::chrono::local_days date);
+
+int WeekdayOf(std::chrono::local_days date);  // 1 = Sunday
+
+// A period of the day's daylight by the rule of a weekday. Before sunrise that is another than the
+// day's: the sun is still the day before's, the weekday that of the date. Nothing without daylight;
+// Subscript for a weekday outside 1 to 7.
+std::optional<Period> PeriodOn(const Day& day, PeriodKind kind, int weekday);
 
 }  // namespace day

@@ -55,6 +55,20 @@ TEST(Day, PeriodsAreTheEighthsOfTheDaylight) {
             "2 08:33:23 09:51:45; 6 13:46:53 15:05:15; 4 11:10:08 12:28:30; ");
 }
 
+// Friday's light by the rule of Saturday: the third of the eighths of 06:44 to 18:23.
+TEST(Day, HasThePeriodsOfOtherWeekdays) {
+  const Day friday = DayAt(kDelhi, 2011y / 3 / 4);
+  const auto durvela = day::PeriodOn(friday, day::PeriodKind::Durvela, 7);
+  ASSERT_TRUE(durvela);
+  EXPECT_EQ(durvela->part, 3);
+  EXPECT_EQ(ClockText(kDelhi, durvela->begin), "09:38:45");
+  EXPECT_EQ(ClockText(kDelhi, durvela->end), "11:06:07");
+  EXPECT_EQ(day::WeekdayOf(local_days(2011y / 3 / 5)), 7);
+  EXPECT_EQ(day::WeekdayOf(local_days(2011y / 3 / 6)), 1);
+  EXPECT_FALSE(day::PeriodOn(DayAt(kTromso, 2026y / 6 / 21), day::PeriodKind::Yum, 1));
+  EXPECT_ANY_THROW(day::PeriodOn(friday, day::PeriodKind::Gulik, 8));
+}
+
 // Times by PyEphem, to the minute.
 TEST(Day, FollowsThePlacesClock) {
   const Day summer = DayAt(kNewYork, 2026y / 7 / 1), winter = DayAt(kNewYork, 2026y / 11 / 23);
