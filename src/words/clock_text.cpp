@@ -43,6 +43,13 @@ std::string ClockName(const clocks::Offset& offset) {
   return offset.letters.empty() || offset.letters == utc ? utc : offset.letters + ", " + utc;
 }
 
+std::string TimeText(const clocks::ZoneClock& clock, clocks::Instant instant) {
+  const clocks::CivilTime time = clock.CivilAt(instant);
+  const std::chrono::hh_mm_ss parts(time - std::chrono::floor<std::chrono::days>(time));
+  return TwoDigits(parts.hours().count()) + ":" + TwoDigits(parts.minutes().count()) + ":" +
+         TwoDigits(parts.seconds().count());
+}
+
 std::string MomentText(const clocks::ZoneClock& clock, clocks::Instant instant) {
   const auto east = std::chrono::duration_cast<std::chrono::minutes>(clock.OffsetAt(instant).east);
   const clocks::CivilTime time(instant.time_since_epoch() + east);

@@ -19,6 +19,9 @@ std::string ClockName(const clocks::Offset& offset);
 // offset without them.
 std::string MomentText(const clocks::ZoneClock& clock, clocks::Instant instant);
 
+// The time of day by the clock, "06:43:00".
+std::string TimeText(const clocks::ZoneClock& clock, clocks::Instant instant);
+
 // "2026-11-08"; at least four digits of the year.
 std::string DateText(std::chrono::local_days date);
 

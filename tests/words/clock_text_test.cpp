@@ -33,6 +33,15 @@ TEST(ClockText, MomentsCarryTheOffsetOfTheirClock) {
   EXPECT_EQ(text("Europe/Amsterdam", sys_days(1930y / 1 / 1) + 12h), "1930-01-01T12:19:00+00:19");
 }
 
+TEST(ClockText, TimesOfDayAreByTheClock) {
+  const Instant midnight = sys_days(2026y / 7 / 1);
+  const auto text = [&](const char* zone) {
+    return words::TimeText(*ZoneClock::Named(zone), midnight - 1s);
+  };
+  ExpectRows(text, Row("UTC", "23:59:59"), Row("Asia/Kathmandu", "05:44:59"),
+             Row("America/New_York", "19:59:59"), Row("Pacific/Kiritimati", "13:59:59"));
+}
+
 TEST(ClockText, RecordsHoldMeridianAndHours) {
   ExpectRows(words::MeridianText, Row(-4h, "60.00W"), Row(330min, "82.30E"), Row(0h, "0.00E"),
              Row(seconds(1172), "4.53E"), Row(-210min, "52.30W"));
