@@ -62,7 +62,7 @@ void Fill(report::pk_Durvela& page, DateTime first) {
 // the baseline, which this compensates. Returns false if there were complaints.
 bool WriteDocument(report::pk_Durvela& page, const QString& file) {
   constexpr double kPointsPerTwip = 1 / forms::kTwipsPerPoint;
-  constexpr int kTwips = 3, kHelvetica = 0;
+  constexpr int kUnitTwips = 3, kHelvetica = 0;
   constexpr std::int16_t kSizeDelta = -2, kAscent = 195;
   const screens::qt::QtClock clock;
   const screens::qt::QtRasteriser rasteriser;
@@ -70,7 +70,7 @@ bool WriteDocument(report::pk_Durvela& page, const QString& file) {
   Complaints complaints;
   pdf::PDFPrinter document(clock, complaints, pdf::PictureMeans{rasteriser, library});
   document.PDFFileName(file.toStdString());
-  document.PDFSetUnit(kTwips);
+  document.PDFSetUnit(kUnitTwips);
   document.PDFPageWidth(page.scaleWidth * kPointsPerTwip);
   document.PDFPageHeight(page.scaleHeight * kPointsPerTwip);
   document.PDFBeginDoc();

@@ -40,8 +40,8 @@ void PDFPrinter::PDFSetBorder(std::int32_t border) {
 }
 
 void PDFPrinter::PDFSetAlignement(std::int32_t alignment) {
-  constexpr Alignment kAlignments[] = {Alignment::Centre, Alignment::Left, Alignment::Right,
-                                       Alignment::Justified};
+  constexpr CellAlignment kAlignments[] = {CellAlignment::Centre, CellAlignment::Left,
+                                           CellAlignment::Right, CellAlignment::Justified};
   if (alignment >= 0 && alignment < std::int32_t{std::size(kAlignments)}) {
     cell_.alignment = kAlignments[alignment];
     return;
@@ -50,12 +50,12 @@ void PDFPrinter::PDFSetAlignement(std::int32_t alignment) {
            "Code alignement incorrect : " + std::to_string(alignment) +
                ".\r\nL'alignement utilisé sera l'alignement à "
                "gauche.");
-  cell_.alignment = Alignment::Left;
+  cell_.alignment = CellAlignment::Left;
 }
 
 std::string PDFPrinter::PDFGetAlignement() const {
-  if (cell_.alignment == Alignment::Centre) return "Center";
-  return cell_.alignment == Alignment::Right ? "Right" : "Left";
+  if (cell_.alignment == CellAlignment::Centre) return "Center";
+  return cell_.alignment == CellAlignment::Right ? "Right" : "Left";
 }
 
 void PDFPrinter::PDFCellLine(std::string_view text, double x, double y, double w, double h,
@@ -130,12 +130,12 @@ double PDFPrinter::CellOffset(const ByteText& text, double w) {
   const double inner = w * page_.scale;
   const auto width = [&] { return StringWidth(text, font_.size); };
   switch (cell_.alignment) {
-    case Alignment::Right:
+    case CellAlignment::Right:
       return foundation::LeadingNumber(PDFFormatNumber(inner - page_.cellMargin, 2)) -
              RoundToInt32(width());
-    case Alignment::Centre:
+    case CellAlignment::Centre:
       return RoundToInt32((inner - RoundToInt32(width())) / 2);
-    case Alignment::Justified: {
+    case CellAlignment::Justified: {
       const auto blanks =
           static_cast<double>(std::count(text.Bytes().begin(), text.Bytes().end(), ' '));
       const double free = inner - (blanks + 1) * page_.cellMargin - width();
@@ -173,7 +173,7 @@ void PDFPrinter::PDFCell(std::string_view text, double x, double y, double w, do
   draw(lines.Rest(), x - page_.cellMargin);
 
   font_.underline = false;
-  if (cell_.alignment == Alignment::Justified) {
+  if (cell_.alignment == CellAlignment::Justified) {
     AddLine({"0 Tw"});
     cell_.wordSpacing = 0;
   }

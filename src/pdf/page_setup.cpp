@@ -11,20 +11,20 @@ namespace pdf {
 using foundation::RoundToInt16;
 
 void PDFPrinter::PDFSetUnit(std::int32_t unit) {
-  constexpr double kScales[] = {1, kMillimetres, kCentimetres, kTwips};
+  constexpr double kScales[] = {1, kPointsPerMillimetre, kPointsPerCentimetre, kPointsPerTwip};
   if (unit >= 0 && unit < std::int32_t{std::size(kScales)}) {
     page_.scale = kScales[unit];
     return;
   }
   Complain("Code Unité de Mesure", "Code unité de mesure incorrect : " + std::to_string(unit) +
                                        ".\r\nL'Unité de Mesure utilisée sera le centimètre.");
-  page_.scale = kCentimetres;
+  page_.scale = kPointsPerCentimetre;
 }
 
 std::string PDFPrinter::PDFGetUnit() const {
   if (page_.scale == 1) return "pt";
-  if (page_.scale == kMillimetres) return "mm";
-  return page_.scale == kCentimetres ? "cm" : "";
+  if (page_.scale == kPointsPerMillimetre) return "mm";
+  return page_.scale == kPointsPerCentimetre ? "cm" : "";
 }
 
 void PDFPrinter::PDFOrientation(std::int32_t orientation) {

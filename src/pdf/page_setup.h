@@ -7,9 +7,9 @@
 namespace pdf {
 
 inline constexpr double kPointsPerInch = 72;
-inline constexpr double kMillimetres = kPointsPerInch / 25.4;  // points in each unit
-inline constexpr double kCentimetres = kPointsPerInch / 2.54;
-inline constexpr double kTwips = kPointsPerInch / 1440;
+inline constexpr double kPointsPerMillimetre = kPointsPerInch / 25.4;
+inline constexpr double kPointsPerCentimetre = kPointsPerInch / 2.54;
+inline constexpr double kPointsPerTwip = kPointsPerInch / 1440;
 
 // Points, never scaled.
 struct PageFormat {
@@ -23,7 +23,7 @@ inline constexpr PageFormat kPageFormats[] = {
 
 // User coordinates start at the top left of the page, points in the file at the bottom left.
 struct PageSetup {
-  double scale = kCentimetres;  // points per user unit
+  double scale = kPointsPerCentimetre;  // points per user unit
 
   // Whole user units, except for the cell margin, which takes the unit of whatever it is added to.
   std::int16_t leftMargin = 1, topMargin = 1, rightMargin = 1, bottomMargin = 1;

@@ -56,12 +56,12 @@ struct FontChoice {
   bool underline = false;
 };
 
-enum class Alignment { None, Centre, Left, Right, Justified };
+enum class CellAlignment { None, Centre, Left, Right, Justified };
 
 struct CellStyle {
   std::string border;  // "0", "1" or letters from L, R, T, B
   bool fill = false;
-  Alignment alignment = Alignment::None;
+  CellAlignment alignment = CellAlignment::None;
   double wordSpacing = 0;
 };
 

@@ -9,18 +9,20 @@
 #include <QTest>
 #include <QTimer>
 
+#include "forms/layout.h"
 #include "screens/qt/qt_host.h"
 
 namespace screens::qt {
 namespace {
 
+using forms::layout::kTwipsPerPixel;
+
 struct SizedForm : forms::Form {
   SizedForm(float width, float height)
-      : Form("SizedForm", "Sized", width * kTwips, height * kTwips) {
+      : Form("SizedForm", "Sized", width * kTwipsPerPixel, height * kTwipsPerPixel) {
     minimumWidth = scaleWidth;
     minimumHeight = scaleHeight;
   }
-  static constexpr auto kTwips = static_cast<float>(kTwipsPerPixel);
 };
 
 struct WindowPlace : testing::Test {
@@ -57,7 +59,7 @@ TEST_F(WindowPlace, FillsTheScreenForALargerWindow) {
   host.Show(large);
   EXPECT_EQ(host.WindowOf(large).size().boundedTo(screen.size()), host.WindowOf(large).size());
   EXPECT_EQ(Shown(large), screen);
-  EXPECT_EQ(large.scaleWidth, static_cast<float>(screen.width() - 4) * SizedForm::kTwips);
+  EXPECT_EQ(large.scaleWidth, static_cast<float>(screen.width() - 4) * kTwipsPerPixel);
   host.WindowOf(large).Mirror();
   EXPECT_EQ(Shown(large), screen);  // although its form's minimum size is larger
   host.Unload(large);
