@@ -106,7 +106,7 @@ FIGURE(YearsReport, "a year's report, twelve pages", "Durvela")->Iterations(5);
 
 void TurningAPage(benchmark::State& state) {
   screens::qt::Program& program = OneProgram();
-  report::frmSPkun& preview = program.Preview();
+  screens::frmSPkun& preview = program.Preview();
   RunFor(0.5);
   for (auto _ : state) {
     preview.cmdNext_Click();

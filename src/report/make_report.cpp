@@ -8,7 +8,6 @@
 #include "foundation/numbers.h"
 #include "report/form_drawing.h"
 #include "report/page_row.h"
-#include "report/pk_Durvela.h"
 
 namespace report {
 namespace {
@@ -19,19 +18,16 @@ using foundation::NumberText;
 
 class ReportMaker {
  public:
-  ReportMaker(const ReportInput& input, frmSPkun& preview, const Services& services)
-      : input_(input), preview_(preview), services_(services) {}
+  ReportMaker(const ReportInput& input, foundation::SessionTable& session,
+              foundation::Yielder& yielder, PageReceiver& receiver)
+      : input_(input), session_(session), yielder_(yielder), receiver_(receiver) {}
 
   void Run() {
     WritePlace();
-    services_.host.Unload(preview_);
-    preview_.RESET();
-    preview_.city = input_.city;
+    BeginPage();
+    receiver_.Begin(*page_);
     DateTime day = input_.DT1;
     int month = foundation::FieldsOf(day).month;
-    BeginPage();
-    preview_.PIC.place.width = page_->scaleWidth;
-    preview_.PIC.place.height = page_->scaleHeight;
     // Counts days: with times added, rounding could miss the last one.
     while (day <= input_.DT2) {
       const int monthOfDay = foundation::FieldsOf(day).month;
@@ -43,18 +39,16 @@ class ReportMaker {
       AddRow(AtTime(day));
       day += 1;
       ShowStatus(day);
-      services_.yielder.Yield();
+      yielder_.Yield();
     }
-    input_.lblStatus.caption.clear();
+    receiver_.ShowProgress("");
     EndPage(month, day);
-    page_.reset();
-    Present();
   }
 
  private:
   // Called for each row: while the report yields, the dashboard writes its place to the record.
   void WritePlace() {
-    foundation::SessionRecord& record = services_.session.Current();
+    foundation::SessionRecord& record = session_.Current();
     record.LatitudeText = input_.latitude;
     record.LongitudeText = input_.longitude;
     record.ZoneMeridianText = input_.zoneMeridian;
@@ -75,23 +69,21 @@ class ReportMaker {
 
   void AddRow(DateTime date) {
     WritePlace();
-    FillHead(*page_, date, services_.session, services_.host.TargetOf(preview_.PIC));
-    FillRow(*page_, row_++, date, services_.session);
+    FillHead(*page_, date, session_, receiver_.Target());
+    FillRow(*page_, row_++, date, session_);
   }
 
   void ShowStatus(DateTime day) {
     const DateTimeFields at = foundation::FieldsOf(day);
-    input_.lblStatus.caption =
-        "Loading.. " + foundation::DayMonthYear(at.day, at.month, at.year, ' ');
+    receiver_.ShowProgress("Loading.. " + foundation::DayMonthYear(at.day, at.month, at.year, ' '));
   }
 
   // `next` is the first day after the page; the title uses its year.
   void EndPage(int month, DateTime next) {
-    forms::DrawingTarget& target = services_.host.TargetOf(preview_.PIC);
+    forms::DrawingTarget& target = receiver_.Target();
     target.Cls();
     DrawFormOnTarget(*page_, target, 0, 0);
-    preview_.CreateTMPfile(number_, preview_.PIC);
-    preview_.AddPage(kCachePage, Title(month, next));
+    receiver_.TakePage(number_, Title(month, next));
     number_ = foundation::RoundToInt16(number_ + 1);
   }
 
@@ -100,16 +92,10 @@ class ReportMaker {
            NumberText(foundation::FieldsOf(next).year) + " ..P" + NumberText(number_);
   }
 
-  void Present() {
-    services_.host.Show(preview_);
-    services_.yielder.Yield();
-    preview_.cmdHide_Click();
-    Select(preview_.cmbPage, 0);
-  }
-
   const ReportInput& input_;
-  frmSPkun& preview_;
-  const Services& services_;
+  foundation::SessionTable& session_;
+  foundation::Yielder& yielder_;
+  PageReceiver& receiver_;
   std::unique_ptr<pk_Durvela> page_;
   std::int16_t number_ = 1;
   int row_ = 0;
@@ -117,8 +103,9 @@ class ReportMaker {
 
 }  // namespace
 
-void MakeReport(const ReportInput& input, frmSPkun& preview, const Services& services) {
-  ReportMaker(input, preview, services).Run();
+void MakeReport(const ReportInput& input, foundation::SessionTable& session,
+                foundation::Yielder& yielder, PageReceiver& receiver) {
+  ReportMaker(input, session, yielder, receiver).Run();
 }
 
 }  // namespace report

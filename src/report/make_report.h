@@ -1,12 +1,14 @@
-// Makes the report, one page per month of a date range, and opens it in the preview.
+// Makes the report, one page per month of a date range.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
-#include "forms/control.h"
+#include "forms/drawing_target.h"
 #include "foundation/calendar.h"
-#include "report/frmSPkun.h"
-#include "report/report_services.h"
+#include "foundation/machine.h"
+#include "foundation/session.h"
+#include "report/pk_Durvela.h"
 
 namespace report {
 
@@ -14,11 +16,27 @@ struct ReportInput {
   foundation::DateTime DT1, DT2;  // midnights of the first and last day
   foundation::DateTime dtTime;    // time of day at which each day is calculated
   std::string latitude, longitude, zoneMeridian, zoneTime, city, country;
-  forms::Control& lblStatus;  // shows the progress
 };
 
-// Includes the last day, whatever the time of day. Yields after each row. Errors of the
-// calculations.
-void MakeReport(const ReportInput& input, frmSPkun& preview, const Services& services);
+// Receives a report while it is being made.
+class PageReceiver {
+ public:
+  virtual ~PageReceiver() = default;
+
+  // Called once, before anything is drawn. All pages have the size of this one.
+  virtual void Begin(const pk_Durvela& page) = 0;
+  // The surface for each page in turn. Requested anew for every row and page, since yielding may
+  // replace it.
+  virtual forms::DrawingTarget& Target() = 0;
+  // Page `number`, counted from 1, is on the target.
+  virtual void TakePage(std::int16_t number, const std::string& title) = 0;
+  // "Loading.. 6 March 2011" after each row; empty after the last.
+  virtual void ShowProgress(const std::string& text) = 0;
+};
+
+// Includes the last day, whatever the time of day. Makes a single empty page if DT1 is after DT2.
+// Writes the place to the current record, and yields after each row. Errors of the calculations.
+void MakeReport(const ReportInput& input, foundation::SessionTable& session,
+                foundation::Yielder& yielder, PageReceiver& receiver);
 
 }  // namespace report

@@ -95,8 +95,8 @@ void frmDurvela::cmdPreview_Click() {
                       .zoneMeridian = lblZone.caption,
                       .zoneTime = lblZoneTime.caption,
                       .city = lblCity.caption,
-                      .country = lblCountry.caption,
-                      .lblStatus = lblStatus});
+                      .country = lblCountry.caption},
+                     lblStatus);
 }
 
 void frmDurvela::cmdSave_Click() {

@@ -20,7 +20,7 @@ class frmDurvela : public ScaledForm {
   // The screens that the form opens. The picker is not requested until a place is edited.
   struct Navigation {
     std::function<frmCity&()> picker;
-    std::function<void(const report::ReportInput&)> report;
+    std::function<void(const report::ReportInput&, forms::Control& status)> report;
   };
 
   // Closing returns to the dashboard, which must outlive the form.

@@ -1,37 +1,37 @@
-// Reports with fake services, in a temporary program folder.
+// Reports for Delhi, and a receiver that records them without a window.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include "report/make_report.h"
-#include "support/app_folder.h"
 #include "support/machine_fakes.h"
 #include "support/screen_fakes.h"
 
 namespace report {
 
-struct Reporting {
-  support::AppFolderScope folder;
-  support::FakeSettings settings;
-  support::FakeMessageBoxes boxes;
+inline ReportInput InDelhi(foundation::DateTime from, foundation::DateTime to,
+                           foundation::DateTime time = 0.5) {
+  return {from, to, time, "28.40N", "77.13E", "82.30E", "-5.30", "Delhi", "India"};
+}
+
+struct ReportingTest : testing::Test, PageReceiver {
+  support::RecordingTarget target;
   support::FakeYielder yielder;
-  support::FakeHost host;
-  support::RecordingTarget printer;
   foundation::SessionTable session;
-  support::FakeRasteriser rasteriser;
-  Services services{settings, session, boxes, yielder, host, rasteriser, printer};
-  frmSPkun preview{services};
-  forms::Control status;
+  std::string progress;
+  std::vector<std::string> titles;
+  float width = 0;
 
-  Reporting() { foundation::InitSessionRecord(session, foundation::DateFromParts(2011, 3, 5)); }
+  ReportingTest() { foundation::InitSessionRecord(session, foundation::DateFromParts(2011, 3, 5)); }
 
-  // From one day to another in Delhi.
-  void Make(foundation::DateTime from, foundation::DateTime to, foundation::DateTime time = 0.5) {
-    MakeReport({from, to, time, "28.40N", "77.13E", "82.30E", "-5.30", "Delhi", "India", status},
-               preview, services);
+  void Make(const ReportInput& input) { MakeReport(input, session, yielder, *this); }
+
+  void Begin(const pk_Durvela& page) override { width = page.scaleWidth; }
+  forms::DrawingTarget& Target() override { return target; }
+  void TakePage(std::int16_t number, const std::string& title) override {
+    titles.push_back(std::to_string(number) + ": " + title);
   }
+  void ShowProgress(const std::string& text) override { progress = text; }
 };
-
-struct ReportingTest : testing::Test, Reporting {};
 
 }  // namespace report

@@ -27,7 +27,7 @@ struct Timetable : Fakes {
   frmDurvela form{services,
                   dashboard,
                   {[this]() -> frmCity& { return picker.form; },
-                   [this](const report::ReportInput& of) {
+                   [this](const report::ReportInput& of, forms::Control&) {
                      reports.push_back(Words(of.city, of.latitude, of.longitude, of.zoneMeridian,
                                              of.zoneTime, of.country));
                    }}};

@@ -94,7 +94,7 @@ class Tour {
     screens::frmDurvela& timetable = program.Timetable();
     program.host.Show(timetable);
     timetable.cmdPreview_Click();
-    report::frmSPkun& preview = program.Preview();
+    screens::frmSPkun& preview = program.Preview();
     FormWindow& window = program.host.WindowOf(preview);
     window.Mirror();
     Wait(1000);  // wait for the side panel

@@ -11,6 +11,7 @@
 #include "screens/qt/accessibility.h"
 #include "screens/qt/button_widget.h"
 #include "screens/qt/qt_painting.h"
+#include "screens/show_report.h"
 #include "screens/signs.h"
 
 namespace screens::qt {
@@ -144,11 +145,11 @@ void Program::FillMenu() {
 
 frmDurvela& Program::Timetable() {
   if (!timetable_) {
+    const auto report = [this](const report::ReportInput& input, forms::Control& status) {
+      ShowReport(input, status, Preview(), MakePreviewServices());
+    };
     timetable_.emplace(MakeServices(), dashboard,
-                       frmDurvela::Navigation{[this]() -> frmCity& { return Picker(); },
-                                              [this](const report::ReportInput& input) {
-                                                MakeReport(input, Preview(), MakeReportServices());
-                                              }});
+                       frmDurvela::Navigation{[this]() -> frmCity& { return Picker(); }, report});
   }
   return *timetable_;
 }
@@ -163,8 +164,8 @@ frmCity& Program::Picker() {
   return *picker_;
 }
 
-report::frmSPkun& Program::Preview() {
-  if (!preview_) preview_.emplace(MakeReportServices());
+frmSPkun& Program::Preview() {
+  if (!preview_) preview_.emplace(MakePreviewServices());
   return *preview_;
 }
 

@@ -11,6 +11,7 @@
 #include "screens/frmCity.h"
 #include "screens/frmDurvela.h"
 #include "screens/frmMain.h"
+#include "screens/frmSPkun.h"
 #include "screens/information.h"
 #include "screens/qt/qt_host.h"
 #include "screens/qt/qt_machine.h"
@@ -38,12 +39,12 @@ class Program {
   frmDurvela& Timetable();
   frmAbout& About();
   frmCity& Picker();
-  report::frmSPkun& Preview();
+  frmSPkun& Preview();
   InformationScreen& Information(const InformationPage& page);
 
  private:
   Services MakeServices() { return {*now_, settings_, session_, boxes_, browser_, host}; }
-  report::Services MakeReportServices() {
+  PreviewServices MakePreviewServices() {
     return {settings_, session_, boxes_, yielder_, host, rasteriser_, printer_};
   }
   void FillMenu();
@@ -61,7 +62,7 @@ class Program {
   std::optional<frmDurvela> timetable_;
   std::optional<frmAbout> about_;
   std::optional<frmCity> picker_;
-  std::optional<report::frmSPkun> preview_;
+  std::optional<frmSPkun> preview_;
   std::map<const InformationPage*, InformationScreen> information_;
 
  public:

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 TEST(PreviewWindow, MovesTheFocusOutOfItsPanelWhenThatCloses) {
   WholeProgram whole;
-  report::frmSPkun& preview = whole.program.Preview();
+  frmSPkun& preview = whole.program.Preview();
   whole.program.host.Show(preview);
   FormWindow& window = whole.program.host.WindowOf(preview);
   window.activateWindow();

@@ -14,7 +14,7 @@
 #include <QWindow>
 
 #include "report/page_files.h"
-#include "report/reporting.h"
+#include "screens/previewing.h"
 #include "screens/qt/qt_host.h"
 #include "screens/qt/qt_printer.h"
 #include "support/errors.h"
@@ -29,21 +29,19 @@ using foundation::DateFromParts;
 // A report for Delhi from 1 January 2011, rendered as in the program.
 struct Printing {
   explicit Printing(foundation::DateTime end, const QString& file = {}) : printer(file) {
-    MakeReport({DateFromParts(2011, 1, 1), end, 0.5, "28.40N", "77.13E", "82.30E", "-5.30", "Delhi",
-                "India", fakes.status},
-               preview, services);
+    ShowReport(report::InDelhi(DateFromParts(2011, 1, 1), end), fakes.status, preview, services);
   }
   ~Printing() { host.Unload(preview); }
 
   std::string FirstMessage() const { return fakes.boxes.shown.at(0).text; }
 
-  report::Reporting fakes;
+  Previewing fakes;
   QtHost host;
   QtRasteriser rasteriser;
   QtPrinter printer;
-  report::Services services{fakes.settings, fakes.session, fakes.boxes, fakes.yielder,
-                            host,           rasteriser,    printer};
-  report::frmSPkun preview{services};
+  PreviewServices services{fakes.settings, fakes.session, fakes.boxes, fakes.yielder,
+                           host,           rasteriser,    printer};
+  frmSPkun preview{services};
 };
 
 QByteArray BytesOf(const QString& file) {

@@ -1,4 +1,4 @@
-#include "report/frmSPkun.h"
+#include "screens/frmSPkun.h"
 
 #include "engine/record_chart.h"
 #include "foundation/files.h"
@@ -6,15 +6,14 @@
 #include "foundation/numbers.h"
 #include "foundation/resume.h"
 #include "report/form_drawing.h"
-#include "report/page_bands.h"
 #include "report/page_files.h"
+#include "screens/page_bands.h"
 
-namespace report {
+namespace screens {
 namespace {
 
 using foundation::Resume;
-
-constexpr float kTwips = preview_layout::kTwipsPerPixel;
+using layout::kTwipsPerPixel;
 
 const std::string& Nth(const std::vector<std::string>& list, int number) {
   if (number < 1 || number > static_cast<int>(list.size())) {
@@ -25,13 +24,14 @@ const std::string& Nth(const std::vector<std::string>& list, int number) {
 
 }  // namespace
 
-frmSPkun::frmSPkun(Services services)
-    : Form("frmSPkun", "Durvela - Print Preview", preview_layout::kWidth * kTwips,
-           preview_layout::kHeight * kTwips),
+frmSPkun::frmSPkun(PreviewServices services)
+    : Form("frmSPkun", "Durvela - Print Preview", preview_layout::kWidth * kTwipsPerPixel,
+           preview_layout::kHeight * kTwipsPerPixel),
       services_(services) {
-  minimumWidth = cmdPrint.place.left + cmdPrint.place.width + preview_layout::kInset * kTwips;
+  minimumWidth =
+      cmdPrint.place.left + cmdPrint.place.width + preview_layout::kInset * kTwipsPerPixel;
   minimumHeight = scaleHeight * 0.5F;
-  backColour = preview_layout::palette::kDesk;
+  backColour = palette::kDesk;
 
   cmbPage.onClick = [this] { cmbPage_Click(); };
   lstPage.onClick = [this] { lstPage_Click(); };
@@ -70,7 +70,7 @@ void frmSPkun::RESET() {
 }
 
 void frmSPkun::KillAllTmpFile() {
-  DeletePages();
+  report::DeletePages();
 }
 
 void frmSPkun::CreateTMPfile(std::int16_t PageNum, const forms::Control& pictureBox) {
@@ -79,7 +79,7 @@ void frmSPkun::CreateTMPfile(std::int16_t PageNum, const forms::Control& picture
     forms::Picture blank = {.width = pictureBox.place.width, .height = pictureBox.place.height};
     const forms::Picture& shown = pictureBox.picture ? *pictureBox.picture : blank;
     words_[PageNum] = forms::LinesOf(shown);
-    SavePage(PageNum, services_.rasteriser.Render(shown));
+    report::SavePage(PageNum, services_.rasteriser.Render(shown));
     unwritten_.erase(PageNum);
   });
 }
@@ -123,10 +123,10 @@ void frmSPkun::ShowPage(std::int16_t& PageNum, std::string_view Pname, std::stri
   PIC.picture = nullptr;
   // Its file may still hold a page of an earlier report.
   if (unwritten_.contains(PageNum)) {
-    throw foundation::FileError(foundation::ErrorKind::FileAccess, PageFile(PageNum),
+    throw foundation::FileError(foundation::ErrorKind::FileAccess, report::PageFile(PageNum),
                                 "cannot be written");
   }
-  PIC.picture = LoadPage(PageNum);
+  PIC.picture = report::LoadPage(PageNum);
   PIC.spokenText = words_[PageNum];
   if (ToPrinter) {
     services_.printer.PaintPicture(PIC.picture, 0, 0, PIC.picture->width, PIC.picture->height);
@@ -135,7 +135,7 @@ void frmSPkun::ShowPage(std::int16_t& PageNum, std::string_view Pname, std::stri
 
 void frmSPkun::DrawDirectly(std::int16_t PageNum, forms::DrawingTarget& target) {
   const frmPrintLayout layout;
-  DrawBands(layout, PageNum, services_, target);
+  DrawBands(layout, PageNum, services_.session, services_.settings, target);
   const forms::Place& place = layout.lblCurrentPageNum.place;
   target.SetCurrentX(place.left - place.width);
   target.SetCurrentY(place.top);
@@ -159,17 +159,17 @@ void frmSPkun::PaintForm(forms::Form& page, double X, double Y) {
     services_.host.TargetOf(PIC).Cls();
   }
   if (X == 0 && Y == 0) {
-    PIC.picture = ImageOf(page);
+    PIC.picture = report::ImageOf(page);
     services_.host.ForgetTarget(PIC);  // the next target starts with this picture
   } else {
-    services_.host.TargetOf(PIC).PaintPicture(ImageOf(page), X, Y, page.scaleWidth,
+    services_.host.TargetOf(PIC).PaintPicture(report::ImageOf(page), X, Y, page.scaleWidth,
                                               page.scaleHeight);
   }
   forms::DrawingTarget& target = services_.host.TargetOf(PIC);
   for (const forms::Control& box : page.Controls()) {
     if (box.kind != forms::Kind::PictureBox || box.tag == "no") continue;
-    target.PaintPicture(ImageOf(box), X + box.place.left, Y + box.place.top, box.place.width,
-                        box.place.height);
+    target.PaintPicture(report::ImageOf(box), X + box.place.left, Y + box.place.top,
+                        box.place.width, box.place.height);
   }
 }
 
@@ -214,4 +214,4 @@ void frmSPkun::cmdGO_Click() {
   Select(cmbPage, number);
 }
 
-}  // namespace report
+}  // namespace screens

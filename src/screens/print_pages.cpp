@@ -2,9 +2,9 @@
 
 #include "foundation/error.h"
 #include "foundation/resume.h"
-#include "report/frmSPkun.h"
+#include "screens/frmSPkun.h"
 
-namespace report {
+namespace screens {
 namespace {
 
 constexpr double kWidestPortrait = 21000;  // twips
@@ -99,4 +99,4 @@ void frmSPkun::cmdPrintPage_Click() {
   }
 }
 
-}  // namespace report
+}  // namespace screens

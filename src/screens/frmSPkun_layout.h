@@ -5,14 +5,11 @@
 #include <string>
 #include <string_view>
 
-#include "forms/layout.h"
+#include "screens/layout.h"
 
-namespace report::preview_layout {
+namespace screens::preview_layout {
 
-namespace palette = forms::palette;
-using forms::Properties;
-using forms::layout::At;
-using forms::layout::kTwipsPerPixel;
+using namespace layout;
 
 inline constexpr float kWidth = 1100;  // logical pixels
 inline constexpr float kHeight = 760;
@@ -66,7 +63,7 @@ inline Properties Slogan(forms::Control& bar) {
           .caption = "A page for each month",
           .font = {.size = 9.375F},
           .foreColour = palette::kFaintOnEarth,
-          .alignment = forms::Alignment::Right};
+          .alignment = Alignment::Right};
 }
 
 inline Properties SidePanel() {
@@ -120,4 +117,4 @@ inline Properties ScrollBar(std::string_view spokenName, int tabIndex) {
           .tabIndex = tabIndex};
 }
 
-}  // namespace report::preview_layout
+}  // namespace screens::preview_layout

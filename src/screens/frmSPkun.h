@@ -10,17 +10,17 @@
 #include <vector>
 
 #include "forms/form.h"
-#include "report/frmSPkun_layout.h"
-#include "report/report_services.h"
+#include "screens/frmSPkun_layout.h"
+#include "screens/preview_services.h"
 
-namespace report {
+namespace screens {
 
 // The name of pages that come from page files.
 inline constexpr std::string_view kCachePage = "cachepage";
 
 class frmSPkun : public forms::Form {
  public:
-  explicit frmSPkun(Services services);
+  explicit frmSPkun(PreviewServices services);
 
   // The table of controls, bottom first.
   CONTROL(PictureBox, picPage, preview_layout::Desk());
@@ -121,7 +121,7 @@ class frmSPkun : public forms::Form {
   void NameDocument(int first, int last);
   void SetOrientation();
 
-  Services services_;
+  PreviewServices services_;
   std::vector<std::string> colPageName_, colPageTitle_;
   std::string backgroundPath_;
   bool dragging_ = false;
@@ -131,4 +131,4 @@ class frmSPkun : public forms::Form {
   std::set<std::int16_t> unwritten_;
 };
 
-}  // namespace report
+}  // namespace screens

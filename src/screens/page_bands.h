@@ -1,10 +1,12 @@
 // Header and footer of pages drawn directly, and their layout.
 #pragma once
 
+#include "forms/drawing_target.h"
 #include "forms/form.h"
-#include "report/report_services.h"
+#include "foundation/session.h"
+#include "foundation/settings.h"
 
-namespace report {
+namespace screens {
 
 class frmHeader : public forms::Form {
  public:
@@ -47,7 +49,7 @@ class frmPrintLayoutDesi : public forms::Form {
 };
 
 // Draws the header on page 0 only, the footer on every page.
-void DrawBands(const frmPrintLayout& layout, int PageNum, const Services& services,
-               forms::DrawingTarget& target);
+void DrawBands(const frmPrintLayout& layout, int PageNum, const foundation::SessionTable& session,
+               foundation::Settings& settings, forms::DrawingTarget& target);
 
-}  // namespace report
+}  // namespace screens

@@ -2,19 +2,21 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "foundation/version.h"
 #include "report/page_files.h"
-#include "report/reporting.h"
+#include "screens/previewing.h"
 #include "support/errors.h"
 #include "support/locales.h"
 #include "support/table.h"
 
-namespace report {
+namespace screens {
 namespace {
 
 using support::Row;
 
-struct Preview : ReportingTest {
+struct Preview : PreviewTest {
   Preview() {
     Make(foundation::DateFromParts(2011, 1, 30), foundation::DateFromParts(2011, 3, 2));
     preview.Form_Load();
@@ -143,7 +145,7 @@ TEST_F(Preview, PrintsAllPagesOrTheShownOne) {
 
 TEST_F(Preview, ReportsPrintingErrors) {
   const std::string name = "DocumentName Durvela January 2011 to March 2011, Delhi|";
-  const std::string failure = "The file " + PageFile(1).string() + " is not a bitmap";
+  const std::string failure = "The file " + report::PageFile(1).string() + " is not a bitmap";
   folder.Write("temp/prv1.tmp", "no bitmap");
   EXPECT_TRUE(Print(preview.cmdPrintPage).ends_with("Print 0 0 |EndDoc|"));
   boxes.answer = foundation::MessageAnswer::Yes;
@@ -178,22 +180,59 @@ TEST_F(Preview, DrawsOtherPagesDirectly) {
             "300 15315 Company|2750 15315 Tag|10400 15600 1|");
 }
 
+// What the user could see of a report with a page for each of two days, in order.
+TEST_F(PreviewTest, IsFilledAndShownStepByStep) {
+  std::vector<std::string> steps;
+  const auto note = [&](const std::string& state) {
+    steps.push_back(state + ", " + std::to_string(preview.cmbPage.items->ListCount()) + ", " +
+                    std::to_string(std::ranges::count(host.target.calls, "Cls")) + ", " +
+                    host.calls.back());
+  };
+  yielder.between = [&](int) {
+    note(status.caption);
+    EXPECT_EQ(preview.PIC.place.width, 13635);
+    EXPECT_EQ(preview.city, "Delhi");
+    EXPECT_TRUE(preview.cmdHide.visible);
+  };
+  preview.AddPage(kCachePage, "of an earlier report");
+  Make(foundation::DateFromParts(2011, 1, 31), foundation::DateFromParts(2011, 2, 1));
+  note("done");
+  EXPECT_EQ(steps,
+            (std::vector<std::string>{"Loading.. 1 February 2011, 0, 0, Unload frmSPkun",
+                                      "Loading.. 2 February 2011, 1, 1, Unload frmSPkun",
+                                      ", 2, 2, Show frmSPkun", "done, 2, 3, Show frmSPkun"}));
+  EXPECT_TRUE(preview.Timer1.enabled);  // closes the panel
+  EXPECT_EQ(preview.cmbPage.items->ListIndex(), 0);
+}
+
 // A page that could not be written may leave an older page's file under its name.
 TEST_F(Preview, ShowsNoStalePage) {
   rasteriser.dots = {};
   preview.CreateTMPfile(1, preview.PIC);
   std::int16_t number = 1;
   EXPECT_EQ(support::FailureOf([&] { preview.ShowPage(number, kCachePage, "May ..P1", false); }),
-            "The file " + PageFile(1).string() + " cannot be written");
+            "The file " + report::PageFile(1).string() + " cannot be written");
 }
 
-using PageFiles = ReportingTest;
+using PageFiles = PreviewTest;
 
 TEST_F(PageFiles, IgnoreFailuresToWriteThem) {
   folder.Write("temp", "a file instead of the folder");
   preview.CreateTMPfile(1, preview.PIC);
   preview.KillAllTmpFile();
-  EXPECT_ERROR(FileNotFound, LoadPage(1));
+  EXPECT_ERROR(FileNotFound, report::LoadPage(1));
+}
+
+TEST_F(PageFiles, KeepOnePerMonthUntilTheNextReport) {
+  const auto files = [&] {
+    return std::distance(std::filesystem::directory_iterator(folder.path / "temp"), {});
+  };
+  for (const char* name : {"temp/foreign.tmp", "temp/kept.txt"}) folder.Write(name, "x");
+  Make(foundation::DateFromParts(2011, 1, 1), foundation::DateFromParts(2011, 12, 31));
+  EXPECT_EQ(files(), 13);  // one of them kept.txt
+  EXPECT_EQ(host.calls, (std::vector<std::string>{"Unload frmSPkun", "Show frmSPkun"}));
+  Make(foundation::DateFromParts(2011, 3, 5), foundation::DateFromParts(2011, 3, 5));
+  EXPECT_EQ(files(), 2);
 }
 
 TEST_F(PageFiles, AreSharedByTwoPrograms) {
@@ -209,4 +248,4 @@ TEST_F(PageFiles, AreSharedByTwoPrograms) {
 }
 
 }  // namespace
-}  // namespace report
+}  // namespace screens

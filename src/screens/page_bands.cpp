@@ -1,4 +1,4 @@
-#include "report/page_bands.h"
+#include "screens/page_bands.h"
 
 #include "foundation/numbers.h"
 #include "foundation/time_text.h"
@@ -6,7 +6,7 @@
 #include "report/display_styles.h"
 #include "report/form_drawing.h"
 
-namespace report {
+namespace screens {
 namespace {
 
 using foundation::NumberText;
@@ -26,7 +26,7 @@ std::string Born(const foundation::SessionRecord& record) {
 frmHeader::frmHeader(const foundation::SessionTable& session) : Form("frmHeader", "", 11250, 900) {
   lblName.caption = session.Current().PersonName;
   lblDOB.caption = Born(session.Current());
-  ApplyDisplayStyles(*this, session.CurrentLanguage);
+  report::ApplyDisplayStyles(*this, session.CurrentLanguage);
 }
 
 frmFooter::frmFooter(foundation::Settings& settings, std::int32_t language)
@@ -37,7 +37,7 @@ frmFooter::frmFooter(foundation::Settings& settings, std::int32_t language)
   lblCompany.caption = line("company");
   lblTag.caption = line("tag");
   lblAddress.caption = line("address");
-  ApplyDisplayStyles(*this, language);
+  report::ApplyDisplayStyles(*this, language);
   lblCompany_Change();
 }
 
@@ -45,14 +45,14 @@ void frmFooter::lblCompany_Change() {
   lblTag.place.left = lblCompany.place.left + lblCompany.place.width + kTagGap;
 }
 
-void DrawBands(const frmPrintLayout& layout, int PageNum, const Services& services,
-               forms::DrawingTarget& target) {
+void DrawBands(const frmPrintLayout& layout, int PageNum, const foundation::SessionTable& session,
+               foundation::Settings& settings, forms::DrawingTarget& target) {
   if (PageNum == 0) {
-    frmHeader header(services.session);
-    DrawFormOnTarget(header, target, layout.picHead.place.left, layout.picHead.place.top);
+    frmHeader header(session);
+    report::DrawFormOnTarget(header, target, layout.picHead.place.left, layout.picHead.place.top);
   }
-  frmFooter footer(services.settings, services.session.CurrentLanguage);
-  DrawFormOnTarget(footer, target, layout.picFoot.place.left, layout.picFoot.place.top);
+  frmFooter footer(settings, session.CurrentLanguage);
+  report::DrawFormOnTarget(footer, target, layout.picFoot.place.left, layout.picFoot.place.top);
 }
 
-}  // namespace report
+}  // namespace screens

@@ -1,4 +1,4 @@
-// The services that the report uses.
+// The services that the preview uses.
 #pragma once
 
 #include "forms/screen_services.h"
@@ -6,9 +6,9 @@
 #include "foundation/session.h"
 #include "foundation/settings.h"
 
-namespace report {
+namespace screens {
 
-struct Services {
+struct PreviewServices {
   foundation::Settings& settings;
   foundation::SessionTable& session;
   foundation::MessageBoxes& boxes;
@@ -18,4 +18,4 @@ struct Services {
   forms::Printer& printer;
 };
 
-}  // namespace report
+}  // namespace screens

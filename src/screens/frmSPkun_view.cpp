@@ -4,14 +4,14 @@
 
 #include "foundation/numbers.h"
 #include "foundation/resume.h"
-#include "report/frmSPkun.h"
+#include "screens/frmSPkun.h"
 
-namespace report {
+namespace screens {
 namespace {
 
 using foundation::Resume;
+using layout::kTwipsPerPixel;
 
-constexpr float kTwips = preview_layout::kTwipsPerPixel;
 constexpr int kKeyStep = 1000;                        // twips per arrow key
 constexpr float kSlideStep = 100;                     // twips
 constexpr double kSmallStep = 0.1, kLargeStep = 0.5;  // of the full range
@@ -128,12 +128,12 @@ void frmSPkun::ResizePanel(float panelWidth) {
 
 // Always starts with the panel open.
 void frmSPkun::Form_Load() {
-  scaleWidth = preview_layout::kWidth * kTwips;
-  scaleHeight = preview_layout::kHeight * kTwips;
+  scaleWidth = preview_layout::kWidth * kTwipsPerPixel;
+  scaleHeight = preview_layout::kHeight * kTwipsPerPixel;
   windowState = forms::WindowState::Normal;
   Timer1.enabled = Timer2.enabled = false;
   OpenPanel(true);
-  ResizePanel(preview_layout::kPanelWidth * kTwips);
+  ResizePanel(preview_layout::kPanelWidth * kTwipsPerPixel);
   activeControl = &cmbPage;
   LayOut();
 }
@@ -143,11 +143,12 @@ void frmSPkun::Form_Resize() {
 }
 
 void frmSPkun::LayOut() {
-  constexpr float kBar = preview_layout::kBar * kTwips;
+  constexpr float kBar = preview_layout::kBar * kTwipsPerPixel;
   picTOOL.place.width = scaleWidth;
   const float above = picTOOL.place.height;
   const float below = std::max(0.0F, scaleHeight - above);
-  lblProduct.place.left = scaleWidth - lblProduct.place.width - preview_layout::kInset * kTwips;
+  lblProduct.place.left =
+      scaleWidth - lblProduct.place.width - preview_layout::kInset * kTwipsPerPixel;
   lblProduct.visible = lblProduct.place.left > cmdPrint.place.left + cmdPrint.place.width;
   picLeft.place = {0, above, picLeft.place.width, below};
   lstPage.place.height = std::max(0.0F, below - lstPage.place.top);
@@ -164,4 +165,4 @@ void frmSPkun::LayOut() {
   });
 }
 
-}  // namespace report
+}  // namespace screens
