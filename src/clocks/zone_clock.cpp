@@ -63,6 +63,10 @@ Instant ZoneClock::NoonOf(std::chrono::local_days date) const {
   return Read(CivilTime(date) + std::chrono::hours(12)).earlier;
 }
 
+bool ZoneClock::HasDate(std::chrono::local_days date) const {
+  return BeginOf(date) < BeginOf(date + std::chrono::days(1));
+}
+
 // Changes of letters only are passed over.
 std::optional<Change> ZoneClock::NextChange(Instant instant) const {
   cctz::time_zone::civil_transition civil;

@@ -52,6 +52,9 @@ class ZoneClock {
   // The civil noon of a date, by which the offset of a whole day is taken.
   Instant NoonOf(std::chrono::local_days date) const;
 
+  // Whether the clock shows a civil date at all: a zone that moves over the date line skips one.
+  bool HasDate(std::chrono::local_days date) const;
+
   // The first change after an instant; nothing if there is none.
   std::optional<Change> NextChange(Instant instant) const;
 

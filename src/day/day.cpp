@@ -143,7 +143,9 @@ Day DayOf(const Place& place, const clocks::ZoneClock& clock, local_days date) {
   if (rise) day.sun.rise = noon.At(*rise);
   if (set) day.sun.set = noon.At(*set);
   if (!rise && !set) day.sun.state = up ? Sun::State::PolarDay : Sun::State::PolarNight;
-  day.sun.nextRise = RiseOf(place, clock, date + std::chrono::days(1));
+  local_days next = date + std::chrono::days(1);
+  if (!clock.HasDate(next)) next += std::chrono::days(1);
+  day.sun.nextRise = RiseOf(place, clock, next);
   if (rise && set) {
     day.parts =
         PartsOf({*rise, (*set - *rise) / dayperiods::kSegmentsOfDaylight, day.weekday}, noon);

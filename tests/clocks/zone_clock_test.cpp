@@ -78,6 +78,9 @@ TEST(ZoneClock, ADateBeginsAlsoWithoutAMidnight) {
   EXPECT_EQ(Clock("America/Santiago").BeginOf(local_days(2026y / 9 / 6)), Utc(2026y / 9 / 6, 4h));
   // Samoa had no 30 December 2011.
   EXPECT_EQ(Clock("Pacific/Apia").BeginOf(local_days(2011y / 12 / 30)), Utc(2011y / 12 / 30, 10h));
+  EXPECT_FALSE(Clock("Pacific/Apia").HasDate(local_days(2011y / 12 / 30)));
+  EXPECT_TRUE(Clock("Pacific/Apia").HasDate(local_days(2011y / 12 / 31)));
+  EXPECT_TRUE(Clock("America/Santiago").HasDate(local_days(2026y / 9 / 6)));
 }
 
 TEST(ZoneClock, ChangesAreThoseOfTheOffset) {

@@ -96,6 +96,14 @@ TEST(Day, BeyondThePolarCircleTheSunMayNotRise) {
   EXPECT_GT(*may.sun.set, *may.sun.rise + 22h);
 }
 
+// Samoa had no 30 December 2011.
+TEST(Day, EndsAtTheSunriseOfTheNextDateThatThereIs) {
+  const Place apia = {"Apia", "", "Samoa", -13 - 50 / 60.0, -171 - 46 / 60.0, "Pacific/Apia"};
+  const Day before = DayAt(apia, 2011y / 12 / 29), after = DayAt(apia, 2011y / 12 / 31);
+  EXPECT_EQ(before.sun.nextRise, after.sun.rise);
+  EXPECT_LT(abs(*before.sun.nextRise - *before.sun.rise - 24h), 2min);
+}
+
 // The solar series has 24:00, and so midnight, for the rise here.
 TEST(Day, TheEnginesSunStandsInWhereTheSeriesFails) {
   const Place kolpino = {"Kolpino", "", "Russia", 59 + 45 / 60.0, 30 + 36 / 60.0, "Europe/Moscow"};
