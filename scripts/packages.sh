@@ -1,7 +1,7 @@
 # Packages that Durvela needs on Debian 12. Sourced by every script.
 
 run_packages=(cmake g++ ninja-build qt6-base-dev qt6-wayland libjpeg62-turbo-dev libcctz-dev tzdata
-  fonts-noto-core fonts-lohit-deva fonts-lohit-mlym fonts-lohit-knda)
+  libcli11-dev nlohmann-json3-dev fonts-noto-core fonts-lohit-deva fonts-lohit-mlym fonts-lohit-knda)
 display_packages=(xvfb xauth)
 test_packages=(libgtest-dev locales tzdata appstream desktop-file-utils xvfb dbus-daemon at-spi2-core
   python3-gi gir1.2-atspi-2.0)
