@@ -7,6 +7,9 @@ cmake --install "$2" --prefix "$folder/Any दिल्ली Place" >/dev/null
 cd "$folder/Any दिल्ली Place"
 
 [ "$(bin/durvela --version)" = "Durvela $3" ]
+[ "$(bin/durvela-cli --version)" = "durvela-cli $3" ]
+export XDG_CONFIG_HOME=$folder
+bin/durvela-cli day --place Ujjain --date 2026-11-08 | grep -qF "Ujjain, Madhya Pradesh, India"
 home=$(dirname "$(readlink -f bin/durvela)")
 count() { find "$1" -name "$2" | wc -l; }
 for kind in city index; do
@@ -19,5 +22,15 @@ zcat share/doc/durvela/changelog.gz | head -n 1 | grep -qF "($3)"
 zcat share/doc/durvela/changelog.gz | grep -m 1 '^ -- ' |
   grep -qF "$(LC_ALL=C date -d "$4" '+%a, %d %b %Y')"
 grep -m 1 '<release ' share/metainfo/*.xml | grep -qF "version=\"$3\" date=\"$4\""
-zcat share/man/man1/durvela.1.gz | grep -qF "Durvela $3"
+for manual in durvela durvela-cli; do
+  zcat "share/man/man1/$manual.1.gz" | grep -qF "Durvela $3"
+done
+# bash completes every option that the program has.
+. share/bash-completion/completions/durvela-cli
+for command in day days; do
+  COMP_WORDS=(durvela-cli $command --) COMP_CWORD=2
+  _durvela_cli
+  diff <(printf '%s\n' "${COMPREPLY[@]}" | sort) \
+    <(bin/durvela-cli $command --help | grep -o '^  --[a-z]*' | tr -d ' ' | sort)
+done
 [ "$(count share/icons '*.svg')" -eq 2 ]
