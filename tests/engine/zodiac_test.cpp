@@ -14,6 +14,7 @@
 namespace engine {
 namespace {
 
+using support::Beginnings;
 using support::Row;
 using support::Translated;
 
@@ -28,11 +29,8 @@ TEST(Zodiac, NamesStandInTheirOrder) {
             "Jyes Mool P. A U. A Shra Dhan Shat P. B U. B Reva");
   EXPECT_EQ(Translated(12, 3, [](std::int16_t sign) { return RashiNameText(sign, false); }),
             "Ari Tau Gem Can Leo Vir Lib Sco Sag Cap Aqu Pis");
-  std::string hindi;
-  for (std::int16_t sign = 1; sign <= 12; ++sign) {
-    hindi += foundation::FromLegacyHindi(RashiNameLang(sign, 1)) + " ";
-  }
-  EXPECT_EQ(hindi, "मेष वृष मिथुन कर्क सिंह कन्या तुला वृश्चिक ध्नु मकर कुंभ मीन ");
+  const auto hindi = [](auto sign) { return foundation::FromLegacyHindi(RashiNameLang(sign, 1)); };
+  EXPECT_EQ(Beginnings(12, 9, hindi), "मेष वृष मिथुन कर्क सिंह कन्या तुला वृश्चिक ध्नु मकर कुंभ मीन");
   ExpectRows(RashiNameText, Row(9, true, 0, "SAG"), Row(9, true, 1, "Sagittarius"));
   EXPECT_EQ(RashiNameLang(2, 2), "Taurus");
   EXPECT_ERROR(Subscript, BodyNameUpper(0));
@@ -55,17 +53,15 @@ TEST(Zodiac, SignsHaveTheirLordsAndHouses) {
 }
 
 TEST(Dignities, HoldInTheirSigns) {
-  const auto signs = [](auto test, std::string_view body) {
-    std::string found;
+  const auto signs = [](std::string_view body) {
+    std::string exaltation, fall;
     for (int sign = 1; sign <= 12; ++sign) {
-      if (!test(body, 30 * sign - 15).empty()) found += std::to_string(sign);
+      if (!ExaltTest(body, 30 * sign - 15).empty()) exaltation += std::to_string(sign);
+      if (!DebilTest(body, 30 * sign - 15).empty()) fall += std::to_string(sign);
     }
-    return found;
+    return exaltation + " " + fall;
   };
-  const auto both = [&](std::string_view body) {
-    return signs(ExaltTest, body) + " " + signs(DebilTest, body);
-  };
-  ExpectRows(both, Row("Sun", "1 7"), Row("Moon", "2 8"), Row("MON", "2 8"), Row("Mars", "10 4"),
+  ExpectRows(signs, Row("Sun", "1 7"), Row("Moon", "2 8"), Row("MON", "2 8"), Row("Mars", "10 4"),
              Row("mercury", "6 12"), Row("Jupiter", "4 10"), Row("Venus", "12 6"),
              Row("Saturn", "7 1"), Row("Rahu", " "));
 }
@@ -100,65 +96,43 @@ TEST(DegreeSplit, CarriesAfterRounding) {
              Row(390.5, std::tuple(1, 0, 30, 0)));
 }
 
-// A name says how many parts a sign has.
-TEST(WideDivisions, HaveThePartsOfTheirNames) {
-  const auto parts = [](int column) {
-    int count = 1;
-    for (int step = 1; step < 2520; ++step) {  // an eighty-fourth of a degree
-      const double before = (step - 0.5) / 84, after = (step + 0.5) / 84;
-      if (WideDivisions(before)[column] != WideDivisions(after)[column]) ++count;
-    }
-    return std::to_string(count) + " " + std::string(DivName[column]);
-  };
-  std::string all;
-  for (int column = 1; column <= 20; ++column) all += parts(column) + ", ";
-  EXPECT_EQ(all,
-            "1 Rashi, 2 Hora, 3 Drekkana, 4 Chaturthamsa, 7 Saptamsa, 9 Navamsa, 10 Dasamsa, 12 "
-            "Dwadasamsa, 16 Shodasamsa, 20 Vimsamsa, 24 Chaturvimsamsa, 27 Bhamsa, 5 Thrisamsa, 40 "
-            "Khavedamsa, 45 Akshavedamsa, 60 Shatyamsa, 5 Panchamsa, 6 Shashtamsa, 8 Ashtamsa, 11 "
-            "Ekadasamsa, ");
-}
-
-// By the names of DivName.
-enum Column { Hora = 2, Thrisamsa = 13, Shatyamsa = 16, Panchamsa, Ashtamsa = 19 };
-
-int Sign(Column column, double longitude) {
-  return WideDivisions(longitude)[column];
+TEST(WideDivisions, AreNamedInTheirOrder) {
+  EXPECT_EQ(Beginnings(20, 14, [](int column) { return DivName[column]; }),
+            "Rashi Hora Drekkana Chaturthamsa Saptamsa Navamsa Dasamsa Dwadasamsa Shodasamsa "
+            "Vimsamsa Chaturvimsamsa Bhamsa Thrisamsa Khavedamsa Akshavedamsa Shatyamsa Panchamsa "
+            "Shashtamsa Ashtamsa Ekadasamsa");
 }
 
 TEST(WideDivisions, ChangeAtTheirBoundaries) {
-  ExpectRows(Sign, Row(Hora, 14.999, 5), Row(Hora, 15, 4), Row(Hora, 44.999, 4), Row(Hora, 45, 5),
+  enum { Hora = 2, Thrisamsa = 13, Shatyamsa = 16, Panchamsa, Ashtamsa = 19 };
+  const auto sign = [](int column, double longitude) { return WideDivisions(longitude)[column]; };
+  ExpectRows(sign, Row(Hora, 14.999, 5), Row(Hora, 15, 4), Row(Hora, 44.999, 4), Row(Hora, 45, 5),
              Row(Thrisamsa, 4.999, 1), Row(Thrisamsa, 5, 11), Row(Thrisamsa, 10, 9),
              Row(Thrisamsa, 18, 3), Row(Thrisamsa, 25, 7), Row(Thrisamsa, 34.999, 2),
              Row(Thrisamsa, 35, 6), Row(Thrisamsa, 42, 12), Row(Thrisamsa, 50, 10),
              Row(Thrisamsa, 55, 8), Row(Shatyamsa, 0.499, 1), Row(Shatyamsa, 0.5, 2),
              Row(Shatyamsa, 29.999, 12));
   // Not reduced to 12.
-  ExpectRows(Sign, Row(Panchamsa, 359, 16), Row(Ashtamsa, 46, 13), Row(Ashtamsa, 149, 16));
-}
-
-// Signs 1 to `last` as text.
-std::string Text(int last, const auto& signAt) {
-  std::string text;
-  for (int i = 1; i <= last; ++i) text += std::to_string(signAt(i)) + " ";
-  return text;
+  ExpectRows(sign, Row(Panchamsa, 359, 16), Row(Ashtamsa, 46, 13), Row(Ashtamsa, 149, 16));
 }
 
 // 360 degrees is a thirteenth sign that behaves like the first.
 TEST(WideDivisions, AcceptBothEndsOfTheCircle) {
   const auto signs = [](double longitude) {
-    return Text(20, [&](int column) { return WideDivisions(longitude)[column]; });
+    const DivRow row = WideDivisions(longitude);
+    return Beginnings(20, 2, [&](int column) { return std::to_string(row[column]); });
   };
-  ExpectRows(signs, Row(0, "1 5 1 1 1 1 1 1 1 1 5 1 1 1 1 1 1 1 1 1 "),
-             Row(360, "1 5 1 1 1 1 1 1 1 1 5 1 1 1 1 1 13 1 1 1 "));
+  ExpectRows(signs, Row(0, "1 5 1 1 1 1 1 1 1 1 5 1 1 1 1 1 1 1 1 1"),
+             Row(360, "1 5 1 1 1 1 1 1 1 1 5 1 1 1 1 1 13 1 1 1"));
 }
 
 TEST(NarrowDivisions, ChangeAtTheirBoundaries) {
   const auto signs = [](double longitude) {
-    return Text(7, [&](int k) { return FillVargaTable(longitude, Positions())[k][1]; });
+    const VargaTable table = FillVargaTable(longitude, Positions());
+    return Beginnings(7, 2, [&](int division) { return std::to_string(table[division][1]); });
   };
-  ExpectRows(signs, Row(0, "1 1 1 1 1 1 1 "), Row(10, "1 5 3 4 4 5 6 "), Row(20, "1 9 5 7 7 9 11 "),
-             Row(30, "2 2 8 10 10 2 5 "), Row(360, "1 1 1 1 1 1 1 "));
+  ExpectRows(signs, Row(0, "1 1 1 1 1 1 1"), Row(10, "1 5 3 4 4 5 6"), Row(20, "1 9 5 7 7 9 11"),
+             Row(30, "2 2 8 10 10 2 5"), Row(360, "1 1 1 1 1 1 1"));
 }
 
 }  // namespace
