@@ -1,4 +1,4 @@
-// Colours, lines, shapes, texts and links, as they appear in a page's content.
+// Colours, lines, shapes, texts, links and cells, as they appear in a page's content.
 
 #include <gtest/gtest.h>
 
@@ -48,14 +48,28 @@ TEST_F(Lines, UseDashesOfWholePoints) {
 
 using Shapes = PaperTest;
 
-// A known document has both combined.
-TEST_F(Shapes, AreOutlinedOrFilled) {
+TEST_F(Shapes, AreOutlinedOrFilledOrBoth) {
   for (const int mode : {0, 1}) {
     printer.PDFSetDrawMode(mode);
     printer.PDFDrawRectangle(1, 10, 5, 6, "");
     printer.PDFDrawPolygon({1, 2, 3, 4});
   }
-  EXPECT_EQ(Content(), KnownContent("outlined shapes") + KnownContent("filled shapes"));
+  printer.PDFLoadAfm(METRICS_FOLDER);
+  printer.PDFSetFont(0, 14, 0);
+  printer.PDFSetLineColor("#C00000");
+  printer.PDFSetDrawColor("#2060A0");
+  printer.PDFSetLineWidth(2);
+  printer.PDFSetDrawMode(2);
+  printer.PDFDrawRectangle(60, 60, 160, 90, "");
+  printer.PDFTextOut("white", 70, 100);
+  printer.PDFSetLineStyle(0);
+  printer.PDFDrawEllipse(260, 60, 160, 90, "");
+  printer.PDFDrawEllipse(450, 60, 90, 0, "");
+  printer.PDFDrawPolygon({60, 300, 140, 200, 220, 300, 140, 260});
+  printer.PDFDrawPolygon({260, 200, 420, 200, 420, 300, 260, 300});
+  EXPECT_EQ(Place(), std::pair(450, 105));
+  EXPECT_EQ(Content(), KnownContent("outlined shapes") + KnownContent("filled shapes") +
+                           KnownContent("shapes filled and outlined"));
 }
 
 TEST_F(Shapes, TurnTextWhiteAndAffectTheNextLink) {
@@ -93,13 +107,6 @@ TEST_F(Texts, StartAtTheCurrentPositionPlusTheMargin) {
             "(\xE9\x80 ?) Tj\nET\nQ\n%FIN_TEXT/%\n");
 }
 
-TEST_F(Texts, AreUnderlinedOnce) {
-  printer.PDFSetFont(0, 10, 3);
-  printer.PDFTextOut("a b", 60, 100);
-  printer.PDFTextOut("", 60, 100);
-  EXPECT_EQ(Content(), KnownContent("an underlined text"));  // 20 wide: the blank counts twice
-}
-
 TEST_F(Texts, AreDrawnOnEachPageAsAWatermark) {
   printer.PDFFiligran("AB");
   EXPECT_EQ(Content(), KnownContent("a watermark"));
@@ -125,6 +132,87 @@ TEST_F(Links, AreBounded) {
   printer.PDFLink(1, 1, "a", "");
   NewPage();
   EXPECT_ERROR(Subscript, printer.PDFLink(1, 1, "a", ""));
+}
+
+using CellLines = PaperTest;
+
+// The content after the colours for a cell at 60, 100, a hundred wide and twenty high.
+std::string CellLine(int border, bool fill, int alignment) {
+  Paper paper;
+  paper.printer.PDFSetBorder(border);
+  paper.printer.PDFSetFill(fill);
+  paper.printer.PDFSetAlignement(alignment);
+  paper.printer.PDFCellLine("(b) c", 60, 100, 100, 20, "");
+  return paper.Content().substr(std::string_view("0 G\n0 g\n").size());
+}
+
+TEST_F(CellLines, PlaceBordersFillsAndTexts) {
+  const auto text = [](const std::string& x) {
+    return "q 0 g \nBT\n/F1 10 Tf\n" + x + " 728.89 Td\n(\\(b\\) c) Tj\nET\nQ\n";
+  };
+  ExpectRows(
+      CellLine, Row(0, false, 1, text("63.00")),
+      // 32.5 rounds to 32; the seven characters, including backslashes, are 35 wide.
+      Row(0, true, 0, "60.00 741.89 100.00 -20.00 re f~\n" + text("92.00")),
+      Row(1, false, 2, "60.00 741.89 100.00 -20.00 re S~\n" + text("122.00")),
+      Row(1, true, 1, "60.00 741.89 100.00 -20.00 re B~\n" + text("63.00")),
+      Row(4, false, 1, "0.57 w\n60.00 741.89 m 60.00 721.89 l S~\n" + text("63.00")),
+      Row(532, true, 1,
+          "0.57 w\n60.00 741.89 100.00 -20.00 re f~60.00 741.89 m 160.00 741.89 l S ~160.00 741.89 "
+          "m 160.00 721.89 l S ~60.00 721.89 m 160.00 721.89 l S ~\n" +
+              text("63.00")));
+}
+
+TEST_F(CellLines, UnderlineTheirLinks) {
+  printer.PDFCellLine("ab", 60, 100, 100, 20, "u");
+  EXPECT_EQ(Place(), std::pair(160, 120));
+  const std::string file = Finish();
+  EXPECT_TRUE(Holds(file, "q 0 g \n63.00 725.89 0.00 -0.02 re f\nBT\n"));
+  // One area around the text, and one where the cell begins.
+  EXPECT_EQ(Between(file, "/Rect ", " /Border"), "[63 736.89 73 726.89][60 741.89 70 731.89]");
+}
+
+TEST_F(CellLines, KeepTheirMarginAndTellTheirAlignment) {
+  const auto aligned = [&](int alignment) {
+    printer.PDFSetAlignement(alignment);
+    return printer.PDFGetAlignement();
+  };
+  ExpectRows(aligned, Row(0, "Center"), Row(2, "Right"), Row(3, "Left"), Row(1, "Left"));
+  printer.PDFSetCellMargin(7.5);
+  printer.PDFCellLine("ab", 60, 100, 100, 20, "");
+  EXPECT_EQ(Between(Content(), "Tf\n", " 728"), "68.00");
+}
+
+using Cells = PaperTest;
+
+TEST_F(Cells, WrapAtBlanks) {
+  // The positions of a cell's lines, and the lines.
+  const auto lines = [](std::string_view text, double width = 36) {
+    Paper paper;
+    paper.printer.PDFSetFont(1, 10, 0);
+    paper.printer.PDFCell(text, 60, 100, width, 12, "");
+    const std::string content = paper.Content();
+    return Between(content, "Tf\n", ".00 ") + Between(content, "Td\n", " Tj");
+  };
+  ExpectRows(lines, Row("ab cd ef", "6060(ab cd)(ef)"), Row("abcdefghi", "6360(abcdef)(ghi)"),
+             Row("abcdef ghi", "6060(abcdef)(ghi)"), Row("", "60()"), Row("a\r\n", "60(a~)"),
+             Row("ab\r\ncd", "60(ab\ncd)"), Row("       x", "6060(      )(x)"));
+  EXPECT_EQ(lines("ab", 7), "636360(a)(b)()");  // no character fits
+}
+
+TEST_F(Cells, NeedTheBorderSetForEachCell) {
+  printer.PDFSetFont(0, 10, 0);
+  printer.PDFSetBorder(1);
+  printer.PDFCell("ab", 60, 100, 100, 20, "");
+  EXPECT_ERROR(TypeMismatch, printer.PDFCell("ab", 60, 100, 100, 20, ""));
+}
+
+TEST_F(Cells, JustifyAndClearTheSpacing) {
+  printer.PDFSetFont(0, 10, 3);
+  printer.PDFSetAlignement(3);
+  printer.PDFCell("a b c", 63, 100, 100, 20, "");
+  // Half of 100 less three margins and 25. Underline: 10 + 25 + 66 less three margins and the size.
+  EXPECT_EQ(Content(), KnownContent("a justified cell"));
 }
 
 }  // namespace

@@ -99,14 +99,13 @@ TEST_F(Images, AreRejectedUnlessJpeg) {
     return Between(TakeMessages(), "Fichier Image - vrPDF 4.0: ",
                    "\r\nImpossible d'inclure l'image dans le fichier PDF.\n");
   };
+  const char kNotJpeg[] = "Fichier image non JPEG.";
+  const char kMarks[] = "Marqueur de début JPEG ou marqueur de fin JPEG non valide.";
   ExpectRows(
-      message, Row("missing.jpg", "", "Fichier image non JPEG."),
-      Row("short.jpg", Jpeg("", 249), "Fichier image non JPEG."),
+      message, Row("missing.jpg", "", kNotJpeg), Row("short.jpg", Jpeg("", 249), kNotJpeg),
+      Row("head.jpg", "x" + Jpeg(""), kMarks), Row("tail.jpg", Jpeg("") + "\n", kMarks),
       Row("a.png", "",
           "Format d'image non supportée.\r\nSeule les images de types JPG sont supportées."),
-      Row("head.jpg", "x" + Jpeg(""), "Marqueur de début JPEG ou marqueur de fin JPEG non valide."),
-      Row("tail.jpg", Jpeg("") + "\n",
-          "Marqueur de début JPEG ou marqueur de fin JPEG non valide."),
       Row("unit.jpg", Jpeg(Jfif(3)),
           "Erreur de résolution d'image , l'Opcode est 3Les Opcodes valides sont  0, 1, 2."));
   EXPECT_EQ(Content(), "");

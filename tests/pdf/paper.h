@@ -37,6 +37,20 @@ inline std::string KnownContent(std::string_view name) {
   return std::string(kContents.at(name));
 }
 
+inline bool Holds(std::string_view text, std::string_view part) {
+  return text.find(part) != std::string_view::npos;
+}
+
+// Everything between each pair of marks.
+inline std::string Between(std::string_view text, std::string_view open, std::string_view close) {
+  std::string found;
+  for (std::size_t at = 0; (at = text.find(open, at)) != text.npos;) {
+    at += open.size();
+    found += text.substr(at, text.find(close, at) - at);
+  }
+  return found;
+}
+
 struct MetricsScope : support::AppFolderScope {
   MetricsScope() {
     std::string text = "StartCharMetrics 95\n";
@@ -56,6 +70,11 @@ struct Paper {
   explicit Paper(Means... means) : printer(clock, boxes, means...) {
     clock.now = foundation::DateFromParts(2011, 3, 5) + foundation::TimeFromParts(6, 12, 9);
     printer.PDFSetUnit(0);
+    printer.PDFSetBorder(0);
+    Begin();
+  }
+
+  void Begin() {
     printer.PDFFileName((folder.path / "paper.pdf").string());
     printer.PDFBeginDoc();
   }
@@ -83,30 +102,11 @@ struct Paper {
     return File();
   }
 
-  // Ends the document and returns the first page's content.
-  std::string Content() {
-    const std::string file = Finish();
-    constexpr std::string_view kStart = "\nstream\n";
-    const std::size_t start = file.find(kStart) + kStart.size();
-    return file.substr(start, file.find("endstream\n", start) - start);
-  }
+  // Ends the document and returns the contents of its pages and pictures.
+  std::string Content() { return Between(Finish(), "\nstream\n", "endstream\n"); }
 };
 
 // Fixture with a document.
 struct PaperTest : testing::Test, Paper {};
-
-inline bool Holds(std::string_view text, std::string_view part) {
-  return text.find(part) != std::string_view::npos;
-}
-
-// Everything between each pair of marks.
-inline std::string Between(std::string_view text, std::string_view open, std::string_view close) {
-  std::string found;
-  for (std::size_t at = 0; (at = text.find(open, at)) != text.npos;) {
-    at += open.size();
-    found += text.substr(at, text.find(close, at) - at);
-  }
-  return found;
-}
 
 }  // namespace pdf

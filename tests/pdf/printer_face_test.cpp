@@ -32,6 +32,7 @@ TEST_F(Face, PrintsBlueTextsTwoPointsLarger) {
   target.SetCurrentY(2000);
   target.SetFontUnderLine(true);
   target.Print("u");
+  target.Print("v");  // no longer underlined
   EXPECT_EQ(paper.Content(), KnownContent("texts of a form"));
 }
 
