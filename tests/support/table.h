@@ -18,11 +18,11 @@ struct Row : std::tuple<Columns...> {
 template <typename Function, typename... Columns>
 void ExpectRow(const Function& function, const std::tuple<Columns...>& row) {
   constexpr std::size_t kArguments = sizeof...(Columns) - 1;
-  const auto result = [&]<std::size_t... I>(std::index_sequence<I...>) {
-    return function(std::get<I>(row)...);
-  };
-  EXPECT_EQ(result(std::make_index_sequence<kArguments>()), std::get<kArguments>(row))
-      << "in the row " << testing::PrintToString(row);
+  [&]<std::size_t... I>(std::index_sequence<I...>) {
+    EXPECT_EQ(function(std::get<I>(row)...), std::get<kArguments>(row))
+        << "in the row " << testing::PrintToString(row);
+  }
+  (std::make_index_sequence<kArguments>());
 }
 #pragma GCC diagnostic pop
 
