@@ -32,10 +32,7 @@ struct Store : testing::Test {
     return SettingsFile().GetSetting("Durvela", section, key, "none");
   }
 
-  void Write(std::string_view bytes) const {
-    fs::create_directories(folder);
-    std::ofstream(file) << bytes;
-  }
+  void Write(std::string_view bytes) const { home.Write("Durvela/Durvela.ini", bytes); }
   auto FilesInFolder() const {
     return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
   }
@@ -98,7 +95,6 @@ TEST_F(Store, SurvivesAFullDisk) {
   }
   EXPECT_EQ(ReadFile(file), "; mine\n[settings]\ncity=Delhi\n");
   EXPECT_EQ(FilesInFolder(), 1);
-  EXPECT_EQ(Held("city") + Held("country"), "Delhinone");
   settings.SaveSettings("Durvela", "settings", place);
   EXPECT_EQ(Stored("city") + Stored("country"), "Agra" + longName);
 }
@@ -126,22 +122,18 @@ TEST_F(Store, NamesAnUnusableFileAndTriesAgain) {
 
 // Threads lock each other out like processes, because each opens the folder separately.
 TEST_F(Store, LosesNoKeyToSimultaneousSaves) {
-  constexpr int kSavers = 4, kKeys = 10;
-  const auto key = [](int saver, int i) { return std::to_string(saver * kKeys + i); };
+  constexpr int kSavers = 4, kKeys = 40;
   {
     std::vector<std::jthread> savers;
     for (int saver = 0; saver < kSavers; ++saver) {
-      savers.emplace_back([=] {
-        SettingsFile own;
-        for (int i = 0; i < kKeys; ++i) {
-          own.SaveSetting("Durvela", "settings", key(saver, i), key(saver, i));
+      savers.emplace_back([saver] {
+        for (int i = saver; i < kKeys; i += kSavers) {
+          SettingsFile().SaveSetting("Durvela", "settings", std::to_string(i), std::to_string(i));
         }
       });
     }
   }
-  for (int saver = 0; saver < kSavers; ++saver) {
-    for (int i = 0; i < kKeys; ++i) EXPECT_EQ(Held(key(saver, i)), key(saver, i));
-  }
+  for (int i = 0; i < kKeys; ++i) EXPECT_EQ(Held(std::to_string(i)), std::to_string(i));
   EXPECT_EQ(FilesInFolder(), 1);
 }
 
