@@ -49,32 +49,25 @@ TEST(ItemList, KeepsSelectionAndItemDataWithTheEntry) {
 }
 
 TEST(MomentPicker, TakesWhatIsTypedOrSaysWhyNot) {
-  struct Step {
-    const char *typed, *shown;
-    bool refused;
-    int events;
+  Control date, time;
+  date.kind = Kind::DatePicker;
+  time.kind = Kind::TimePicker;
+  int events = 0;
+  date.onChange = time.onChange = [&] { ++events; };
+  // The text that is shown, whether the typed one is refused, and the change events.
+  const auto type = [&](Control* picker, const char* typed) {
+    TypeMoment(*picker, typed);
+    return std::tuple(MomentText(*picker), !picker->refusal.empty(), std::exchange(events, 0));
   };
-  const auto type = [](Kind kind, std::initializer_list<Step> steps) {
-    Control picker;
-    picker.kind = kind;
-    int events = 0;
-    picker.onChange = [&] { ++events; };
-    for (const Step& step : steps) {
-      TypeMoment(picker, step.typed);
-      EXPECT_EQ(MomentText(picker), step.shown) << step.typed;
-      EXPECT_EQ(!picker.refusal.empty(), step.refused) << step.typed;
-      EXPECT_EQ(std::exchange(events, 0), step.events) << step.typed;
-    }
-  };
-  type(Kind::DatePicker, {{"05/3/2011", "5/March/2011", false, 1},
-                          {"31/2/2011", "5/March/2011", true, 1},
-                          {"", "5/March/2011", true, 0},
-                          {"5 mar 2011", "5/March/2011", false, 1},
-                          {"5-3-11", "5/March/2011", false, 0}});
-  type(Kind::TimePicker, {{"6:05 PM", "06:05 PM", false, 1},
-                          {"6:05:30 PM", "06:05 PM", true, 1},
-                          {"5/3/2011", "06:05 PM", true, 0},
-                          {"0:30", "12:30 AM", false, 1}});
+  ExpectRows(type, Row(&date, "05/3/2011", std::tuple("5/March/2011", false, 1)),
+             Row(&date, "31/2/2011", std::tuple("5/March/2011", true, 1)),
+             Row(&date, "", std::tuple("5/March/2011", true, 0)),
+             Row(&date, "5 mar 2011", std::tuple("5/March/2011", false, 1)),
+             Row(&date, "5-3-11", std::tuple("5/March/2011", false, 0)),
+             Row(&time, "6:05 PM", std::tuple("06:05 PM", false, 1)),
+             Row(&time, "6:05:30 PM", std::tuple("06:05 PM", true, 1)),
+             Row(&time, "5/3/2011", std::tuple("06:05 PM", true, 0)),
+             Row(&time, "0:30", std::tuple("12:30 AM", false, 1)));
 }
 
 TEST(MomentPicker, StepsPartByPart) {
@@ -92,7 +85,8 @@ TEST(MomentPicker, StepsPartByPart) {
              Row("1/1/100", 1, -1, "1/January/100"), Row("5/3/9999", 2, 1, "5/March/9999"),
              Row("31/12/9999", 0, 10, "31/December/9999"));
   ExpectRows(std::bind_front(stepped, Kind::TimePicker), Row("23:59", 1, 1, "12:00 AM"),
-             Row("0:30", 0, -1, "11:30 PM"), Row("6:05", 2, 1, "06:05 PM"));
+             Row("0:30", 0, -1, "11:30 PM"), Row("6:05", 2, 1, "06:05 PM"),
+             Row("11:59", 1, 1, "12:00 PM"), Row("12:00", 1, -1, "11:59 AM"));
 }
 
 // Drawn column by column; the head has a face with another baseline and its own encoding.
@@ -145,30 +139,29 @@ struct Resizing : testing::Test {
 
 TEST_F(Resizing, ScalesAxesSeparatelyAndFontsByHeight) {
   form.Resize(12000, 6000);
-  EXPECT_EQ(form.lblHead.place, (Place{200, 300, 6000, 450}));
-  EXPECT_EQ(form.Shape1.place, (Place{20, 30, 60, 60}));
-  EXPECT_EQ(form.cmbPage.place, (Place{1000, 900, 1400, 315}));  // the toolkit sets its height
-  EXPECT_EQ(form.Fixed.place, (Place{1, 2, 3, 4}));
-  EXPECT_EQ(form.Timer1.place, (Place{1, 2, 3, 4}));
-  EXPECT_EQ(form.SameFont.place, (Place{2000, 3000, 800, 750}));
+  const auto place = [](const Control* control) { return control->place; };
+  ExpectRows(place, Row(&form.lblHead, Place{200, 300, 6000, 450}),
+             Row(&form.Shape1, Place{20, 30, 60, 60}),
+             Row(&form.cmbPage, Place{1000, 900, 1400, 315}),  // the toolkit sets its height
+             Row(&form.Fixed, Place{1, 2, 3, 4}), Row(&form.Timer1, Place{1, 2, 3, 4}),
+             Row(&form.SameFont, Place{2000, 3000, 800, 750}));
   EXPECT_EQ(form.Line1.ends, (LineEnds{300, 1500, 11700, 1650}));
-  EXPECT_EQ(std::tuple(form.lblHead.font.size, form.cmbPage.font.size, form.Fixed.font.size,
-                       form.SameFont.font.size),
-            std::tuple(13.5F, 18, 9, 9));
   EXPECT_TRUE(form.autoRedraw);
   EXPECT_EQ(form.paintedPicture, (Place{0, 0, 12000, 6000}));
+
+  const auto size = [](const Control* control) { return control->font.size; };
+  ExpectRows(size, Row(&form.lblHead, 13.5F), Row(&form.cmbPage, 18.0F), Row(&form.Fixed, 9.0F),
+             Row(&form.SameFont, 9.0F));
+  form.Resize(4000, 2666.6667F);  // keeps them readable
+  ExpectRows(size, Row(&form.lblHead, 7.5F), Row(&form.cmbPage, 8.0F));
 }
 
-TEST_F(Resizing, KeepsFontsReadable) {
-  form.Resize(4000, 2666.6667F);
-  EXPECT_EQ(form.lblHead.font.size, 7.5F);
-  EXPECT_EQ(form.cmbPage.font.size, 8);
-}
-
-TEST_F(Resizing, RestoresTheLayoutExactly) {
+TEST_F(Resizing, RestoresTheLayoutExactlyAndIgnoresMinimisedForms) {
   const auto before = form.Layout();
-  for (const float width : {7001.0F, 3333.0F, 19.0F}) form.Resize(width, width / 3);
-  form.Resize(6000, 4000);
+  for (const float width : {7001.0F, 3333.0F, 19.0F, 6000.0F}) form.Resize(width, width * 2 / 3);
+  EXPECT_EQ(form.Layout(), before);
+  form.windowState = WindowState::Minimised;
+  form.Resize(2400, 400);
   EXPECT_EQ(form.Layout(), before);
 }
 
@@ -177,13 +170,6 @@ TEST_F(Resizing, CanMoveWithoutResizing) {
   EXPECT_EQ(form.lblHead.place, (Place{200, 400, 3000, 300}));
   EXPECT_EQ(form.lblHead.font.size, 9);
   EXPECT_EQ(form.Line1.ends, (LineEnds{300, 2000, 11700, 2200}));
-}
-
-TEST_F(Resizing, IgnoresMinimisedForms) {
-  const auto before = form.Layout();
-  form.windowState = WindowState::Minimised;
-  form.Resize(2400, 400);
-  EXPECT_EQ(form.Layout(), before);
 }
 
 }  // namespace
