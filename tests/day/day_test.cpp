@@ -2,15 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include "foundation/time_text.h"
+#include "support/table.h"
 
 namespace {
 
 using namespace std::chrono;
 using atlas::Place;
-using clocks::Instant;
 using clocks::ZoneClock;
 using day::Day;
+using support::Row;
 
 const Place kDelhi = {"Delhi", "Delhi", "India", 28 + 40 / 60.0, 77 + 13 / 60.0, "Asia/Kolkata"};
 const Place kNewYork = {"New York", "New York", "USA", 40 + 43 / 60.0, -74, "America/New_York"};
@@ -21,21 +22,20 @@ Day DayAt(const Place& place, year_month_day date) {
 }
 
 // "07:14:00" by the place's clock.
-std::string ClockText(const Place& place, std::optional<Instant> instant) {
-  if (!instant) return "-";
-  const auto civil = ZoneClock::Named(place.zone)->CivilAt(*instant);
-  const hh_mm_ss time(civil - floor<days>(civil));
-  const auto two = [](auto count) {
-    const std::string digits = std::to_string(count);
-    return digits.size() < 2 ? "0" + digits : digits;
-  };
-  return two(time.hours().count()) + ":" + two(time.minutes().count()) + ":" +
-         two(time.seconds().count());
+std::string ClockText(const Place& place, std::optional<day::Instant> instant) {
+  const auto civil = ZoneClock::Named(place.zone)->CivilAt(instant.value());
+  const duration<double, hours::period> time = civil - floor<days>(civil);
+  return foundation::DecimalToTimeText(time.count());
 }
 
-std::string Periods(const Place& place, const Day& day) {
+std::string DaylightAt(const Place& place, year_month_day date) {
+  const day::Sun sun = DayAt(place, date).sun;
+  return ClockText(place, sun.rise) + " " + ClockText(place, sun.set);
+}
+
+std::string PeriodsAt(const Place& place, year_month_day date) {
   std::string text;
-  for (const day::Period& period : day.periods) {
+  for (const day::Period& period : DayAt(place, date).periods) {
     text += std::to_string(period.part) + " " + ClockText(place, period.begin) + " " +
             ClockText(place, period.end) + "; ";
   }
@@ -44,15 +44,13 @@ std::string Periods(const Place& place, const Day& day) {
 
 // Two days of a table worked out independently; several of the boundaries fall on half a second.
 TEST(Day, PeriodsAreTheEighthsOfTheDaylight) {
-  const Day saturday = DayAt(kDelhi, 2011y / 1 / 1);
-  EXPECT_EQ(saturday.weekday, 7);
-  EXPECT_EQ(ClockText(kDelhi, saturday.sun.rise), "07:14:00");
-  EXPECT_EQ(ClockText(kDelhi, saturday.sun.set), "17:35:00");
-  EXPECT_EQ(Periods(kDelhi, saturday),
-            "3 09:49:15 11:06:52; 8 16:17:22 17:35:00; 6 13:42:07 14:59:45; ");
-  const Day monday = DayAt(kDelhi, 2011y / 1 / 10);
-  EXPECT_EQ(Periods(kDelhi, monday),
-            "2 08:33:23 09:51:45; 6 13:46:53 15:05:15; 4 11:10:08 12:28:30; ");
+  EXPECT_EQ(DayAt(kDelhi, 2011y / 1 / 1).weekday, 7);
+  EXPECT_EQ(DaylightAt(kDelhi, 2011y / 1 / 1), "07:14:00 17:35:00");
+  ExpectRows(
+      PeriodsAt,
+      Row(kDelhi, 2011y / 1 / 1, "3 09:49:15 11:06:52; 8 16:17:22 17:35:00; 6 13:42:07 14:59:45; "),
+      Row(kDelhi, 2011y / 1 / 10,
+          "2 08:33:23 09:51:45; 6 13:46:53 15:05:15; 4 11:10:08 12:28:30; "));
 }
 
 // Friday's light by the rule of Saturday: the third of the eighths of 06:44 to 18:23.
@@ -71,11 +69,8 @@ TEST(Day, HasThePeriodsOfOtherWeekdays) {
 
 // Times by PyEphem, to the minute.
 TEST(Day, FollowsThePlacesClock) {
-  const Day summer = DayAt(kNewYork, 2026y / 7 / 1), winter = DayAt(kNewYork, 2026y / 11 / 23);
-  EXPECT_EQ(ClockText(kNewYork, summer.sun.rise), "05:29:00");
-  EXPECT_EQ(ClockText(kNewYork, summer.sun.set), "20:31:00");
-  EXPECT_EQ(ClockText(kNewYork, winter.sun.rise), "06:52:00");
-  EXPECT_EQ(ClockText(kNewYork, winter.sun.set), "16:32:00");
+  ExpectRows(DaylightAt, Row(kNewYork, 2026y / 7 / 1, "05:29:00 20:31:00"),
+             Row(kNewYork, 2026y / 11 / 23, "06:52:00 16:32:00"));
   // The night of the change: the next rise is by the other hour.
   const Day october = DayAt(kNewYork, 2026y / 10 / 31);
   EXPECT_EQ(ClockText(kNewYork, october.sun.rise), "07:25:00");
@@ -108,10 +103,9 @@ TEST(Day, EndsAtTheSunriseOfTheNextDateThatThereIs) {
 TEST(Day, TheEnginesSunStandsInWhereTheSeriesFails) {
   const Place kolpino = {"Kolpino", "", "Russia", 59 + 45 / 60.0, 30 + 36 / 60.0, "Europe/Moscow"};
   for (int date = 14; date <= 22; ++date) {
-    const Day march = DayAt(kolpino, year_month_day(2026y / March / date));
-    ASSERT_TRUE(march.sun.rise && march.sun.set);
-    EXPECT_NEAR(duration<double>(*march.sun.set - *march.sun.rise) / 1h, 12, 0.5);
-    EXPECT_LT(abs(*march.sun.nextRise - *march.sun.rise - 24h), 5min);
+    const day::Sun sun = DayAt(kolpino, year_month_day(2026y / March / date)).sun;
+    EXPECT_NEAR(duration<double>(sun.set.value() - sun.rise.value()) / 1h, 12, 0.5);
+    EXPECT_LT(abs(sun.nextRise.value() - *sun.rise - 24h), 5min);
   }
 }
 
