@@ -42,17 +42,18 @@ frmDurvela::Inputs frmDurvela::ReadInputs() {
   return inputs;
 }
 
-// A list for another place or other dates stays until Quick View, dimmed and with a remark.
+// A list for another place or other dates stays until Quick View, dimmed and with a remark. The
+// remark also shows while a picker refuses its text, since the list is then for its last value.
 void frmDurvela::MarkOldList() {
   picRes.faded = ReadInputs() != shown_;
   picRes.spokenName = timetable_layout::kPageName;
   lblOldList.caption.clear();
-  if (!picRes.faded) return;
+  if (!picRes.faded && (DT1.refusal + DT2.refusal + dtTime.refusal).empty()) return;
   const auto& [country, city, latitude, longitude, zone, zoneTime] = shown_.place;
   const foundation::DateTimeFields from = foundation::FieldsOf(shown_.from);
   lblOldList.caption = "Shown: " + city + ", from " +
                        foundation::DayMonthYear(from.day, from.month, from.year, ' ') +
-                       ". Press Quick View.";
+                       (picRes.faded ? ". Press Quick View." : ".");
   picRes.spokenName += ". " + lblOldList.caption;
 }
 

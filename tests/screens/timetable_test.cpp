@@ -150,15 +150,18 @@ TEST(Timetable, RemarksOnAnInvalidDateUntilItIsCorrected) {
   Timetable t;
   const auto remarks = [&] {
     return std::tuple(t.form.StartRemark.visible, t.form.EndRemark.visible,
-                      t.form.TimeRemark.visible);
+                      t.form.TimeRemark.visible, t.form.lblOldList.caption);
   };
+  const std::string shown = "Shown: Delhi, from 5 March 2011.";
   forms::TypeMoment(t.form.DT2, "soon");
-  EXPECT_EQ(remarks(), std::tuple(false, true, false));
+  EXPECT_EQ(remarks(), std::tuple(false, true, false, shown));
   forms::TypeMoment(t.form.dtTime, "noon");
   forms::TypeMoment(t.form.DT2, "5/4/2011");  // the former date
-  EXPECT_EQ(remarks(), std::tuple(false, false, true));
+  EXPECT_EQ(remarks(), std::tuple(false, false, true, shown));
+  t.form.cmdShow.onClick();  // with the last time
+  EXPECT_EQ(remarks(), std::tuple(false, false, true, shown));
   t.form.Form_Load();
-  EXPECT_EQ(remarks(), std::tuple(false, false, false));
+  EXPECT_EQ(remarks(), std::tuple(false, false, false, ""));
 }
 
 TEST(Timetable, MovesWithTheMouseOnItsTitle) {
