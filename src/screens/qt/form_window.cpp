@@ -16,30 +16,21 @@
 namespace screens::qt {
 namespace {
 
+constexpr std::pair<int, forms::Key> kKeys[] = {
+    {Qt::Key_Up, forms::Key::Up},         {Qt::Key_Down, forms::Key::Down},
+    {Qt::Key_Left, forms::Key::Left},     {Qt::Key_Right, forms::Key::Right},
+    {Qt::Key_Home, forms::Key::Home},     {Qt::Key_End, forms::Key::End},
+    {Qt::Key_Return, forms::Key::Enter},  {Qt::Key_Enter, forms::Key::Enter},
+    {Qt::Key_Escape, forms::Key::Escape},
+};
+
 // Keys with Alt or Ctrl are left to Qt.
 forms::Key KeyOf(const QKeyEvent& event) {
   if (event.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) return forms::Key::Other;
-  switch (event.key()) {
-    case Qt::Key_Up:
-      return forms::Key::Up;
-    case Qt::Key_Down:
-      return forms::Key::Down;
-    case Qt::Key_Left:
-      return forms::Key::Left;
-    case Qt::Key_Right:
-      return forms::Key::Right;
-    case Qt::Key_Home:
-      return forms::Key::Home;
-    case Qt::Key_End:
-      return forms::Key::End;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      return forms::Key::Enter;
-    case Qt::Key_Escape:
-      return forms::Key::Escape;
-    default:
-      return forms::Key::Other;
+  for (const auto& [key, ours] : kKeys) {
+    if (event.key() == key) return ours;
   }
+  return forms::Key::Other;
 }
 
 }  // namespace
