@@ -28,7 +28,7 @@ std::string DateText(DateTime date) {
 
 std::optional<DateTime> Read(const Control& picker, std::string_view text) {
   if (IsDate(picker)) return foundation::TryReadTypedDate(text);
-  const auto time = foundation::TryReadTime(text);
+  const auto time = foundation::TryReadTypedTime(text);
   return time && foundation::FieldsOf(*time).second == 0 ? time : std::nullopt;
 }
 

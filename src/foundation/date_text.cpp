@@ -157,6 +157,13 @@ std::optional<DateTime> TryReadTypedDate(std::string_view text) {
   return TryReadDateTime(date.replace(date.size() - rest.size(), name.size(), NumberText(month)));
 }
 
+std::optional<DateTime> TryReadTypedTime(std::string_view text) {
+  std::string time(text);
+  const std::size_t digits = std::min(time.find_first_not_of("0123456789"), time.size());
+  if (digits == 3 || digits == 4) time.insert(digits - 2, ":");
+  return TryReadTime(time);
+}
+
 DateTime ReadDateTime(std::string_view text) {
   const auto moment = TryReadDateTime(text);
   if (!moment) throw Error(ErrorKind::TypeMismatch);

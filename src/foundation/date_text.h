@@ -33,6 +33,9 @@ std::optional<DateTime> TryReadTime(std::string_view text);
 // MonthByBeginning resolves abbreviated months ("5 Mar 2011", "5. Mar. 2011").
 std::optional<DateTime> TryReadTypedDate(std::string_view text);
 
+// Reads a time in the looser form that users type, which needs no colon: "0605 pm", "1805".
+std::optional<DateTime> TryReadTypedTime(std::string_view text);
+
 // "06:05 PM", in English in every locale, so that any keyboard can type it. Drops the seconds.
 std::string HourMinuteHalf(DateTime time);
 

@@ -67,6 +67,9 @@ TEST(MomentPicker, TakesWhatIsTypedOrSaysWhyNot) {
              Row(&time, "6:05 PM", std::tuple("06:05 PM", false, 1)),
              Row(&time, "6:05:30 PM", std::tuple("06:05 PM", true, 1)),
              Row(&time, "5/3/2011", std::tuple("06:05 PM", true, 0)),
+             Row(&time, "0730pm", std::tuple("07:30 PM", false, 1)),
+             Row(&time, "905", std::tuple("09:05 AM", false, 1)),
+             Row(&time, "12345", std::tuple("09:05 AM", true, 1)),
              Row(&time, "0:30", std::tuple("12:30 AM", false, 1)));
 }
 

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QWheelEvent>
 #include <algorithm>
 #include <utility>
@@ -27,6 +28,7 @@ constexpr int kLastPart = 2;     // year, or half of the day
 
 DateTimeWidget::DateTimeWidget(forms::Control& control, Dispatch dispatch, QWidget* parent)
     : QAbstractSpinBox(parent), ControlView(control, std::move(dispatch)) {
+  lineEdit()->installEventFilter(this);
   connect(lineEdit(), &QLineEdit::textEdited, this, [this] { typed_ = true; });
   if (IsDate()) {
     calendar_ = new CalendarPopup(this);
@@ -86,7 +88,9 @@ bool DateTimeWidget::Commit() {
 
 // Steps the part at the cursor or at the start of the selection.
 void DateTimeWidget::stepBy(int steps) {
-  const int part = PartAtCursor();
+  const int clicked = std::exchange(clickedPart_, 0);
+  const bool all = lineEdit()->selectedText() == text();
+  const int part = all ? clicked : PartAtCursor();
   if (!Commit()) return;
   dispatch_([&] { forms::StepMoment(control_, part, steps); });
   SelectPart(part);
@@ -110,6 +114,16 @@ void DateTimeWidget::SelectPart(int part) {
   int end = begin;
   while (end < shown.size() && !Separates(shown[end])) ++end;
   lineEdit()->setSelection(begin, end - begin);
+}
+
+// Moves on to the next part instead of typing the separator in front of it again.
+bool DateTimeWidget::PassSeparator() {
+  const QString shown = text();
+  const bool selected = lineEdit()->hasSelectedText();
+  const int at = selected ? lineEdit()->selectionStart() - 1 : lineEdit()->cursorPosition();
+  if (at < 0 || at >= shown.size() || !Separates(shown[at])) return false;
+  if (!selected) SelectPart(PartAtCursor() + 1);
+  return true;
 }
 
 void DateTimeWidget::DropDown() {
@@ -142,7 +156,13 @@ void DateTimeWidget::keyPressEvent(QKeyEvent* event) {
     return;
   }
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) Commit();
+  const QChar typed = event->text().isEmpty() ? QChar() : event->text().front();
+  if (Separates(typed) && PassSeparator()) return;
   QAbstractSpinBox::keyPressEvent(event);
+  // Two digits fill a part.
+  static const QRegularExpression kFilled(u"(^|[/: ])[0-9][0-9]$"_s);
+  const QString before = text().first(lineEdit()->cursorPosition());
+  if (typed.isDigit() && before.contains(kFilled)) PassSeparator();
 }
 
 // Only presses outside the text arrive here.
@@ -154,13 +174,28 @@ void DateTimeWidget::mousePressEvent(QMouseEvent* event) {
   }
 }
 
-// Selects the text, so that typing replaces it, unless the mouse places the cursor or the text is
-// half typed.
+// Selects the text, so that typing replaces it, unless it is half typed. A click then places the
+// cursor, so its release selects again.
 void DateTimeWidget::focusInEvent(QFocusEvent* event) {
   QAbstractSpinBox::focusInEvent(event);
-  const bool byKey =
-      event->reason() != Qt::MouseFocusReason && event->reason() != Qt::PopupFocusReason;
-  if (byKey && !typed_) selectAll();
+  if (event->reason() == Qt::PopupFocusReason || typed_) return;
+  clickedInto_ = event->reason() == Qt::MouseFocusReason;
+  clickedPart_ = 0;
+  selectAll();
+}
+
+// The part under the mouse is still the one to step. Waits until the clipboard has the selection of
+// the mouse, if any.
+bool DateTimeWidget::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonRelease && std::exchange(clickedInto_, false)) {
+    const auto selectUnlessDragged = [this] {
+      if (lineEdit()->hasSelectedText()) return;
+      clickedPart_ = PartAtCursor();
+      selectAll();
+    };
+    QMetaObject::invokeMethod(this, selectUnlessDragged, Qt::QueuedConnection);
+  }
+  return QAbstractSpinBox::eventFilter(watched, event);
 }
 
 // A menu or another window only borrows the focus.

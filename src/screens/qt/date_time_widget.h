@@ -18,6 +18,7 @@ class DateTimeWidget : public QAbstractSpinBox, public ControlView {
   QWidget& Widget() override { return *this; }
   void Mirror() override;
   void stepBy(int steps) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;  // of the text
 
  protected:
   StepEnabled stepEnabled() const override { return StepUpEnabled | StepDownEnabled; }
@@ -37,8 +38,11 @@ class DateTimeWidget : public QAbstractSpinBox, public ControlView {
   bool Separates(QChar character) const;  // between two parts of the text
   int PartAtCursor() const;
   void SelectPart(int part);
+  bool PassSeparator();  // returns whether there is one at the cursor
 
   bool typed_ = false;                 // the text is not committed yet
+  bool clickedInto_ = false;           // has got the focus by the click that is under way
+  int clickedPart_ = 0;                // to step while the whole text is selected
   CalendarPopup* calendar_ = nullptr;  // null for a time
 };
 
