@@ -27,15 +27,26 @@ struct DashboardWindow : testing::Test, Dashboard {
     return window.childAt(PlaceInPixels(control).center());
   }
 
+  // Presses the left button there, and releases it at another point.
+  void Drag(const forms::Control& control, QPoint to) {
+    QTest::mousePress(Under(control), Qt::LeftButton);
+    EXPECT_TRUE(form.PIC[1].pressed);
+    QTest::mouseRelease(Under(control), Qt::LeftButton, {}, to);
+    EXPECT_FALSE(form.PIC[1].pressed);
+  }
+
   QtHost toolkit;
   FormWindow& window = toolkit.WindowOf(form);
 };
 
-TEST_F(DashboardWindow, ShowsItsFiguresAndAsksBeforeItCloses) {
-  EXPECT_EQ(window.findChild<QWidget*>(u"lblSR"_s)->accessibleName(), u"06:43:00");
+TEST_F(DashboardWindow, AsksBeforeItCloses) {
   window.close();
-  EXPECT_EQ(boxes.shown.size(), 1U);
-  EXPECT_TRUE(window.isVisible());
+  EXPECT_TRUE(window.isVisible() && host.calls.empty());
+  EXPECT_EQ(boxes.shown.at(0).text, "Are you sure you want to exit?");
+  EXPECT_EQ(boxes.shown.at(0).buttons, foundation::MessageButtons::YesNo);
+  boxes.answer = foundation::MessageAnswer::Yes;
+  bool cancel = false;
+  EXPECT_THROW(form.Form_QueryUnload(cancel), support::ProgramEnded);
 }
 
 TEST_F(DashboardWindow, ScalesItsControlsWithItsSize) {
@@ -46,30 +57,29 @@ TEST_F(DashboardWindow, ScalesItsControlsWithItsSize) {
 }
 
 TEST_F(DashboardWindow, FollowsTheClockEachSecond) {
+  EXPECT_EQ(window.findChild<QWidget*>(u"lblSR"_s)->accessibleName(), u"06:43:00");
   clock.now += 1.0 / 86400;
   EXPECT_TRUE(QTest::qWaitFor([&] { return form.lblTime.caption == "12:0:1"; }, 20000));
 }
 
-TEST_F(DashboardWindow, OpensMenuItemsByTheirCaptionToo) {
+TEST_F(DashboardWindow, OpensAndHighlightsMenuItemsAlsoByTheirCaption) {
   int opened = 0;
   form.SetMenuItem(1, [&] { ++opened; });
+  form.SetMenuItem(2, [] {});
   window.Mirror();
-  const forms::Control& caption = form.LBL[1];
-  QTest::mouseMove(Under(caption), {5, 5});
-  EXPECT_TRUE(caption.font.underline);
-  EXPECT_EQ(Under(caption)->cursor().shape(), Qt::PointingHandCursor);
-  QTest::mouseMove(Under(form.Image1), {5, 5});
-  EXPECT_FALSE(caption.font.underline);
-  QTest::mousePress(Under(caption), Qt::LeftButton);
-  EXPECT_TRUE(form.PIC[1].pressed && opened == 0);
-  QTest::mouseRelease(Under(caption), Qt::LeftButton);
-  EXPECT_EQ(opened, 1);
-  // A press that is released outside opens nothing.
-  const forms::Control& tile = form.PIC[1];
-  for (QWidget* part : {Under(caption), Under(tile)}) {
-    QTest::mousePress(part, Qt::LeftButton);
-    QTest::mouseRelease(part, Qt::LeftButton, {}, {-20, -20});
-    EXPECT_TRUE(!tile.pressed && opened == 1);
+  for (const forms::Control* part : {&form.LBL[1], &form.PIC[1]}) {
+    const auto lit = [&] { return form.PIC[1].hot && form.LBL[1].font.underline; };
+    QTest::mouseMove(Under(*part), {5, 5});
+    EXPECT_TRUE(lit());
+    EXPECT_EQ(Under(*part)->cursor().shape(), Qt::PointingHandCursor);
+    QTest::mouseMove(Under(form.PIC[2]), {5, 5});
+    EXPECT_TRUE(!lit() && form.PIC[2].hot);
+    QTest::mouseMove(Under(form.Image1), {5, 5});
+    EXPECT_FALSE(form.PIC[2].hot);
+    Drag(*part, {-20, -20});
+    EXPECT_EQ(opened, 0);  // released outside
+    Drag(*part, {5, 5});
+    EXPECT_EQ(std::exchange(opened, 0), 1);
   }
 }
 
@@ -80,8 +90,6 @@ TEST_F(DashboardWindow, MovesThroughItsMenuByKeys) {
   }
   form.activeControl = &form.PIC[2];
   window.Mirror();
-  window.activateWindow();
-  QApplication::processEvents();
   const auto press = [&](std::initializer_list<Qt::Key> keys) {
     for (const Qt::Key key : keys) QTest::keyClick(QApplication::focusWidget(), key);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
