@@ -4,20 +4,13 @@
 
 #include <gtest/gtest.h>
 
-#include <QComboBox>
-#include <QHelpEvent>
-#include <QLineEdit>
-#include <QListView>
-#include <QScrollBar>
 #include <QTest>
-#include <QTimer>
-#include <QToolTip>
+#include <QtWidgets>
 
 #include "screens/find_in_list.h"
 #include "screens/qt/qt_host.h"
 #include "screens/qt/qt_machine.h"
 #include "screens/qt/qt_painting.h"
-#include "screens/qt/wheel.h"
 
 namespace screens::qt {
 namespace {
@@ -27,9 +20,8 @@ using namespace Qt::StringLiterals;
 struct PickerWindow : testing::Test, Picker {
   PickerWindow() {
     form.Load("India", "Delhi", caller);
-    window.show();
-    window.activateWindow();
-    QApplication::processEvents();
+    toolkit.Show(form);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
   }
 
   // After the existing ones.
@@ -42,11 +34,6 @@ struct PickerWindow : testing::Test, Picker {
 
   bool IsInView(int row) const {
     return list->viewport()->rect().contains(list->visualRect(list->model()->index(row, 0)));
-  }
-
-  void Resize(int width, int height) {
-    window.resize(width, height);
-    QApplication::processEvents();
   }
 
   // The list's current entry after a key press.
@@ -89,20 +76,28 @@ TEST_F(PickerWindow, KeepsItsTextsUncutAndItsRowInViewWhenResized) {
   AddPlaces(100);
   Select(form.lstCity, 60);
   window.Mirror();
-  for (const auto& [width, height] : {std::pair(636, 524), {400, 780}, {700, 300}, {318, 262}}) {
-    Resize(width, height);
+  const auto resize = [&](QSize size) {
+    window.resize(size);
+    QApplication::processEvents();
+  };
+  for (const QSize size : {QSize(636, 524), {400, 780}, {700, 300}, {318, 262}}) {
+    resize(size);
     EXPECT_GE(countries->height(), countries->fontMetrics().height() + 4);
     EXPECT_LE(countries->geometry().bottom(), text->y());
-    EXPECT_TRUE(IsInView(60)) << width << " by " << height;
+    EXPECT_TRUE(IsInView(60)) << size.width() << " by " << size.height();
   }
   // The list stays where the user has scrolled it.
   list->scrollTo(list->model()->index(20, 0), QListView::PositionAtTop);
-  Resize(636, 524);
+  resize({636, 524});
   EXPECT_EQ(list->indexAt({0, 0}).row(), 20);
 }
 
 TEST_F(PickerWindow, ScrollsBackToThePlaceSearchedFor) {
   AddPlaces(100);
+  ScrollDown();
+  EXPECT_TRUE(IsInView(103));
+  EXPECT_TRUE(list->verticalScrollBar()->isVisible());
+  EXPECT_LE(list->viewport()->geometry().right(), list->verticalScrollBar()->parentWidget()->x());
   QTest::keyClicks(text, u"del"_s);
   ScrollDown();
   QTest::keyClicks(text, u"h"_s);
@@ -112,14 +107,6 @@ TEST_F(PickerWindow, ScrollsBackToThePlaceSearchedFor) {
   window.hide();
   window.show();
   EXPECT_TRUE(IsInView(list->currentIndex().row()));
-}
-
-TEST_F(PickerWindow, ShowsItsLastRowAndRowsBesideTheirScrollBar) {
-  AddPlaces(100);
-  ScrollDown();
-  EXPECT_TRUE(IsInView(103));
-  EXPECT_TRUE(list->verticalScrollBar()->isVisible());
-  EXPECT_LE(list->viewport()->geometry().right(), list->verticalScrollBar()->parentWidget()->x());
 }
 
 TEST_F(PickerWindow, ShowsLongTextsInTips) {
@@ -135,10 +122,10 @@ TEST_F(PickerWindow, ShowsLongTextsInTips) {
   form.lstCity.items->AddItem(place);
   form.cmbCountry.items->AddItem(place);
   window.Mirror();
-  const int last = form.cmbCountry.items->ListCount() - 1;
   EXPECT_EQ(tipOver(list, 1), QString());
   EXPECT_EQ(tipOver(list, 4), ToQt(place));
   countries->showPopup();
+  const int last = countries->count() - 1;
   EXPECT_EQ(tipOver(countries->view(), 0), QString());
   EXPECT_EQ(tipOver(countries->view(), last), ToQt(place));
   countries->hidePopup();
@@ -146,14 +133,6 @@ TEST_F(PickerWindow, ShowsLongTextsInTips) {
   form.cmbCountry.items->SetListIndex(last);
   window.Mirror();
   EXPECT_EQ(countries->toolTip(), ToQt(place));
-}
-
-TEST_F(PickerWindow, KeepsItsCountryWhenTheWheelTurnsOverIt) {
-  const int before = countries->currentIndex();
-  EXPECT_FALSE(AcceptsWheel(*countries));
-  countries->setFocus();
-  EXPECT_FALSE(AcceptsWheel(*countries));
-  EXPECT_EQ(countries->currentIndex(), before);
 }
 
 TEST_F(PickerWindow, HidesWhenAnotherWindowIsActivated) {
