@@ -2,11 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QMessageBox>
 #include <QTest>
-#include <QTimer>
-#include <QWindow>
+#include <QtWidgets>
 #include <functional>
 
 #include "foundation/files.h"
@@ -38,12 +35,14 @@ struct CountingForm : forms::Form {
 };
 
 struct Host : testing::Test {
+  Host() { host.Show(form); }
+
   CountingForm form, inner;
   QtHost host;
+  FormWindow& window = host.WindowOf(form);
 };
 
 TEST_F(Host, KeepsTimersRunningBehindAModalFormWithoutReentry) {
-  host.Show(form);
   inner.Timer1.interval = 0;
   QTimer poll;
   QObject::connect(&poll, &QTimer::timeout, [&] {
@@ -54,7 +53,6 @@ TEST_F(Host, KeepsTimersRunningBehindAModalFormWithoutReentry) {
 }
 
 TEST_F(Host, KeepsAModalFormThroughMinimising) {
-  host.Show(form);
   QTimer::singleShot(30, [&] { host.WindowOf(inner).showMinimized(); });
   QTimer::singleShot(150, [&] { host.Unload(inner); });
   host.ShowModal(inner, form);
@@ -62,16 +60,14 @@ TEST_F(Host, KeepsAModalFormThroughMinimising) {
 }
 
 TEST_F(Host, ReturnsFromAModalFormThatItsFirstEventUnloads) {
-  host.Show(form);
   inner.atResize = [&](int) { host.Unload(inner); };
   host.ShowModal(inner, form);
   EXPECT_EQ(inner.loads, 1);
 }
 
 TEST_F(Host, UnloadsAFormThatTheUserCloses) {
-  host.Show(form);
   EXPECT_TRUE(QTest::qWaitFor([&] { return form.ticks > 0; }, 20000));
-  host.WindowOf(form).close();
+  window.close();
   const int ticks = form.ticks;
   QTest::qWait(100);
   EXPECT_EQ(form.ticks, ticks);
@@ -80,8 +76,6 @@ TEST_F(Host, UnloadsAFormThatTheUserCloses) {
 }
 
 TEST_F(Host, LaysAFormOutAgainWhenItIsRestored) {
-  host.Show(form);
-  FormWindow& window = host.WindowOf(form);
   window.showMinimized();
   const int resizes = form.resizes;
   host.Show(form);
@@ -101,28 +95,21 @@ TEST_F(Host, LaysAFormOutAgainWhenItIsRestored) {
 
 // The owner is the form whose handler runs, even if another form is active.
 TEST_F(Host, MakesTheAskingWindowTheOwnerOfABox) {
-  form.Timer1.interval = 0;
   inner.Timer1.interval = 0;
-  form.Timer1.onTimer = [&] {
-    QtMessageBoxes().Show("", foundation::MessageIcon::None, foundation::MessageButtons::Ok, {});
-  };
-  host.Show(form);
   host.Show(inner);
   ASSERT_TRUE(QTest::qWaitForWindowActive(&host.WindowOf(inner)));
   const QWindow* owner = nullptr;
-  QTimer poll;
-  QObject::connect(&poll, &QTimer::timeout, [&] {
-    QWidget* const box = QApplication::activeModalWidget();
-    if (box == nullptr) return;
-    owner = box->windowHandle()->transientParent();
-    box->close();
-  });
-  poll.start(5);
-  form.Timer1.interval = 5;
-  host.MirrorAll();
+  form.Timer1.onTimer = [&] {
+    form.Timer1.interval = 0;
+    QTimer::singleShot(0, [&] {
+      QWidget* const box = QApplication::activeModalWidget();
+      owner = box->windowHandle()->transientParent();
+      box->close();
+    });
+    QtMessageBoxes().Show("", foundation::MessageIcon::None, foundation::MessageButtons::Ok, {});
+  };
   EXPECT_TRUE(QTest::qWaitFor([&] { return owner != nullptr; }));
-  form.Timer1.interval = 0;
-  EXPECT_EQ(owner, host.WindowOf(form).windowHandle());
+  EXPECT_EQ(owner, window.windowHandle());
 }
 
 // Closes the message box, whose text it logs; the process then ends.

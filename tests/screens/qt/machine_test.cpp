@@ -1,15 +1,19 @@
-// The machine and its user, as Qt reports them.
+// The machine as Qt reports it: its clock, names of the locale, pictures on the clipboard and in
+// files.
 
 #include <gtest/gtest.h>
 
-#include <QLocale>
-#include <QProcess>
-#include <QTime>
+#include <QtWidgets>
 #include <chrono>
 #include <ctime>
-#include <map>
 
+#include "bitmap/cDIBSection.h"
+#include "bitmap/libjpeg_library.h"
+#include "bitmap/mIntelJPEGLibrary.h"
+#include "screens/qt/qt_clipboard.h"
 #include "screens/qt/qt_machine.h"
+#include "support/app_folder.h"
+#include "support/machine_fakes.h"
 #include "support/table.h"
 
 namespace screens::qt {
@@ -69,13 +73,45 @@ TEST(SystemNames, AreThoseOfTheLocale) {
              Row("C", "January November Sunday Saturday  1"));
 }
 
-TEST(SystemNames, FollowTheUsersLocale) {
-  const std::map<QString, std::string> march = {{QStringLiteral("C"), "March"},
-                                                {QStringLiteral("de_DE"), "März"},
-                                                {QStringLiteral("hi_IN"), "मार्च"}};
-  const auto expected = march.find(QLocale::system().name());
-  if (expected == march.end()) GTEST_SKIP() << "the names of this locale are not known";
-  EXPECT_EQ(SystemNames().months[2], expected->second);
+bool Copy(double width, double height, decltype(forms::Picture::items) items) {
+  const forms::Picture picture = {width, height, std::move(items)};
+  return QtClipboard().SetPicture(std::make_shared<const forms::Picture>(picture));
+}
+
+QImage Held() {
+  return QGuiApplication::clipboard()->image();
+}
+
+TEST(Clipboard, HoldsThePictureAsPixelsUntilTheNext) {
+  const forms::Raster raster = {2, 1, {255, 0, 0, 9, 8, 7}};
+  // A pixel is 150 twips wide, so it is not rendered again.
+  ASSERT_TRUE(Copy(300, 150, {forms::Dots{std::make_shared<const forms::Raster>(raster)}}));
+  ASSERT_EQ(Held().size(), QSize(2, 1));
+  EXPECT_EQ(Held().pixelColor(1, 0), QColor(9, 8, 7));
+
+  const forms::Outline box = {forms::Path::Box({0, 0}, 45, 15), forms::Rgb(0x102030), {}};
+  ASSERT_TRUE(Copy(45, 30, {box}));
+  EXPECT_EQ(Held().pixelColor(2, 0), QColor(0x10, 0x20, 0x30));
+  EXPECT_EQ(Held().pixelColor(2, 1), QColor(Qt::white));
+
+  EXPECT_FALSE(QtClipboard().SetPicture(nullptr) || Copy(0, 0, {}));
+  EXPECT_EQ(Held().size(), QSize(3, 2));
+}
+
+// Read back by another decoder than the writer's: the red pixel is where it was.
+TEST(SavedPicture, IsReadByQt) {
+  bitmap::cDIBSection dib;
+  ASSERT_TRUE(dib.Create(9, 9));
+  dib.hdc()->Row(8)[2] = 255;
+  const support::AppFolderScope folder;
+  const std::string file = folder.path / "red.jpg";
+  bitmap::LibjpegLibrary library;
+  support::FakeMessageBoxes boxes;
+  ASSERT_TRUE(bitmap::SaveJPG(dib, file, 100, library, boxes));
+  const QImage read(QString::fromStdString(file));
+  ASSERT_EQ(read.size(), QSize(9, 9));
+  EXPECT_GT(read.pixelColor(0, 0).red(), read.pixelColor(0, 0).green() + 50);
+  EXPECT_LT(read.pixelColor(8, 8).red(), 5);
 }
 
 }  // namespace

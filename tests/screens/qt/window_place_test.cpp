@@ -4,10 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QGuiApplication>
-#include <QScreen>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 #include "forms/layout.h"
 #include "screens/qt/qt_host.h"
@@ -27,13 +25,17 @@ struct SizedForm : forms::Form {
 
 struct WindowPlace : testing::Test {
   QRect Shown(forms::Form& form) {
-    FormWindow& window = host.WindowOf(form);
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&host.WindowOf(form)));
     QTest::qWait(0);  // for events that its first paint posts
-    return window.frameGeometry();
+    return host.WindowOf(form).frameGeometry();
   }
 
-  QRect ShownModal(forms::Form& form) {
+  // The owner is shown first, at this place.
+  QRect ShownModal(forms::Form& form, QPoint behind) {
+    host.Show(owner);
+    Shown(owner);
+    host.WindowOf(owner).move(behind);
+    Shown(owner);
     QRect place;
     QTimer::singleShot(0, [&] {
       place = Shown(form);
@@ -41,13 +43,6 @@ struct WindowPlace : testing::Test {
     });
     host.ShowModal(form, owner);
     return place;
-  }
-
-  QRect MoveOwner(int left, int top) {
-    host.Show(owner);
-    Shown(owner);
-    host.WindowOf(owner).move(left, top);
-    return Shown(owner);
   }
 
   SizedForm owner{300, 200}, dialog{200, 100}, large{2000, 1500};
@@ -63,13 +58,12 @@ TEST_F(WindowPlace, FillsTheScreenForALargerWindow) {
   host.WindowOf(large).Mirror();
   EXPECT_EQ(Shown(large), screen);  // although its form's minimum size is larger
   host.Unload(large);
-  MoveOwner(100, 100);
-  EXPECT_EQ(ShownModal(large), screen);
+  EXPECT_EQ(ShownModal(large, {100, 100}), screen);
 }
 
 TEST_F(WindowPlace, OfAModalWindowIsTheMiddleOfItsOwner) {
-  const QRect behind = MoveOwner(250, 350);
-  EXPECT_EQ(ShownModal(dialog), behind.adjusted(50, 50, -50, -50));
+  const QRect place = ShownModal(dialog, {250, 350});
+  EXPECT_EQ(place, host.WindowOf(owner).frameGeometry().adjusted(50, 50, -50, -50));
 }
 
 TEST_F(WindowPlace, OfAModalWindowIsOnTheScreen) {
