@@ -2,23 +2,27 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "foundation/version.h"
 #include "report/page_files.h"
 #include "screens/previewing.h"
 #include "support/errors.h"
-#include "support/locales.h"
 #include "support/table.h"
 
 namespace screens {
 namespace {
 
+using foundation::DateFromParts;
 using support::Row;
+using Texts = std::vector<std::string>;
 
-struct Preview : PreviewTest {
+struct PageFiles
+    : testing::Test,
+      PreviewingWith<support::FakeHost, support::FakeRasteriser, support::RecordingTarget> {};
+
+// Three pages.
+struct Preview : PageFiles {
   Preview() {
-    Make(foundation::DateFromParts(2011, 1, 30), foundation::DateFromParts(2011, 3, 2));
+    Make(DateFromParts(2011, 1, 30), DateFromParts(2011, 3, 2));
     preview.Form_Load();
   }
 
@@ -33,11 +37,31 @@ struct Preview : PreviewTest {
   }
 };
 
+// At each yield and at the end: the status, how many pages are listed and how often one was
+// cleared, what the host did last, and whether the panel closes.
+TEST_F(Preview, IsFilledAndShownStepByStep) {
+  Texts steps;
+  yielder.between = [&](int) {
+    steps.push_back(status.caption + ", " + std::to_string(preview.cmbPage.items->ListCount()) +
+                    ", " + std::to_string(host.target.After("Cls").size()) + ", " +
+                    host.calls.back() + (preview.Timer1.enabled ? ", closing" : ""));
+    EXPECT_EQ(std::tuple(preview.PIC.place.width, preview.city), std::tuple(13635, "Delhi"));
+  };
+  preview.PIC.place.width = 0;
+  host.target.calls.clear();
+  Make(DateFromParts(2011, 1, 31), DateFromParts(2011, 2, 1));
+  yielder.Yield();
+  EXPECT_EQ(steps, (Texts{"Loading.. 1 February 2011, 0, 0, Unload frmSPkun",
+                          "Loading.. 2 February 2011, 1, 1, Unload frmSPkun",
+                          ", 2, 2, Show frmSPkun", ", 2, 3, Show frmSPkun, closing"}));
+}
+
 TEST_F(Preview, ShowsPagesFromTheirFiles) {
   EXPECT_NEAR(preview.PIC.picture->width, 30, 0.1);  // two pixels at 96 per inch
   const auto press = [&](forms::Control* button, const char* number) {
     preview.txtPage.caption = number;
     button->onClick();
+    EXPECT_EQ(preview.lstPage.items->ListIndex(), preview.cmbPage.items->ListIndex());
     return preview.cmbPage.items->ListIndex();
   };
   auto *back = &preview.cmdBack, *next = &preview.cmdNext, *show = &preview.cmdGO;
@@ -52,20 +76,14 @@ TEST_F(Preview, ShowsPagesFromTheirFiles) {
   EXPECT_EQ(preview.lstPage.toolTip, "");
 }
 
+// Even if it belongs to the name of a month: "Pebrero" is February in Filipino.
 TEST_F(Preview, ReadsThePageNumberAfterTheFirstP) {
   std::int16_t number = 7;
   preview.ShowPage(number, kCachePage, "Durvela April 2011 ..P2", false);
   EXPECT_EQ(number, 2);
-  EXPECT_ERROR(FileNotFound, preview.ShowPage(number, kCachePage, "Page ..P2", false));
+  EXPECT_ERROR(FileNotFound,
+               preview.ShowPage(number, kCachePage, "Durvela Pebrero 2011 ..P2", false));
   EXPECT_EQ(number, 0);
-}
-
-TEST_F(Preview, FailsOnAPageWhoseMonthHasACapitalP) {
-  foundation::LocaleNames names = foundation::EnglishNames();
-  names.months[1] = "Pebrero";  // February in Filipino
-  const support::UserNamesScope scope(names);
-  Make(foundation::DateFromParts(2011, 1, 31), foundation::DateFromParts(2011, 2, 1));
-  EXPECT_ERROR(FileNotFound, Select(preview.cmbPage, 1));
 }
 
 TEST_F(Preview, ScrollsByKeysWheelAndDragging) {
@@ -73,6 +91,8 @@ TEST_F(Preview, ScrollsByKeysWheelAndDragging) {
   preview.Form_Resize();
   const forms::Place& page = preview.PIC.place;
   const int distance = static_cast<int>(page.height - preview.picPage.place.height);
+  EXPECT_FALSE(preview.lblProduct.visible);  // it would cover the buttons
+  EXPECT_GT(preview.minimumWidth, preview.cmdPrint.place.left + preview.cmdPrint.place.width);
   EXPECT_NEAR(preview.VScroll1.scroll.largeChange, 0.5 * distance, 0.5);
   const auto press = [&](forms::Key key, int times) {
     forms::KeyPress keyPress = {key};
@@ -87,48 +107,42 @@ TEST_F(Preview, ScrollsByKeysWheelAndDragging) {
   preview.PIC.onMouseWheel(2);
   EXPECT_EQ(page.top, 0);
 
-  preview.PIC.onMouseDown({500, 500});
-  preview.PIC.onMouseMove({400, 300});
-  EXPECT_EQ(std::tuple(page.left, page.top, preview.PIC.grabCursor), std::tuple(-100, -200, true));
+  const auto drag = [&](bool shift) {
+    preview.PIC.onMouseDown({{500, 500}, shift});
+    preview.PIC.onMouseMove({400, 300});
+    return std::tuple(page.left, page.top, preview.PIC.grabCursor);
+  };
+  EXPECT_EQ(drag(false), std::tuple(-100, -200, true));
   preview.PIC.onMouseUp({400, 300});
   EXPECT_EQ(preview.VScroll1.scroll.value, 200);
-  preview.PIC.onMouseMove({0, 0});
-  EXPECT_EQ(page.top, -200);
-  preview.PIC.onMouseDown({{500, 500}, true});
-  preview.PIC.onMouseMove({400, 300});
-  EXPECT_EQ(page.top, -200);
+  EXPECT_EQ(drag(true), std::tuple(-100, -200, false));
 
   preview.Form_Load();  // makes the window tall enough for the page
   EXPECT_EQ(std::tuple(preview.VScroll1.enabled, page.top), std::tuple(false, 0));
 }
 
-TEST_F(Preview, FitsItsButtonsAtItsMinimumWidth) {
-  preview.scaleWidth = preview.minimumWidth;
-  preview.Form_Resize();
-  const forms::Place& last = preview.cmdPrint.place;
-  EXPECT_LT(last.left + last.width, preview.picTOOL.place.width);
-  EXPECT_FALSE(preview.lblProduct.visible);
-}
-
 TEST_F(Preview, SlidesItsPanelInAndOut) {
   const forms::Place &panel = preview.picLeft.place, &button = preview.cmdHide.place;
+  const auto slide = [](const forms::Control& timer) {
+    for (int i = 0; i < 100 && timer.enabled; ++i) timer.onTimer();
+  };
   preview.activeControl = &preview.cmdHide;
   preview.cmdHide.onClick();
   EXPECT_EQ(std::tuple(preview.cmdShow.visible, preview.activeControl, preview.lstPage.tabStop),
             std::tuple(true, &preview.cmdShow, false));
-  for (int i = 0; i < 100 && preview.Timer1.enabled; ++i) preview.Timer1.onTimer();
-  EXPECT_EQ(std::tuple(panel.width, preview.cmdShow.place.left), std::tuple(button.width, 0));
-  EXPECT_FALSE(preview.lstPage.visible);
+  slide(preview.Timer1);
+  EXPECT_EQ(std::tuple(panel.width, preview.cmdShow.place.left, preview.lstPage.visible),
+            std::tuple(button.width, 0, false));
   EXPECT_EQ(preview.picPage.place.left, panel.width + 200);
+
   preview.cmdShow.onClick();
   preview.cmdHide.onClick();
   EXPECT_FALSE(preview.Timer2.enabled);
   preview.cmdShow.onClick();
   EXPECT_FALSE(preview.Timer1.enabled);
-  for (int i = 0; i < 100 && preview.Timer2.enabled; ++i) preview.Timer2.onTimer();
-  EXPECT_EQ(panel.width, preview.lstPage.place.width);
-  EXPECT_TRUE(preview.lstPage.visible);
-  EXPECT_EQ(button.left, panel.width - button.width);
+  slide(preview.Timer2);
+  EXPECT_EQ(std::tuple(panel.width, button.left, preview.lstPage.visible),
+            std::tuple(preview.lstPage.place.width, panel.width - button.width, true));
 }
 
 TEST_F(Preview, PrintsAllPagesOrTheShownOne) {
@@ -145,7 +159,6 @@ TEST_F(Preview, PrintsAllPagesOrTheShownOne) {
 
 TEST_F(Preview, ReportsPrintingErrors) {
   const std::string name = "DocumentName Durvela January 2011 to March 2011, Delhi|";
-  const std::string failure = "The file " + report::PageFile(1).string() + " is not a bitmap";
   folder.Write("temp/prv1.tmp", "no bitmap");
   EXPECT_TRUE(Print(preview.cmdPrintPage).ends_with("Print 0 0 |EndDoc|"));
   boxes.answer = foundation::MessageAnswer::Yes;
@@ -154,67 +167,37 @@ TEST_F(Preview, ReportsPrintingErrors) {
   boxes.answer = foundation::MessageAnswer::No;
   printer.cancelled = true;
   EXPECT_EQ(Print(preview.cmdPrint), name + "AskUser|EndDoc|");
-  std::string messages;
-  for (const auto& box : boxes.shown) messages += box.text + "\n";
-  EXPECT_EQ(messages, "Printing Cancelled: " + failure + "\n" + failure +
-                          ". Do you want to continue with the next page?\n"
-                          "Cancel was selected. Do you want to continue with the next page?\n");
+
+  const std::string failure = "The file " + report::PageFile(1).string() + " is not a bitmap";
+  const std::string question = ". Do you want to continue with the next page?";
+  Texts messages;
+  for (const auto& box : boxes.shown) messages.push_back(box.text);
+  EXPECT_EQ(messages, (Texts{"Printing Cancelled: " + failure, failure + question,
+                             "Cancel was selected" + question}));
 }
 
 TEST_F(Preview, DrawsOtherPagesDirectly) {
-  settings.SaveSetting(foundation::kProgramName, "Setting", "company", "Company");
-  settings.SaveSetting(foundation::kProgramName, "Setting", "tag", "Tag");
+  for (const auto& [key, line] : {std::pair("company", "Company"), {"tag", "Tag"}}) {
+    settings.SaveSetting(foundation::kProgramName, "Setting", key, line);
+  }
   session.Current().PersonName = "Person";
   host.target.calls.clear();
-  for (std::int16_t page : {std::int16_t{0}, std::int16_t{1}}) {
-    preview.ShowPage(page, "chart", "Chart", false);
-  }
-  std::string printed;
-  for (const std::string& call : host.target.calls) {
-    if (call.starts_with("Print ")) printed += call.substr(6) + "|";
-  }
-  EXPECT_EQ(printed,
-            "300 120 Person|"
-            "300 480 Date: 5/3/2011  Time: 00:00:00  Place: Delhi 28.40N 77.13E 82.30E|"
-            "300 15315 Company|2750 15315 Tag|10400 15600 0|"
-            "300 15315 Company|2750 15315 Tag|10400 15600 1|");
+  for (std::int16_t page = 0; page <= 1; ++page) preview.ShowPage(page, "chart", "Chart", false);
+  EXPECT_EQ(host.target.After("Print "),
+            (Texts{"300 120 Person",
+                   "300 480 Date: 5/3/2011  Time: 00:00:00  Place: Delhi 28.40N 77.13E 82.30E",
+                   "300 15315 Company", "2750 15315 Tag", "10400 15600 0", "300 15315 Company",
+                   "2750 15315 Tag", "10400 15600 1"}));
 }
 
-// What the user could see of a report with a page for each of two days, in order.
-TEST_F(PreviewTest, IsFilledAndShownStepByStep) {
-  std::vector<std::string> steps;
-  const auto note = [&](const std::string& state) {
-    steps.push_back(state + ", " + std::to_string(preview.cmbPage.items->ListCount()) + ", " +
-                    std::to_string(std::ranges::count(host.target.calls, "Cls")) + ", " +
-                    host.calls.back());
-  };
-  yielder.between = [&](int) {
-    note(status.caption);
-    EXPECT_EQ(preview.PIC.place.width, 13635);
-    EXPECT_EQ(preview.city, "Delhi");
-    EXPECT_TRUE(preview.cmdHide.visible);
-  };
-  preview.AddPage(kCachePage, "of an earlier report");
-  Make(foundation::DateFromParts(2011, 1, 31), foundation::DateFromParts(2011, 2, 1));
-  note("done");
-  EXPECT_EQ(steps,
-            (std::vector<std::string>{"Loading.. 1 February 2011, 0, 0, Unload frmSPkun",
-                                      "Loading.. 2 February 2011, 1, 1, Unload frmSPkun",
-                                      ", 2, 2, Show frmSPkun", "done, 2, 3, Show frmSPkun"}));
-  EXPECT_TRUE(preview.Timer1.enabled);  // closes the panel
-  EXPECT_EQ(preview.cmbPage.items->ListIndex(), 0);
-}
-
-// A page that could not be written may leave an older page's file under its name.
+// The file of a page of the same number may still exist.
 TEST_F(Preview, ShowsNoStalePage) {
   rasteriser.dots = {};
   preview.CreateTMPfile(1, preview.PIC);
-  std::int16_t number = 1;
+  std::int16_t number = 0;
   EXPECT_EQ(support::FailureOf([&] { preview.ShowPage(number, kCachePage, "May ..P1", false); }),
             "The file " + report::PageFile(1).string() + " cannot be written");
 }
-
-using PageFiles = PreviewTest;
 
 TEST_F(PageFiles, IgnoreFailuresToWriteThem) {
   folder.Write("temp", "a file instead of the folder");
@@ -223,28 +206,14 @@ TEST_F(PageFiles, IgnoreFailuresToWriteThem) {
   EXPECT_ERROR(FileNotFound, report::LoadPage(1));
 }
 
+// Whichever program has written them.
 TEST_F(PageFiles, KeepOnePerMonthUntilTheNextReport) {
-  const auto files = [&] {
+  for (const char* name : {"temp/foreign.tmp", "temp/kept.txt"}) folder.Write(name, "x");
+  const auto files = [&](int lastMonth) {
+    Make(DateFromParts(2011, 1, 1), DateFromParts(2011, lastMonth, 28));
     return std::distance(std::filesystem::directory_iterator(folder.path / "temp"), {});
   };
-  for (const char* name : {"temp/foreign.tmp", "temp/kept.txt"}) folder.Write(name, "x");
-  Make(foundation::DateFromParts(2011, 1, 1), foundation::DateFromParts(2011, 12, 31));
-  EXPECT_EQ(files(), 13);  // one of them kept.txt
-  EXPECT_EQ(host.calls, (std::vector<std::string>{"Unload frmSPkun", "Show frmSPkun"}));
-  Make(foundation::DateFromParts(2011, 3, 5), foundation::DateFromParts(2011, 3, 5));
-  EXPECT_EQ(files(), 2);
-}
-
-TEST_F(PageFiles, AreSharedByTwoPrograms) {
-  Make(foundation::DateFromParts(2011, 1, 31), foundation::DateFromParts(2011, 2, 1));
-  frmSPkun other(services);
-  other.RESET();
-  rasteriser.dots.rgb = {4, 5, 6, 7, 8, 9};
-  other.CreateTMPfile(1, other.PIC);
-  preview.cmbPage.onClick();
-  const auto& dots = std::get<forms::Dots>(preview.PIC.picture->items.at(0));
-  EXPECT_EQ(dots.raster->rgb, rasteriser.dots.rgb);
-  EXPECT_ERROR(FileNotFound, Select(preview.cmbPage, 1));
+  ExpectRows(files, Row(12, 13), Row(1, 2));  // one of them kept.txt
 }
 
 }  // namespace

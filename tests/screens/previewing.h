@@ -1,33 +1,35 @@
-// Reports in the preview with fake services, in a temporary program folder.
+// Reports for Delhi in the preview, in a temporary program folder.
 #pragma once
 
-#include "report/reporting.h"
 #include "screens/show_report.h"
 #include "support/app_folder.h"
+#include "support/machine_fakes.h"
+#include "support/screen_fakes.h"
 
 namespace screens {
 
-struct Previewing {
+template <typename Host, typename Rasteriser, typename Printer>
+struct PreviewingWith {
   support::AppFolderScope folder;
   support::FakeSettings settings;
   support::FakeMessageBoxes boxes;
   support::FakeYielder yielder;
-  support::FakeHost host;
-  support::RecordingTarget printer;
   foundation::SessionTable session;
-  support::FakeRasteriser rasteriser;
+  Host host;
+  Rasteriser rasteriser;
+  Printer printer;
   PreviewServices services{settings, session, boxes, yielder, host, rasteriser, printer};
   frmSPkun preview{services};
   forms::Control status;
 
-  Previewing() { foundation::InitSessionRecord(session, foundation::DateFromParts(2011, 3, 5)); }
+  explicit PreviewingWith(const auto&... ofPrinter) : printer(ofPrinter...) {
+    foundation::InitSessionRecord(session, foundation::DateFromParts(2011, 3, 5));
+  }
 
-  // From one day to another in Delhi.
   void Make(foundation::DateTime from, foundation::DateTime to) {
-    ShowReport(report::InDelhi(from, to), status, preview, services);
+    ShowReport({from, to, 0.5, "28.40N", "77.13E", "82.30E", "-5.30", "Delhi", "India"}, status,
+               preview, services);
   }
 };
-
-struct PreviewTest : testing::Test, Previewing {};
 
 }  // namespace screens

@@ -21,6 +21,15 @@ class RecordingTarget : public forms::Printer {
  public:
   std::vector<std::string> calls;
 
+  // The rest of each call that begins with `start`.
+  std::vector<std::string> After(std::string_view start) const {
+    std::vector<std::string> rests;
+    for (const std::string& call : calls) {
+      if (call.starts_with(start)) rests.push_back(call.substr(start.size()));
+    }
+    return rests;
+  }
+
   void SetForeColor(forms::Colour c) override { Note("ForeColor", c); }
   void SetDrawWidth(double pixels) override { Note("DrawWidth", pixels); }
   void SetFont(std::string_view name) override { Note("Font", name); }

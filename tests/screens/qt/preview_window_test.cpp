@@ -1,34 +1,176 @@
-// The print preview in its window.
+// The print preview in its window: focus, pages as pixels, printing.
 
 #include <gtest/gtest.h>
 
-#include <QPushButton>
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFile>
+#include <QLineEdit>
+#include <QPaintEngine>
+#include <QPrintDialog>
+#include <QPrinterInfo>
+#include <QStringEncoder>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
+#include <QWindow>
 
-#include "screens/qt/whole_program.h"
+#include "report/page_files.h"
+#include "screens/previewing.h"
+#include "screens/qt/qt_host.h"
+#include "screens/qt/qt_printer.h"
+#include "support/errors.h"
+#include "support/full_disk.h"
 
 namespace screens::qt {
 namespace {
 
 using namespace Qt::StringLiterals;
+using foundation::DateFromParts;
+
+// A report from 1 January 2011, printed to a PDF file if it is named.
+struct Printing : PreviewingWith<QtHost, QtRasteriser, QtPrinter> {
+  explicit Printing(foundation::DateTime end, const QString& file = {}) : PreviewingWith(file) {
+    Make(DateFromParts(2011, 1, 1), end);
+  }
+  ~Printing() { host.Unload(preview); }
+
+  std::string FirstMessage() const { return boxes.shown.at(0).text; }
+};
+
+QByteArray BytesOf(const QString& file) {
+  QFile pdf(file);
+  EXPECT_TRUE(pdf.open(QIODevice::ReadOnly));
+  return pdf.readAll();
+}
 
 TEST(PreviewWindow, MovesTheFocusOutOfItsPanelWhenThatCloses) {
-  WholeProgram whole;
-  frmSPkun& preview = whole.program.Preview();
-  whole.program.host.Show(preview);
-  FormWindow& window = whole.program.host.WindowOf(preview);
+  Printing printing(DateFromParts(2011, 1, 1));
+  printing.preview.cmdShow_Click();
+  FormWindow& window = printing.host.WindowOf(printing.preview);
+  window.Mirror();
   window.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  auto* list = window.findChild<QWidget*>(u"lstPage"_s);
-  for (const auto* focus : {u"lstPage", u"cmdHide"}) {
-    auto* widget = window.findChild<QWidget*>(QString::fromUtf16(focus));
-    widget->setFocus();
-    ASSERT_TRUE(widget->hasFocus());
-    window.findChild<QPushButton*>(u"cmdHide"_s)->click();
-    EXPECT_EQ(window.focusWidget()->objectName(), u"cmdShow");
-    EXPECT_EQ(list->focusPolicy(), Qt::NoFocus);
-    window.findChild<QPushButton*>(u"cmdShow"_s)->click();
+  auto* const list = window.findChild<QWidget*>(u"lstPage"_s);
+  list->setFocus();
+  ASSERT_TRUE(list->hasFocus());
+  window.findChild<QAbstractButton*>(u"cmdHide"_s)->click();
+  EXPECT_EQ(window.focusWidget()->objectName(), u"cmdShow");
+  EXPECT_EQ(list->focusPolicy(), Qt::NoFocus);
+}
+
+// A page of 909 by 682 logical pixels at the screen's resolution.
+TEST(Printing, GivesAPageOfPixelsAndASheetForEachMonth) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(u"quarter.pdf"_s);
+  Printing printing(DateFromParts(2011, 3, 31), file);
+  const int ratio = qRound(qApp->devicePixelRatio());
+  const forms::PicturePtr page = report::LoadPage(1);
+  EXPECT_NEAR(page->width, 13635, 1);
+  const forms::RasterPtr raster = DotsOf(*page);
+  EXPECT_EQ(std::tuple(raster->width, raster->height), std::tuple(909 * ratio, 682 * ratio));
+  printing.preview.cmdPrint_Click();
+  EXPECT_TRUE(printing.boxes.shown.empty());
+  const QByteArray pdf = BytesOf(file);
+  EXPECT_EQ(pdf.count("/Type /Page\n"), 3);  // no blank sheet follows
+  EXPECT_EQ(pdf.count("/Width " + QByteArray::number(909 * ratio)), 3);
+}
+
+TEST(Printing, NamesAFileThatItCannotWrite) {
+  Printing beginning(DateFromParts(2011, 1, 2), u"/nowhere/at/all.pdf"_s);
+  beginning.preview.cmdPrintPage_Click();
+  EXPECT_EQ(beginning.FirstMessage(),
+            "Printing Cancelled: The file /nowhere/at/all.pdf cannot be written");
+
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(u"cut.pdf"_s);
+  Printing ending(DateFromParts(2011, 2, 1), file);
+  const support::FullDiskScope full(4096);
+  ending.preview.cmdPrint_Click();
+  EXPECT_EQ(ending.FirstMessage(),
+            "The file " + file.toStdString() +
+                " cannot be written. Do you want to continue with the next page?");
+}
+
+struct Sheet : forms::Form {
+  Sheet() : Form("Sheet", "", 6000, 4000) { picture = forms::NewPicture(6000, 4000); }
+  CONTROL(PictureBox, Rule, {.place = {300, 200, 5400, 15}});
+};
+
+TEST(DirectPages, AreReplacedByAFormsImageUnlessItHasAnOffset) {
+  Printing printing(DateFromParts(2011, 1, 1));
+  Sheet sheet;
+  const auto inset = [&](std::size_t item) {
+    return std::get<forms::Inset>(printing.preview.PIC.picture->items.at(item));
+  };
+  for (int time = 1; time <= 2; ++time) {  // the second image replaces the first
+    printing.preview.setPage(sheet);
+    EXPECT_EQ(printing.preview.PIC.picture->items.size(), 2U);
+    EXPECT_EQ(inset(0), (forms::Inset{sheet.picture, {}, 6000, 4000}));
+    EXPECT_EQ(inset(1).width, 5400);
   }
+  printing.preview.setPage2(sheet, 0, 500);
+  EXPECT_EQ(printing.preview.PIC.picture->items.size(), 4U);
+  EXPECT_EQ(inset(2).at, (forms::Point{0, 500}));
+}
+
+// Without a printer, the dialog prints to a file.
+struct PrintDialog : testing::Test {
+  PrintDialog() {
+    QTimer::singleShot(0, &waiting, [this] {
+      auto* const dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+      for (const char* choice : {"gbPrintRange", "reverse"}) {
+        offersOtherPages |= dialog->findChild<QWidget*>(QLatin1String(choice))->isEnabled();
+      }
+      owner = dialog->windowHandle()->transientParent();
+      device = dialog->printer();
+      auto* const name = dialog->findChild<QLineEdit*>(u"filename"_s);
+      proposed = name->text();
+      name->setText(file);
+      dialog->accept();
+    });
+  }
+  void SetUp() override {
+    if (!QPrinterInfo::availablePrinterNames().isEmpty()) GTEST_SKIP() << "would print on paper";
+  }
+
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(u"both.pdf"_s);
+  QObject waiting;
+  bool offersOtherPages = false;
+  const QWindow* owner = nullptr;
+  QPrinter* device = nullptr;
+  QString proposed;
+};
+
+TEST_F(PrintDialog, PrintsToAFileAfterFindingNoPrinter) {
+  Printing printing(DateFromParts(2011, 2, 1));
+  printing.preview.cmdPrintPage_Click();
+  EXPECT_EQ(printing.FirstMessage(), "Printing Cancelled: There is no printer");
+
+  FormWindow& window = printing.host.WindowOf(printing.preview);
+  window.findChild<QAbstractButton*>(u"cmdPrint"_s)->click();
+  EXPECT_EQ(printing.boxes.shown.size(), 1U);
+  EXPECT_FALSE(offersOtherPages);
+  EXPECT_EQ(owner, window.windowHandle());
+  const QString name = u"Durvela January 2011 to February 2011, Delhi"_s;
+  EXPECT_TRUE(proposed.endsWith(u'/' + name + u".pdf"_s));
+  const QByteArray pdf = BytesOf(file);
+  EXPECT_EQ(pdf.count("/Type /Page\n"), 2);
+  const QByteArray title = QStringEncoder(QStringEncoder::Utf16BE).encode(name);
+  EXPECT_EQ(pdf.count(title), 1);
+}
+
+TEST_F(PrintDialog, NamesAFileThatTakesNoMorePages) {
+  QtPrinter printer;
+  printer.AskUser();
+  printer.Print("one");
+  printer.NewPage();
+  device->paintEngine()->end();
+  printer.Print("two");
+  EXPECT_EQ(support::FailureOf([&] { printer.NewPage(); }),
+            "The file " + file.toStdString() + " cannot be written");
+  printer.EndDoc();
 }
 
 }  // namespace
