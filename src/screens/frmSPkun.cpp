@@ -178,6 +178,7 @@ void frmSPkun::cmbPage_Click() {
   std::int16_t number = foundation::RoundToInt16(index + 1);
   lstPage.items->SetListIndex(index);
   ShowPage(number, PageName(index + 1), PageTitle(index + 1), false);
+  for (forms::Control* bar : {&VScroll1, &HScroll1}) SetScroll(*bar, 0);
 }
 
 void frmSPkun::lstPage_Click() {

@@ -116,6 +116,8 @@ TEST_F(Preview, ScrollsByKeysWheelAndDragging) {
   preview.PIC.onMouseUp({400, 300});
   EXPECT_EQ(preview.VScroll1.scroll.value, 200);
   EXPECT_EQ(drag(true), std::tuple(-100, -200, false));
+  preview.cmdNext.onClick();  // begins at its top left
+  EXPECT_EQ(std::tuple(page.left, page.top), std::tuple(0, 0));
 
   preview.Form_Load();  // makes the window tall enough for the page
   EXPECT_EQ(std::tuple(preview.VScroll1.enabled, page.top), std::tuple(false, 0));
