@@ -55,6 +55,7 @@ enum class Look {
   Tile,     // an item of a picture menu: picture above, room for a caption, lit when hot or pressed
   Primary,  // a form's main button
   OnEarth,  // a button on a dark background
+  OnSky,    // a button on a picture
   Flat,     // a button without a border
 };
 

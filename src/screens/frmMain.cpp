@@ -40,6 +40,10 @@ void frmMain::SetMenuItem(int index, std::function<void()> open) {
   open_[index] = std::move(open);
 }
 
+void frmMain::SetPreferences(std::function<void()> open) {
+  cmdPreferences.onClick = std::move(open);
+}
+
 // Ticks at once, so that the dashboard never appears without figures.
 void frmMain::Form_Load() {
   sizes_.SaveSizes(*this);

@@ -53,10 +53,14 @@ class frmMain : public ScaledForm {
   CONTROL(Label, Label13, dashboard_layout::ContactLine(2, kTelephone));
   CONTROL(Label, VersionCaption, dashboard_layout::VersionLine());
 
+  CONTROL(CommandButton, cmdPreferences, dashboard_layout::PreferencesButton());
+
   CONTROL(Timer, Timer1, {.interval = 1000});
 
   // Sets what a menu item opens; until then it is disabled.
   void SetMenuItem(int index, std::function<void()> open);
+
+  void SetPreferences(std::function<void()> open);
 
   void Form_Load() override;
   void Form_Resize() override;

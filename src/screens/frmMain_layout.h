@@ -126,6 +126,16 @@ inline std::vector<Properties> MenuCaptions() {
   return captions;
 }
 
+// Reached with Tab after the menu.
+inline Properties PreferencesButton() {
+  return {.place = At(20, 18, 108, 30),
+          .caption = "&Preferences",
+          .font = {.size = 9.375F, .bold = true},
+          .tabStop = true,
+          .tabIndex = 1,
+          .look = forms::Look::OnSky};
+}
+
 inline Properties ContactLine(int number, std::string_view text) {
   return {.place = At(20 + 180 * static_cast<float>(number), 530, 170, 20),
           .caption = std::string(text),

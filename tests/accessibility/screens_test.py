@@ -22,6 +22,7 @@ DASHBOARD, TIMETABLE = "Durvela 2", ("Timetable", "Durvela")
 INFORMATION = ["What is Durvela", "Calculation of Durvela", "Products", "Sitara Desk",
                "Yama Ghantak", "Gulika Kaal"]
 OK = ["push button: OK"]
+PREFERENCES = ("Preferences", "Preferences")
 
 # What to press in each window, starting from the dashboard, and the title of the next one; the role
 # of the last window and its tab stops.
@@ -29,10 +30,15 @@ SCREENS = [
     ([], "frame",
      ["push button: What is Durvela", "push button: Timetable", "push button: About us",
       "push button: Calculation of Durvela", "push button: Products", "push button: Sitara Desk",
-      "push button: Yama Ghantak", "push button: Gulika Kaal"]),
+      "push button: Yama Ghantak", "push button: Gulika Kaal", "push button: Preferences"]),
     *[([(title, title)], "dialog", OK) for title in INFORMATION],
     ([("About us", "About Durvela")], "frame", OK + ["push button: System Info..."]),
     ([("About us", "About Durvela"), ("System Info...", "Durvela")], "alert", OK),
+    ([PREFERENCES], "dialog",
+     ["combo box: Clock", "push button: Zone…", "push button: Defaults", "push button: Close"]),
+    ([PREFERENCES, ("Zone…", "Zone")], "dialog",
+     ["text: Search", "list: Zones", "push button: The place's zone", "push button: Cancel",
+      "push button: Choose"]),
     ([TIMETABLE], "frame",
      ["spin button: Starting Date", "spin button: Ending Date", "spin button: Time",
       "push button: Edit Place", "push button: Save as Default", "push button: < Quick View",

@@ -67,6 +67,9 @@ class Tour {
     }
     program.Picker().Load("India", "Ujjain", program.dashboard);
     TakeForm(program, program.Picker(), QStringLiteral("picker"), false);
+    TakeForm(program, program.Preferences(), QStringLiteral("preferences"), true);
+    program.Zones().Load("Asia/Kolkata");
+    TakeForm(program, program.Zones(), QStringLiteral("zones"), true);
     TakeReport(program);
   }
 

@@ -141,6 +141,7 @@ void Program::FillMenu() {
   dashboard.SetMenuItem(5, page(SitaraDeskPage));
   dashboard.SetMenuItem(6, page(YumPage));
   dashboard.SetMenuItem(7, page(GulikPage));
+  dashboard.SetPreferences([this] { host.ShowModal(Preferences(), dashboard); });
 }
 
 frmDurvela& Program::Timetable() {
@@ -167,6 +168,16 @@ frmCity& Program::Picker() {
 frmSPkun& Program::Preview() {
   if (!preview_) preview_.emplace(MakePreviewServices());
   return *preview_;
+}
+
+screens::Preferences& Program::Preferences() {
+  if (!preferences_) preferences_.emplace(MakeServices(), Zones());
+  return *preferences_;
+}
+
+ZoneList& Program::Zones() {
+  if (!zones_) zones_.emplace(*now_, host);
+  return *zones_;
 }
 
 InformationScreen& Program::Information(const InformationPage& page) {

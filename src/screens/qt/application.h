@@ -13,6 +13,7 @@
 #include "screens/frmMain.h"
 #include "screens/frmSPkun.h"
 #include "screens/information.h"
+#include "screens/preferences.h"
 #include "screens/qt/qt_host.h"
 #include "screens/qt/qt_machine.h"
 #include "screens/qt/qt_printer.h"
@@ -40,6 +41,8 @@ class Program {
   frmAbout& About();
   frmCity& Picker();
   frmSPkun& Preview();
+  screens::Preferences& Preferences();
+  ZoneList& Zones();
   InformationScreen& Information(const InformationPage& page);
 
  private:
@@ -63,6 +66,8 @@ class Program {
   std::optional<frmAbout> about_;
   std::optional<frmCity> picker_;
   std::optional<frmSPkun> preview_;
+  std::optional<ZoneList> zones_;
+  std::optional<screens::Preferences> preferences_;
   std::map<const InformationPage*, InformationScreen> information_;
 
  public:

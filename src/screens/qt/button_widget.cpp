@@ -16,11 +16,28 @@ QString NameOf(forms::Look look) {
       return QStringLiteral("primary");
     case forms::Look::OnEarth:
       return QStringLiteral("onEarth");
+    case forms::Look::OnSky:
+      return QStringLiteral("onSky");
     case forms::Look::Flat:
       return QStringLiteral("flat");
     default:
       return QStringLiteral("plain");
   }
+}
+
+// A dark field that lets the picture through, with an edge for the night sky.
+QString OnSkyStyle() {
+  constexpr double kField = 0.65, kEdge = 0.4;
+  return QStringLiteral(
+             "QPushButton[look=onSky] { background: %1; color: %2;"
+             " border: 1px solid %6; border-radius: 12px; }"
+             "QPushButton[look=onSky]:hover { background: %3; }"
+             "QPushButton[look=onSky]:pressed { background: %4; }"
+             "QPushButton[look=onSky]:focus { border: 2px solid %5; }")
+      .arg(ToQt(palette::kNight.WithOpacity(kField)).name(QColor::HexArgb),
+           ToQt(palette::kCream).name(), ToQt(palette::kNight).name(), ToQt(palette::kEarth).name(),
+           ToQt(palette::kGold).name(),
+           ToQt(palette::kCream.WithOpacity(kEdge)).name(QColor::HexArgb));
 }
 
 }  // namespace
@@ -75,7 +92,8 @@ QString ButtonStyle() {
              "QPushButton[look=flat]:focus { border: 2px solid %8; }")
              .arg(name(palette::kGold), name(palette::kRule), name(palette::kQuiet),
                   name(palette::kCream), name(palette::kFaintOnEarth), name(palette::kHill),
-                  name(palette::kNight), name(palette::kFocus));
+                  name(palette::kNight), name(palette::kFocus)) +
+         OnSkyStyle();
 }
 
 }  // namespace screens::qt

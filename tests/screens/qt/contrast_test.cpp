@@ -169,13 +169,14 @@ TEST(Contrast, IsEnoughOnEveryScreen) {
     list->items->AddItem("1: March 2011");
     list->items->SetListIndex(0);
   }
+  program.Zones().Load("UTC");
   frmDurvela& timetable = program.Timetable();
   program.host.WindowOf(timetable);
   forms::TypeMoment(timetable.DT1, "soon");                         // shows two remarks
   for (int tick = 0; tick < 100; ++tick) timetable.Timer1_Timer();  // until its sun stops
-  for (forms::Form* form :
-       std::initializer_list<forms::Form*>{&program.dashboard, &timetable, &program.About(),
-                                           &program.Preview(), &program.Picker()}) {
+  for (forms::Form* form : std::initializer_list<forms::Form*>{
+           &program.dashboard, &timetable, &program.About(), &program.Preview(), &program.Picker(),
+           &program.Preferences(), &program.Zones()}) {
     CheckForm(program, *form);
   }
   for (const auto page :
