@@ -45,6 +45,14 @@ QFont TextBoxWidget::RemarkFont() const {
   return ToQt(font);
 }
 
+// The style sheet, which applies at the first show, makes the hint too faint to read.
+void TextBoxWidget::showEvent(QShowEvent* event) {
+  QLineEdit::showEvent(event);
+  QPalette colours = palette();
+  colours.setColor(QPalette::PlaceholderText, ToQt(palette::kQuiet));
+  setPalette(colours);
+}
+
 void TextBoxWidget::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
   QPainter painter(this);

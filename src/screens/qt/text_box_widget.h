@@ -17,6 +17,7 @@ class TextBoxWidget : public QLineEdit, public ControlView {
   void Mirror() override;
 
  protected:
+  void showEvent(QShowEvent*) override;
   void paintEvent(QPaintEvent*) override;
   void focusInEvent(QFocusEvent*) override;
   void mouseReleaseEvent(QMouseEvent*) override;

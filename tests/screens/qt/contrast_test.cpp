@@ -126,6 +126,15 @@ void CheckInside(QWidget& widget) {
       << widget.objectName().toStdString();
 }
 
+// Shown only as long as the field is empty.
+void CheckHint(QWidget& widget) {
+  if (qobject_cast<QLineEdit*>(&widget) == nullptr) return;
+  const QColor colour = widget.palette().color(QPalette::PlaceholderText);
+  EXPECT_EQ(colour.alpha(), 255) << widget.objectName().toStdString();
+  EXPECT_GE(Contrast(colour.rgb(), ToQt(palette::kPaper).rgb()), 4.5)
+      << widget.objectName().toStdString();
+}
+
 // In one of Qt's dialogs, whose arrow the program's style does not change.
 TEST(Contrast, IsEnoughForTheArrowOfAPlainDropDown) {
   QComboBox paper;
@@ -155,8 +164,9 @@ void CheckForm(Program& program, forms::Form& form) {
   }
   for (QWidget* widget : window.findChildren<QWidget*>()) {
     const bool wordless = qobject_cast<ControlWidget*>(widget) || qobject_cast<QScrollBar*>(widget);
-    const bool usable = widget->isVisible() && widget->focusPolicy() != Qt::NoFocus;
-    if (usable && !wordless) CheckInside(*widget);
+    if (!widget->isVisible() || wordless || widget->focusPolicy() == Qt::NoFocus) continue;
+    CheckInside(*widget);
+    CheckHint(*widget);
   }
 }
 
