@@ -8,12 +8,16 @@
 #include "foundation/date_text.h"
 #include "foundation/resume.h"
 #include "foundation/time_text.h"
+#include "screens/clock_row.h"
 #include "screens/frmMain.h"
 #include "screens/place_labels.h"
+#include "words/clock_text.h"
+#include "words/record_zone.h"
 
 namespace screens {
 namespace {
 
+using clocks::ZoneClock;
 using foundation::DateTimeFields;
 using foundation::DecimalToTimeText;
 using foundation::Filled;
@@ -50,14 +54,21 @@ DateTimeFields ShownMoment(const frmMain& labels) {
   return moment;
 }
 
-}  // namespace
+// In place of the period, which is only there if the sun rises and sets.
+std::string_view NoDurvela(day::Sun::State sun) {
+  switch (sun) {
+    case day::Sun::State::PolarDay:
+      return "No sunset today";
+    case day::Sun::State::PolarNight:
+      return "No sunrise today";
+    default:
+      return "none";
+  }
+}
 
-void Tick(foundation::DateTime now, foundation::Settings& settings,
-          foundation::SessionTable& session, frmMain& labels) {
-  ShowMoment(now, labels);
-  ShowDefaultPlace(settings, PlaceLabelsOf(labels));
-  Resume([&] { CopyPlace(PlaceLabelsOf(labels), session.Current()); });
-
+// Rise and set by the session record, and the labels that show them and Durvela.
+std::optional<dayperiods::SunriseRows> ShowByRecord(foundation::SessionTable& session,
+                                                    frmMain& labels) {
   const DateTimeFields at = ShownMoment(labels);
   engine::clsPP place;
   Resume([&] { engine::GenRecordHoro(place, session.Current(), at); });
@@ -69,6 +80,60 @@ void Tick(foundation::DateTime now, foundation::Settings& settings,
   dayperiods::clsUtilities periods(session);
   Resume([&] { periods.CalcDurvela(at.day, at.month, at.year, at.hour, at.minute, at.second); });
   labels.lblDurvela.caption = periods.DurvelaStart + "-" + periods.DurvelaEnd;
+  return sun;
+}
+
+// Replaces what the record gives if it is not what the day has: beyond 63 degrees, where the solar
+// series fails, and where the record's longitude is read as minutes.
+void ShowByDay(const day::Day& day, const ZoneClock& clock, int weekday,
+               const std::optional<dayperiods::SunriseRows>& byRecord, frmMain& labels) {
+  const auto text = [&](std::optional<clocks::Instant> instant) {
+    return instant ? words::TimeText(clock, *instant) : std::string("none");
+  };
+  const std::string rise = text(day.sun.rise), set = text(day.sun.set);
+  if (byRecord && DecimalToTimeText(byRecord->clockRise) == rise &&
+      DecimalToTimeText(byRecord->clockSet) == set) {
+    return;
+  }
+  labels.lblSR.caption = rise;
+  labels.lblSS.caption = set;
+  const auto durvela = day::PeriodOn(day, day::PeriodKind::Durvela, weekday);
+  labels.lblDurvela.caption = durvela ? text(durvela->begin) + "-" + text(durvela->end)
+                                      : std::string(NoDurvela(day.sun.state));
+}
+
+}  // namespace
+
+void Tick(foundation::DateTime now, foundation::Settings& settings,
+          foundation::SessionTable& session, frmMain& labels) {
+  ShowMoment(now, labels);
+  ShowDefaultPlace(settings, PlaceLabelsOf(labels));
+  ShowCountrysZone(labels);
+  Resume([&] { CopyPlace(PlaceLabelsOf(labels), session.Current()); });
+  ShowByRecord(session, labels);
+}
+
+void TickByOwnClock(clocks::Instant now, std::chrono::seconds machineOffset,
+                    foundation::Settings& settings, foundation::SessionTable& session,
+                    day::KeptPlace& place, frmMain& labels) {
+  ShowDefaultPlace(settings, PlaceLabelsOf(labels));
+  Resume([&] { place.Set(settings, TextsOf(PlaceLabelsOf(labels))); });
+
+  const ZoneClock& clock = place.Clock().clock;
+  const clocks::CivilTime time = clock.CivilAt(now);
+  Resume([&] { ShowMoment(foundation::DateTimeOf(time), labels); });
+  ShowOwnClock(place.Clock(), now, machineOffset, labels);
+
+  const std::chrono::local_days sunDate = place.SunDate(now);
+  Resume([&] {
+    CopyPlace(PlaceLabelsOf(labels), session.Current());
+    words::SetRecordZone(session.Current(), clock, sunDate);
+  });
+  const auto byRecord = ShowByRecord(session, labels);
+  if (const day::Day* day = place.On(sunDate)) {
+    const int weekday = day::WeekdayOf(std::chrono::floor<std::chrono::days>(time));
+    ShowByDay(*day, clock, weekday, byRecord, labels);
+  }
 }
 
 }  // namespace screens

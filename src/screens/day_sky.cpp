@@ -56,8 +56,9 @@ class SkyPainter {
       if (scene_.sun > 1) SunBelow(scene_.sun - 1);
       Times();
     } else {
-      Text("Daylight is not divided here today", {centre_.x, centre_.y - 166 * y_},
-           Alignment::Centre, 12, false, palette::kFaintCream);
+      const std::string& why = scene_.undivided;
+      Text(why.empty() ? "Daylight is not divided here today" : why,
+           {centre_.x, centre_.y - 166 * y_}, Alignment::Centre, 12, false, palette::kFaintCream);
     }
     return std::move(picture_);
   }

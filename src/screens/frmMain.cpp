@@ -98,14 +98,26 @@ void frmMain::Form_MouseLeave() {
 }
 
 void frmMain::Timer1_Timer() {
+  foundation::Resume([&] { choice_ = atlas::ReadClockChoice(services_.settings); });
   foundation::Resume([&] {
-    const foundation::DateTime now = services_.clock.Now();
-    Tick(now, services_.settings, services_.session, *this);
-    DayScene scene = SceneOf(now, services_.session);
+    DayScene scene = choice_ == atlas::ClockChoice::Own ? TickByOwnClock() : TickByCountrysClock();
     if (Image1.picture && scene == scene_) return;
     scene_ = std::move(scene);
     ShowSky();
   });
+}
+
+DayScene frmMain::TickByCountrysClock() {
+  const foundation::DateTime now = services_.clock.Now();
+  Tick(now, services_.settings, services_.session, *this);
+  return SceneOf(now, services_.session);
+}
+
+DayScene frmMain::TickByOwnClock() {
+  const clocks::Instant now = services_.clock.InstantNow();
+  screens::TickByOwnClock(now, services_.clock.OffsetAt(now), services_.settings, services_.session,
+                          place_, *this);
+  return SceneOf(now, place_, services_.session);
 }
 
 void frmMain::PIC_Click(int index) {

@@ -3,6 +3,8 @@
 
 #include <functional>
 
+#include "atlas/place_clock.h"
+#include "day/kept_place.h"
 #include "foundation/bounded_array.h"
 #include "screens/contact.h"
 #include "screens/day_scene.h"
@@ -27,6 +29,7 @@ class frmMain : public ScaledForm {
   CONTROL(Label, TodayCaption, dashboard_layout::OnSky(213, 20, 9, "TODAY:"));
   CONTROL(Label, lblDate, dashboard_layout::OnSky(236, 30, 14.25F, "", true));
   CONTROL(Label, lblTime, dashboard_layout::OnSky(258, 76, 40.5F, ""));
+  CONTROL(Label, ThereCaption, dashboard_layout::BesideTime("there"));
 
   CONTROL(Label, lblCity, dashboard_layout::CardHead(38));
   CONTROL(Label, CountryCaption, dashboard_layout::CardCaption(72, "Country"));
@@ -37,6 +40,8 @@ class frmMain : public ScaledForm {
   CONTROL(Label, lblLong, dashboard_layout::CardValue(120));
   CONTROL(Label, lblZone, dashboard_layout::CardCaption(144, ""));
   CONTROL(Label, lblZoneTime, dashboard_layout::CardValue(144));
+  CONTROL(Label, ClockCaption, dashboard_layout::CardCaption(144, "Clock"));
+  CONTROL(Label, lblClock, dashboard_layout::CardValue(144));
 
   CONTROL(Label, SunriseCaption, dashboard_layout::CardCaption(191, "Sunrise:"));
   CONTROL(Label, lblSR, dashboard_layout::CardFigure(188));
@@ -76,11 +81,15 @@ class frmMain : public ScaledForm {
   void Image1_MouseMove();
 
  private:
+  DayScene TickByCountrysClock();
+  DayScene TickByOwnClock();
   void FocusItem(int first, int step);
   void ShowSky();
 
   Services services_;
   foundation::BoundedArray<std::function<void()>, 0, kMenuItems - 1> open_;
+  atlas::ClockChoice choice_ = atlas::ClockChoice::Own;
+  day::KeptPlace place_;
   DayScene scene_;
 };
 

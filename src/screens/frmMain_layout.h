@@ -51,6 +51,15 @@ inline Properties OnSky(float top, float height, float size, std::string_view ca
           .alignment = Alignment::Centre};
 }
 
+inline Properties BesideTime(std::string_view caption) {
+  return {.place = At(406, 268, 60, 22),
+          .caption = std::string(caption),
+          .font = {.size = 10.5F},
+          .spokenName = "by the clock of the place",
+          .foreColour = palette::kCream,
+          .visible = false};
+}
+
 inline Properties CardHead(float top) {
   return {.place = At(608, top, 190, 30),
           .font = {.size = 15.75F, .bold = true},

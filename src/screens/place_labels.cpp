@@ -23,6 +23,12 @@ void SaveDefaultPlace(foundation::Settings& settings, const PlaceLabels& labels)
   settings.SaveSettings(foundation::kProgramName, foundation::kPlaceSection, place);
 }
 
+atlas::PlaceTexts TextsOf(const PlaceLabels& labels) {
+  const auto& [country, city, latitude, longitude, zone, zoneTime] = labels;
+  return {country->caption, city->caption, latitude->caption, longitude->caption,
+          zoneTime->caption};
+}
+
 void CopyPlace(const PlaceLabels& labels, foundation::SessionRecord& record) {
   const auto& [country, city, latitude, longitude, zone, zoneTime] = labels;
   record.LatitudeText = latitude->caption;

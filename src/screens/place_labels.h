@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "atlas/place_clock.h"
 #include "forms/control.h"
 #include "foundation/session.h"
 #include "foundation/settings.h"
@@ -25,6 +26,9 @@ void ShowDefaultPlace(foundation::Settings& settings, const PlaceLabels& labels)
 
 // Saves the labels' place as the default. FileAccess if it cannot be saved.
 void SaveDefaultPlace(foundation::Settings& settings, const PlaceLabels& labels);
+
+// The labels' place for the atlas, which knows its clock.
+atlas::PlaceTexts TextsOf(const PlaceLabels& labels);
 
 // Copies the labels' place to a record.
 void CopyPlace(const PlaceLabels& labels, foundation::SessionRecord& record);

@@ -12,7 +12,7 @@ namespace screens {
 
 // The texts, each followed by a blank.
 std::string Words(const auto&... texts) {
-  return ((texts + " ") + ...);
+  return ((std::string(texts) + " ") + ...);
 }
 
 // The captions of a form's place labels, in the order of the settings.

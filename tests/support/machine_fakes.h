@@ -18,6 +18,10 @@ struct FakeClock : foundation::Clock {
   foundation::DateTime now = 0;
   std::chrono::seconds east = std::chrono::minutes(330);
 
+  void SetInstant(std::chrono::sys_seconds instant) {
+    now = foundation::DateTimeOf(std::chrono::local_seconds((instant + east).time_since_epoch()));
+  }
+
   foundation::DateTime Now() const override { return now; }
   std::chrono::sys_seconds InstantNow() const override {
     return std::chrono::sys_seconds(foundation::CivilTimeOf(now).time_since_epoch()) - east;
