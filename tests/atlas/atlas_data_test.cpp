@@ -13,11 +13,13 @@
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "support/machine_fakes.h"
+#include "support/table.h"
 
 namespace atlas {
 namespace {
 
 namespace fs = std::filesystem;
+using support::Row;
 
 struct AtlasData : testing::Test {
   AtlasData() { foundation::SetAppFolder(fs::path(ATLAS_FOLDER).parent_path()); }
@@ -28,6 +30,14 @@ struct AtlasData : testing::Test {
   }
   double Longitude(std::int16_t index) const {
     return engine::DecimalDegrees(engine::LongitudeParts(atlas.getLong(index)), "W");
+  }
+
+  // Loads a country; the index of a place by its label in the picker, "Delhi(Delhi)".
+  std::int16_t Find(const char* country, std::string_view label) {
+    atlas.LoadCities(country, nullptr);
+    std::int16_t i = 1;
+    while (i <= atlas.getLength() && atlas.getCity(i) + "(" + atlas.getState(i) + ")" != label) ++i;
+    return i;
   }
 
   support::FakeYielder yielder;
@@ -73,80 +83,62 @@ TEST_F(AtlasData, ContainsEveryPlaceInTheTables) {
 // Published coordinates, to a tenth of a degree.
 TEST_F(AtlasData, LocatesKnownTowns) {
   const struct {
-    const char *country, *city, *state;
+    const char *country, *label;
     double latitude, longitude;
   } towns[] = {
-      {"India", "Delhi", "Delhi", 28.61, 77.23},
-      {"Mauritius", "Port Louis", "Port Louis", -20.16, 57.50},
-      {"USA", "New York City", "New York", 40.71, -74.01},
+      {"India", "Delhi(Delhi)", 28.61, 77.23},
+      {"Mauritius", "Port Louis(Port Louis)", -20.16, 57.50},
+      {"USA", "New York City(New York)", 40.71, -74.01},
   };
-  for (const auto& [country, city, state, latitude, longitude] : towns) {
-    atlas.LoadCities(country, nullptr);
-    std::int16_t i = 1;
-    while (i <= atlas.getLength() && (atlas.getCity(i) != city || atlas.getState(i) != state)) ++i;
-    EXPECT_NEAR(Latitude(i), latitude, 0.1) << city;
-    EXPECT_NEAR(Longitude(i), longitude, 0.1) << city;
+  for (const auto& [country, label, latitude, longitude] : towns) {
+    const std::int16_t i = Find(country, label);
+    EXPECT_NEAR(Latitude(i), latitude, 0.1) << label;
+    EXPECT_NEAR(Longitude(i), longitude, 0.1) << label;
   }
 }
 
-// By the comments in tzdata's zone.tab, which name the region of each zone. The atlas has each
-// place as the picker hands it on.
+// By the comments in tzdata's zone.tab, which name the region of each zone.
 TEST_F(AtlasData, KnowsTheZonesOfPlaces) {
-  const struct {
-    const char* country;
-    std::vector<std::pair<const char*, const char*>> zones;
-  } countries[] = {
-      {"Australia", {{"Broken Hill(New South Wales)", "Australia/Broken_Hill"}}},
-      {"Brazil",
-       {{"Eirunepe(Amazonas)", "America/Eirunepe"},
-        {"Fernando de Noronha (Distrito Estadual)(Pernambuco)", "America/Noronha"}}},
-      {"Canada",
-       {{"Antigonish(Nova Scotia)", "America/Halifax"},
-        {"Creston(British Columbia)", "America/Creston"},
-        {"Swift Current(Saskatchewan)", "America/Swift_Current"},
-        {"Sydney(Nova Scotia)", "America/Glace_Bay"}}},
-      {"Chile",
-       {{"Coyhaique(Aysen)", "America/Coyhaique"}, {"Hanga Roa(Valparaiso)", "Pacific/Easter"}}},
-      {"Cyprus",
-       {{"Kyrenia(Keryneia)", "Asia/Famagusta"}, {"Paralimni(Ammochostos)", "Asia/Nicosia"}}},
-      {"French Polynesia", {{"Atuona(Iles Marquises)", "Pacific/Marquesas"}}},
-      {"Germany", {{"Busingen(Baden-Wurttemberg)", "Europe/Busingen"}}},
-      {"India", {{"Ujjain(Madhya Pradesh)", "Asia/Kolkata"}}},
-      {"Indonesia", {{"Ambon(Maluku)", "Asia/Jayapura"}}},
-      {"Kiribati", {{"Banana Village(Line Islands)", "Pacific/Kiritimati"}}},
-      {"Malaysia", {{"Kota Kinabalu(Sabah)", "Asia/Kuching"}}},
-      {"Mexico",
-       {{"Bucerias(Nayarit)", "America/Bahia_Banderas"},
-        {"Manuel Benavides(Chihuahua)", "America/Ojinaga"},
-        {"Nava(Coahuila)", "America/Matamoros"}}},
-      {"Mongolia",
-       {{"Ulaangom(Uvs Province)", "Asia/Hovd"}, {"Uliastay(Dzabkhan)", "Asia/Ulaanbaatar"}}},
-      {"New Zealand", {{"Waitangi(Chatham Islands)", "Pacific/Chatham"}}},
-      {"Portugal", {{"Ponta Delgada(Azores)", "Atlantic/Azores"}}},
-      {"Russia",
-       {{"Khandyga(Sakha)", "Asia/Khandyga"},
-        {"Severo-Kuril'sk(Sakhalin Oblast)", "Asia/Srednekolymsk"},
-        {"Ust-Nera(Sakha)", "Asia/Ust-Nera"}}},
-      {"Spain", {{"Melilla(Melilla)", "Africa/Ceuta"}}},
-      {"USA",
-       {{"Beulah(North Dakota)", "America/North_Dakota/Beulah"},
-        {"Menominee(Michigan)", "America/Menominee"},
-        {"Tell City(Indiana)", "America/Indiana/Tell_City"},
-        {"Vincennes(Indiana)", "America/Indiana/Vincennes"}}},
-      {"Zaire", {{"Lubumbashi(Haut-Katanga)", "Africa/Lubumbashi"}}},
+  const auto zoneOf = [&](const char* country, const char* label) {
+    const std::int16_t i = Find(country, label);
+    const PlaceZone zone = ZoneOfPlace(country, label, atlas.getLat(i), atlas.getLong(i)).value();
+    EXPECT_TRUE(zone.exact) << label;
+    return zone.name;
   };
-  for (const auto& [country, zones] : countries) {
-    atlas.LoadCities(country, nullptr);
-    for (const auto& [label, expected] : zones) {
-      std::int16_t i = 1;
-      while (i <= atlas.getLength() && atlas.getCity(i) + "(" + atlas.getState(i) + ")" != label) {
-        ++i;
-      }
-      const auto zone = ZoneOfPlace(country, label, atlas.getLat(i), atlas.getLong(i));
-      ASSERT_TRUE(zone && zone->exact) << label;
-      EXPECT_EQ(zone->name, expected) << label;
-    }
-  }
+  ExpectRows(
+      zoneOf, Row("Australia", "Broken Hill(New South Wales)", "Australia/Broken_Hill"),
+      Row("Brazil", "Eirunepe(Amazonas)", "America/Eirunepe"),
+      Row("Brazil", "Fernando de Noronha (Distrito Estadual)(Pernambuco)", "America/Noronha"),
+      Row("Canada", "Antigonish(Nova Scotia)", "America/Halifax"),
+      Row("Canada", "Creston(British Columbia)", "America/Creston"),
+      Row("Canada", "Swift Current(Saskatchewan)", "America/Swift_Current"),
+      Row("Canada", "Sydney(Nova Scotia)", "America/Glace_Bay"),
+      Row("Chile", "Coyhaique(Aysen)", "America/Coyhaique"),
+      Row("Chile", "Hanga Roa(Valparaiso)", "Pacific/Easter"),
+      Row("Cyprus", "Kyrenia(Keryneia)", "Asia/Famagusta"),
+      Row("Cyprus", "Paralimni(Ammochostos)", "Asia/Nicosia"),
+      Row("French Polynesia", "Atuona(Iles Marquises)", "Pacific/Marquesas"),
+      Row("Germany", "Busingen(Baden-Wurttemberg)", "Europe/Busingen"),
+      Row("India", "Ujjain(Madhya Pradesh)", "Asia/Kolkata"),
+      Row("Indonesia", "Ambon(Maluku)", "Asia/Jayapura"),
+      Row("Kiribati", "Banana Village(Line Islands)", "Pacific/Kiritimati"),
+      Row("Malaysia", "Kota Kinabalu(Sabah)", "Asia/Kuching"),
+      Row("Mexico", "Bucerias(Nayarit)", "America/Bahia_Banderas"),
+      Row("Mexico", "Manuel Benavides(Chihuahua)", "America/Ojinaga"),
+      Row("Mexico", "Nava(Coahuila)", "America/Matamoros"),
+      Row("Mongolia", "Ulaangom(Uvs Province)", "Asia/Hovd"),
+      Row("Mongolia", "Uliastay(Dzabkhan)", "Asia/Ulaanbaatar"),
+      Row("New Zealand", "Waitangi(Chatham Islands)", "Pacific/Chatham"),
+      Row("Portugal", "Ponta Delgada(Azores)", "Atlantic/Azores"),
+      Row("Russia", "Khandyga(Sakha)", "Asia/Khandyga"),
+      Row("Russia", "Severo-Kuril'sk(Sakhalin Oblast)", "Asia/Srednekolymsk"),
+      Row("Russia", "Ust-Nera(Sakha)", "Asia/Ust-Nera"),
+      Row("Spain", "Melilla(Melilla)", "Africa/Ceuta"),
+      Row("USA", "Beulah(North Dakota)", "America/North_Dakota/Beulah"),
+      Row("USA", "Menominee(Michigan)", "America/Menominee"),
+      Row("USA", "Tell City(Indiana)", "America/Indiana/Tell_City"),
+      Row("USA", "Vincennes(Indiana)", "America/Indiana/Vincennes"),
+      Row("Zaire", "Lubumbashi(Haut-Katanga)", "Africa/Lubumbashi"));
 }
 
 }  // namespace
