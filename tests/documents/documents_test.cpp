@@ -12,17 +12,19 @@
 #include "foundation/files.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
+#include "support/table.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using foundation::ReadFile;
+using support::Row;
 
 const fs::path kProject = PROJECT_FOLDER;
 
-// What a pattern finds in a text, in a form of its own.
+// What a pattern finds in a text, in a form such as "$1.$2".
 std::set<std::string> Found(const std::string& text, const std::string& pattern,
-                            const char* form = "$1") {
+                            const std::string& form = "$1") {
   const std::regex regex(pattern);
   std::set<std::string> found;
   for (std::sregex_iterator at(text.begin(), text.end(), regex), end; at != end; ++at) {
@@ -33,20 +35,15 @@ std::set<std::string> Found(const std::string& text, const std::string& pattern,
 
 TEST(Documents, LeadToFilesThatAreThere) {
   int seen = 0;
-  const auto expectThere = [&](const fs::path& file, const fs::path& document) {
-    EXPECT_TRUE(fs::exists(file)) << document << " names " << file;
-    ++seen;
-  };
-  for (const char* name : {".", "docs", "examples", "data/Language"}) {
-    const fs::path folder = kProject / name;
-    for (const fs::path& document : fs::directory_iterator(folder)) {
+  for (const char* folder : {".", "docs", "examples", "data/Language"}) {
+    for (const fs::path& document : fs::directory_iterator(kProject / folder)) {
       if (document.extension() != ".md") continue;
       const std::string text = ReadFile(document);
-      for (const auto& link : Found(text, R"(\]\(([^:)]+)\))")) {
-        expectThere(folder / link, document);
-      }
-      for (const auto& file : Found(text, "`((src|tests|docs|scripts|tools)/[^`<]*)`")) {
-        expectThere(kProject / file, document);
+      auto named = Found(text, R"(\]\(([^:)]+)\))", kProject / folder / "$1");
+      named.merge(Found(text, "`((src|tests|docs|scripts|tools)/[^`<]*)`", kProject / "$1"));
+      for (const auto& file : named) {
+        EXPECT_TRUE(fs::exists(file)) << document << " names " << file;
+        ++seen;
       }
     }
   }
@@ -80,23 +77,21 @@ TEST(Documents, TellTheAccuracyThatWasMeasured) {
   std::string readme = ReadFile(kProject / "README.md");
   std::ranges::replace(readme, '\n', ' ');
   const std::string measured = ReadFile(kProject / "docs/accuracy.md");
-  struct Claim {
-    const char *row, *text;
-    double units, unit;  // the worst of the rows in whole units, rounded up
-  };
-  for (const Claim& claim : {Claim{"Delhi, 28.7° N", "64 seconds", 64, 1},
-                             {"Ålesund, 62.5° N", "132 at 62.5 degrees", 132, 1},
-                             {", sidereal", "within 0.6 minutes of arc", 6, 0.1},
-                             {"Tithi", "within two minutes of time", 2, 60},
-                             {"Nakshatra", "nakshatras and yogas within one minute", 1, 60},
-                             {"Yoga", "nakshatras and yogas within one minute", 1, 60}}) {
+  // The worst of the rows, in whole units rounded up.
+  const auto worstOf = [&](const std::string& row, double unit, const char* claim) {
+    EXPECT_NE(readme.find(claim), readme.npos) << claim;
     double worst = 0;
-    for (const auto& last : Found(measured, claim.row + std::string(R"( .*\| (.*) \|\n)"))) {
+    for (const auto& last : Found(measured, row + R"( .*\| (.*) \|\n)")) {
       worst = std::max(worst, foundation::LeadingNumber(last));
     }
-    EXPECT_EQ(std::ceil(worst / claim.unit), claim.units) << claim.row;
-    EXPECT_NE(readme.find(claim.text), readme.npos) << claim.text;
-  }
+    return std::ceil(worst / unit);
+  };
+  ExpectRows(worstOf, Row("Delhi, 28.7° N", 1, "64 seconds", 64),
+             Row("Ålesund, 62.5° N", 1, "132 at 62.5 degrees", 132),
+             Row(", sidereal", 0.1, "within 0.6 minutes of arc", 6),
+             Row("Tithi", 60, "within two minutes of time", 2),
+             Row("Nakshatra", 60, "nakshatras and yogas within one minute", 1),
+             Row("Yoga", 60, "nakshatras and yogas within one minute", 1));
 }
 
 TEST(Documents, NameTestsThatAreThere) {
