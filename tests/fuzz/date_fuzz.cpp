@@ -7,33 +7,6 @@
 #include "foundation/time_text.h"
 #include "fuzz/fuzz.h"
 
-namespace {
-
-void Date(std::string_view text, bool english) {
-  const auto at = foundation::FieldsOf(foundation::ReadDateTime(text));
-  const auto again = foundation::TryReadDateTime(
-      foundation::DateTimeText(at.day, at.month, at.year, at.hour, at.minute, at.second));
-  // Arbitrary names need not be readable.
-  fuzz::Require(!english || (again && foundation::FieldsOf(*again) == at));
-}
-
-void TypedDate(std::string_view text) {
-  const auto date = foundation::TryReadTypedDate(text);
-  fuzz::Require(!date || *date == foundation::FloorToInt32(*date));
-}
-
-void Time(std::string_view text) {
-  const double number = foundation::LeadingNumber(text);
-  fuzz::Try([&] { foundation::TimeTextToDecimal(text); });
-  fuzz::Try([&] { foundation::PadDigits(text, 2) + foundation::PadDigits(number, 2); });
-  fuzz::Try([&] { foundation::DecimalToTimeText(number, 9.5); });
-  fuzz::Require(foundation::TryReadTime(foundation::DecimalToTimeText(number)).has_value());
-  const double part = foundation::FracPart(number);
-  fuzz::Require(part >= 0 && part <= 1);
-}
-
-}  // namespace
-
 void fuzz::Run(const std::string& bytes) {
   std::string_view rest = bytes;
   const std::string_view text = foundation::TakeLine(rest);
@@ -43,7 +16,21 @@ void fuzz::Run(const std::string& bytes) {
     if (!rest.empty()) month = foundation::TakeLine(rest);
   }
   foundation::SetUserNames(names);
-  fuzz::Try([&] { Date(text, english); });
-  TypedDate(text);
-  Time(text);
+  Try([&] {
+    const auto at = foundation::FieldsOf(foundation::ReadDateTime(text));
+    const auto again = foundation::TryReadDateTime(
+        foundation::DateTimeText(at.day, at.month, at.year, at.hour, at.minute, at.second));
+    // Arbitrary names need not be readable.
+    Require(!english || (again && foundation::FieldsOf(*again) == at));
+  });
+  const auto date = foundation::TryReadTypedDate(text);
+  Require(!date || *date == foundation::FloorToInt32(*date));
+
+  const double number = foundation::LeadingNumber(text);
+  Try([&] { foundation::TimeTextToDecimal(text); });
+  Try([&] { foundation::PadDigits(text, 2) + foundation::PadDigits(number, 2); });
+  Try([&] { foundation::DecimalToTimeText(number, 9.5); });
+  Require(foundation::TryReadTime(foundation::DecimalToTimeText(number)).has_value());
+  const double part = foundation::FracPart(number);
+  Require(part >= 0 && part <= 1);
 }

@@ -13,13 +13,6 @@ namespace {
 
 using Numbers = std::array<double, 7>;
 
-void Angles(std::string_view text) {
-  double number = foundation::LeadingNumber(text);
-  fuzz::Try([&] { foundation::ZoneToMeridianText(text); });
-  fuzz::Try([&] { foundation::DecimalToSignDMS(number); });
-  fuzz::Try([&] { foundation::DegMinToDecimal(number); });
-}
-
 void Chart(const foundation::SessionRecord& place, const Numbers& numbers) {
   const auto& [day, month, year, hour, minute, second, ayanamsa] = numbers;
   const std::int32_t mode = foundation::RoundToInt32(ayanamsa);
@@ -50,7 +43,12 @@ void fuzz::Run(const std::string& bytes) {
   std::string_view rest = bytes;
   for (std::string* text : {&place.LatitudeText, &place.LongitudeText, &place.ZoneMeridianText}) {
     *text = foundation::TakeLine(rest);
-    fuzz::Try([&] { Angles(*text); });
+    Try([&] { foundation::ZoneToMeridianText(*text); });
+    Try([&] { foundation::DecimalToSignDMS(foundation::LeadingNumber(*text)); });
+    Try([&] {
+      double number = foundation::LeadingNumber(*text);
+      foundation::DegMinToDecimal(number);
+    });
   }
   Numbers numbers = {};
   for (double& number : numbers) number = foundation::LeadingNumber(foundation::TakeLine(rest));
