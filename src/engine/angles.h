@@ -11,7 +11,7 @@ inline constexpr double DegToRad = PiValue / 180;
 
 // The fractional part, never negative: of revolutions, the part that counts. Unlike
 // foundation::FracPart it accepts x beyond 32 bits.
-inline double FracPart(double x) {
+inline double FractionOf(double x) {
   return x - std::floor(x);
 }
 

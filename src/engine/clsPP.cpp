@@ -67,7 +67,7 @@ void clsPP::Calculate() {
 // planets' geocentric longitudes need it.
 void clsPP::PlaceBodies(double TimeT, int later, const Perturbations& perturbations) {
   const PlanetTime at = {TimeT, positions_[Ayanamsa], perturbations};
-  SunPlace sun;
+  SunVector sun;
   const auto place = [&](Body body) { positions_[body + later] = PlanetLongitude(body, at, sun); };
   for (const Body body : {Sun, Mercury, Venus, Mars, Jupiter, Saturn}) place(body);
   PlaceMoon(TimeT, later);

@@ -36,9 +36,9 @@ void FillSandhis(Houses& houses) {
 }  // namespace
 
 double LocalSiderealTime(const TimeBase& time, double longitude) {
-  const double S = 24 * FracPart(time.TimeT * 100.00214 + 0.2769);
+  const double S = 24 * FractionOf(time.TimeT * 100.00214 + 0.2769);
   const double G = time.DayPart * 24 + 12;  // Universal Time
-  return 24 * FracPart((G + S + longitude / 15) / 24);
+  return 24 * FractionOf((G + S + longitude / 15) / 24);
 }
 
 double MeanObliquity(double T) {

@@ -16,11 +16,11 @@ struct MeanArguments {
   double N;       // the node
 
   explicit MeanArguments(double T)
-      : Ls(360 * FracPart(MeanElementsOf(Sun).L.At(T))),
+      : Ls(360 * FractionOf(MeanElementsOf(Sun).L.At(T))),
         Ps(MeanElementsOf(Sun).Peri.At(T)),
-        Lm(360 * FracPart(T * 1336.851353 + 0.68882)),
-        Pm(360 * FracPart(T * 11.298994 + 0.8663 - T * 3e-05 * T)),
-        N(360 * FracPart(0.65756 - T * 5.376495)) {}
+        Lm(360 * FractionOf(T * 1336.851353 + 0.68882)),
+        Pm(360 * FractionOf(T * 11.298994 + 0.8663 - T * 3e-05 * T)),
+        N(360 * FractionOf(0.65756 - T * 5.376495)) {}
 };
 
 double SeriesFrom(const MeanArguments& mean) {

@@ -53,7 +53,7 @@ double Direction(double x, double y) {
 
 }  // namespace
 
-double OrbitLongitude(const OrbitElements& orbit, Body body, SunPlace& sun) {
+double OrbitLongitude(const OrbitElements& orbit, Body body, SunVector& sun) {
   // Comes first: it rejects an eccentricity beyond 1, for which Newton's method may not converge.
   const double eccentricityTangent = EccentricityTangent(orbit.Ecc);
 

@@ -15,7 +15,7 @@ struct OrbitElements {
 };
 
 // The Sun as seen from the Earth, in astronomical units on the ecliptic.
-struct SunPlace {
+struct SunVector {
   double SunX = 0;
   double SunY = 0;
 };
@@ -24,6 +24,6 @@ struct SunPlace {
 // call for the Sun fills `sun`; calls for planets need it filled for the same moment. InvalidCall
 // for an eccentricity beyond 1; DivisionByZero for a body exactly a quarter turn from the zero
 // point.
-double OrbitLongitude(const OrbitElements& orbit, Body body, SunPlace& sun);
+double OrbitLongitude(const OrbitElements& orbit, Body body, SunVector& sun);
 
 }  // namespace engine

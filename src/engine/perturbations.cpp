@@ -13,9 +13,9 @@ using namespace perturbation;
 class Factors {
  public:
   explicit Factors(double T) {
-    const double q = 2 * PiValue * FracPart(T * 3.39476 + 0.73866);
-    const double p = 2 * PiValue * FracPart(T * 8.43029 + 0.65965);
-    const double s = 2 * PiValue * FracPart(T * 1.19019 + 0.67644);
+    const double q = 2 * PiValue * FractionOf(T * 3.39476 + 0.73866);
+    const double p = 2 * PiValue * FractionOf(T * 8.43029 + 0.65965);
+    const double s = 2 * PiValue * FractionOf(T * 1.19019 + 0.67644);
     const Multiples<3> ofQ(q);
     const Multiples<4> ofZ(q - p);
     const Multiples<2> ofV(5 * q - 2 * p);

@@ -49,7 +49,7 @@ double SinDegrees(double x) {
 }  // namespace
 
 OrbitElements MeanElements::At(double T) const {
-  return {360 * FracPart(L.At(T)), Peri.At(T), Node.At(T), Ecc.At(T), Incl.At(T), Axis};
+  return {360 * FractionOf(L.At(T)), Peri.At(T), Node.At(T), Ecc.At(T), Incl.At(T), Axis};
 }
 
 const MeanElements& MeanElementsOf(Body body) {
@@ -59,7 +59,7 @@ const MeanElements& MeanElementsOf(Body body) {
   throw foundation::Error(foundation::ErrorKind::Subscript);
 }
 
-double PlanetLongitude(Body body, const PlanetTime& at, SunPlace& sun) {
+double PlanetLongitude(Body body, const PlanetTime& at, SunVector& sun) {
   OrbitElements orbit = MeanElementsOf(body).At(at.T);
   const double L0 = orbit.L;
   switch (body) {

@@ -38,6 +38,6 @@ struct PlanetTime {
 };
 
 // The geocentric longitude of the Sun or a planet in degrees; see OrbitLongitude.
-double PlanetLongitude(Body body, const PlanetTime& at, SunPlace& sun);
+double PlanetLongitude(Body body, const PlanetTime& at, SunVector& sun);
 
 }  // namespace engine

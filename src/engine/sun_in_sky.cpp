@@ -19,7 +19,7 @@ constexpr double kAberration = -20.5 / 3600;  // of the Sun, degrees
 SunInSky SunInSkyAt(double days) {
   const double T = days / kDaysPerCentury;
   const double ayanamsa = CalcAyanamsa(days + kEpochDate);
-  SunPlace place;
+  SunVector place;
   const double sidereal = PlanetLongitude(Sun, {T, ayanamsa, Perturbations{}}, place);
   const SinCos longitude = SinCosOf((sidereal + ayanamsa + kAberration) * DegToRad);
   const SinCos obliquity = SinCosOf(MeanObliquity(T) * DegToRad);

@@ -111,7 +111,7 @@ std::int16_t NakNumber(double longitude) {
 }
 
 std::int16_t NakQuarter(double longitude) {
-  return FloorToInt16(FracPart(longitude * 3 / 40) * 4 + 1);
+  return FloorToInt16(FractionOf(longitude * 3 / 40) * 4 + 1);
 }
 
 std::string_view NakName(std::int16_t star) {
