@@ -29,24 +29,33 @@ void clsPP::GenHoro(double day, double month, double year, double hour, double m
   ppHour = foundation::RoundToInt16(hour);
   ppMin = foundation::RoundToInt16(minute);
   ppSec = second;
-  ayanMode_ = foundation::RoundToInt16(nAyan);
-  nodeModeA_ = blnRahuKetu;
-  nodeModeB_ = blnRahuKetu;
+  const std::int16_t ayanMode = foundation::RoundToInt16(nAyan);
 
   ppLongitude = DecimalDegrees(longitude, "W");
   ppLatitude = DecimalDegrees(latitude, "S");
 
-  Calculate();
+  const double hours = ppHour + ppMin / 60.0 + ppSec / 3600;
+  const TimeBase time =
+      TimeBaseOf(DayNumber(ppDay, ppMonth, ppYear), hours, ppZoneHours, WarTimeCorrection);
+  GenChart({time, CivilDate(ppDay, ppMonth, ppYear)}, ppLatitude, ppLongitude, ayanMode,
+           blnRahuKetu);
+}
+
+void clsPP::GenChart(const ChartMoment& at, double latitude, double longitude,
+                     std::int16_t ayanMode, foundation::Boolean16 correctedNode) {
+  ppLatitude = latitude;
+  ppLongitude = longitude;
+  ayanMode_ = ayanMode;
+  nodeModeA_ = correctedNode;
+  nodeModeB_ = correctedNode;
+  civilDate_ = at.date;
+  Calculate(at.time);
   Publish();
 }
 
 // The positions are final once wrapped; everything after that reads them in this state.
-void clsPP::Calculate() {
-  const double hours = ppHour + ppMin / 60.0 + ppSec / 3600;
-  const TimeBase time =
-      TimeBaseOf(DayNumber(ppDay, ppMonth, ppYear), hours, ppZoneHours, WarTimeCorrection);
+void clsPP::Calculate(const TimeBase& time) {
   const Perturbations perturbations = CalcPerturbations(time.TimeT);
-  civilDate_ = CivilDate(ppDay, ppMonth, ppYear);
   positions_[Ayanamsa] = CalcAyanamsa(civilDate_);
 
   PlaceBodies(time.TimeT, 0, perturbations);

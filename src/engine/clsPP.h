@@ -1,4 +1,4 @@
-// clsPP: the chart of a moment and a place given as texts.
+// clsPP: the chart of a moment and a place.
 #pragma once
 
 #include <array>
@@ -21,7 +21,8 @@
 namespace engine {
 
 // Use a fresh object per chart: GenHoro resets every field except the unused slot pp_14, to which
-// each call adds the mode's shift.
+// each call adds the mode's shift. GenChart also leaves the texts, the zone and the fields of the
+// civil moment as they are.
 class clsPP {
  public:
   double ppStdLongitude = 0;   // the zone's meridian, decimal degrees, east positive
@@ -119,6 +120,12 @@ class clsPP {
                std::string_view Longitude, std::string_view Lattitude, std::string_view zone,
                std::int32_t nAyan, foundation::Boolean16 blnRahuKetu, double warTimeCorrection);
 
+  // Computes the chart of a moment (see UniversalTime) at a place in decimal degrees, north and
+  // east positive. GenHoro ends with this, so its arguments and errors, but for those of texts and
+  // civil dates, are the same.
+  void GenChart(const ChartMoment& at, double latitude, double longitude, std::int16_t ayanMode,
+                foundation::Boolean16 correctedNode);
+
   // Splits a place text at its letter; see place_decoding.h.
   static LatLongParts SepLatLong(std::string_view text) { return engine::SepLatLong(text); }
 
@@ -156,7 +163,7 @@ class clsPP {
   std::string getAyan(const foundation::SessionTable& session) const;
 
  private:
-  void Calculate();
+  void Calculate(const TimeBase& time);
   void PlaceBodies(double TimeT, int later, const Perturbations& perturbations);
   void PlaceMoon(double TimeT, int later);
   void WrapPositions();

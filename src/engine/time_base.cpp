@@ -28,6 +28,11 @@ TimeBase TimeBaseOf(std::int32_t dayNumber, double hours, double zoneHours, doub
   return {dayPart, foundation::Finite((dayNumber - kEpoch + dayPart) / kDaysPerCentury)};
 }
 
+ChartMoment UniversalTime(foundation::DateTime date, double hours) {
+  const foundation::DateTimeFields on = foundation::FieldsOf(date);
+  return {TimeBaseOf(DayNumber(on.day, on.month, on.year), hours, 0, 0), date};
+}
+
 foundation::DateTime CivilDate(int day, int month, std::int32_t year) {
   if (day >= 1 && day <= 31 && month >= 1 && month <= 12 && year >= 100 && year <= 9999) {
     const foundation::DateTime date = foundation::DateFromParts(year, month, day);

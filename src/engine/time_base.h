@@ -24,6 +24,17 @@ struct TimeBase {
 // the clock.
 TimeBase TimeBaseOf(std::int32_t dayNumber, double hours, double zoneHours, double correction);
 
+// When a chart is cast. The ayanamsa and the corrected node change with the date, not with the
+// time.
+struct ChartMoment {
+  TimeBase time;
+  foundation::DateTime date;  // the midnight that begins it
+};
+
+// A moment in Universal Time: the midnight that begins a date, years 100 to 9999, and the hours
+// from it, which may lie outside 0 to 24 to give the date of another zone.
+ChartMoment UniversalTime(foundation::DateTime date, double hours);
+
 // The midnight that begins a date. A year below 100 is read like a two-digit text: 0 to 29 is 2000
 // to 2029, 30 to 99 is 1930 to 1999. InvalidCall for a month that has no name; TypeMismatch for a
 // day that does not exist or a year outside 100 to 9999.

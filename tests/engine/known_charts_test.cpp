@@ -79,6 +79,18 @@ TEST(KnownCharts, MatchIndependentResults) {
   }
 }
 
+// The same chart from degrees and Universal Time.
+TEST(KnownCharts, NeedNoTexts) {
+  const KnownChart& delhi = kCharts[4];
+  const double hours = 0 + 42 / 60.0 + 9 / 3600.0;  // five and a half less than by the clock
+  clsPP pp;
+  pp.GenChart(UniversalTime(foundation::DateFromParts(2011, 3, 5), hours), 28 + 40 / 60.0,
+              77 + 13 / 60.0, 4, foundation::kTrue16);
+  ExpectDegrees(pp.getPLNT(), delhi.positions);
+  ExpectDegrees(pp.getBhavF2(), delhi.cusps);
+  EXPECT_NEAR(pp.ppSidTime, delhi.siderealTime, 1e-9);
+}
+
 TEST(PublicVariables, MatchThePositions) {
   const clsPP pp = ChartOf(kCharts[4]);
   const double numbered[] = {pp.pp_1,  pp.pp_2,  pp.pp_3,  pp.pp_4,  pp.pp_5,  pp.pp_6,  pp.pp_7,
