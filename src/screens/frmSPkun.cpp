@@ -179,6 +179,7 @@ void frmSPkun::cmbPage_Click() {
   lstPage.items->SetListIndex(index);
   ShowPage(number, PageName(index + 1), PageTitle(index + 1), false);
   for (forms::Control* bar : {&VScroll1, &HScroll1}) SetScroll(*bar, 0);
+  TellPrinted(0);
 }
 
 void frmSPkun::lstPage_Click() {

@@ -120,6 +120,7 @@ class frmSPkun : public forms::Form {
   void LayOut();
   void NameDocument(int first, int last);
   void SetOrientation();
+  void TellPrinted(int pages);
 
   PreviewServices services_;
   std::vector<std::string> colPageName_, colPageTitle_;

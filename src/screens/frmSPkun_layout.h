@@ -18,6 +18,7 @@ inline constexpr float kInset = 16;        // at both ends of the tool bar
 inline constexpr float kPanelWidth = 268;  // minus the button's width, a multiple of the slide step
 inline constexpr float kPanelGap = 200;    // twips, between panel and page
 inline constexpr int kSlideInterval = 10;  // milliseconds
+inline constexpr std::string_view kSlogan = "A page for each month";
 
 inline Properties ToolBar() {
   return {
@@ -60,7 +61,7 @@ inline Properties PageNumber(forms::Control& bar) {
 inline Properties Slogan(forms::Control& bar) {
   return {.container = &bar,
           .place = At(840, 12, 244, 32),
-          .caption = "A page for each month",
+          .caption = std::string(kSlogan),
           .font = {.size = 9.375F},
           .foreColour = palette::kFaintOnEarth,
           .alignment = Alignment::Right};

@@ -1,6 +1,7 @@
 // The two print commands of the preview.
 
 #include "foundation/error.h"
+#include "foundation/numbers.h"
 #include "foundation/resume.h"
 #include "screens/frmSPkun.h"
 
@@ -25,10 +26,12 @@ class AskingUser {
     }
   }
 
+  bool Failed() const { return failed_; }
   bool Stopped() const { return stopped_; }
 
  private:
   void Ask(const foundation::Error& error) {
+    failed_ = true;
     const auto answer =
         boxes_.Show(std::string(error.what()) + ". Do you want to continue with the next page?",
                     foundation::MessageIcon::Exclamation, foundation::MessageButtons::YesNo);
@@ -39,7 +42,7 @@ class AskingUser {
 
   foundation::MessageBoxes& boxes_;
   forms::Printer& printer_;
-  bool stopped_ = false;
+  bool failed_ = false, stopped_ = false;
 };
 
 }  // namespace
@@ -64,6 +67,13 @@ void frmSPkun::NameDocument(int first, int last) {
   services_.printer.SetDocumentName(city.empty() ? range : range + ", " + city);
 }
 
+// In place of the slogan, which returns for 0.
+void frmSPkun::TellPrinted(int pages) {
+  lblProduct.caption = pages == 0   ? std::string(preview_layout::kSlogan)
+                       : pages == 1 ? "1 page printed"
+                                    : foundation::NumberText(pages) + " pages printed";
+}
+
 void frmSPkun::cmdPrint_Click() {
   forms::Printer& printer = services_.printer;
   AskingUser user(services_.boxes, printer);
@@ -80,6 +90,7 @@ void frmSPkun::cmdPrint_Click() {
     user.Do([&] { printer.NewPage(); });
   }
   user.Do([&] { printer.EndDoc(); });
+  TellPrinted(user.Failed() ? 0 : printed);
 }
 
 void frmSPkun::cmdPrintPage_Click() {
@@ -92,7 +103,9 @@ void frmSPkun::cmdPrintPage_Click() {
     auto page = static_cast<std::int16_t>(number);
     ShowPage(page, PageName(number), PageTitle(number), true);
     printer.EndDoc();
+    TellPrinted(1);
   } catch (const foundation::Error& error) {
+    TellPrinted(0);
     foundation::Resume([&] { printer.EndDoc(); });
     services_.boxes.Show("Printing Cancelled: " + std::string(error.what()),
                          foundation::MessageIcon::Exclamation);

@@ -151,9 +151,11 @@ TEST_F(Preview, PrintsAllPagesOrTheShownOne) {
   EXPECT_EQ(Print(preview.cmdPrint),
             "DocumentName Durvela January 2011 to March 2011, Delhi|"
             "AskUser|Orientation 1|Print 0 0 |page|NewPage|page|NewPage|page|NewPage|EndDoc|");
+  EXPECT_EQ(preview.lblProduct.caption, "3 pages printed");
   preview.PIC.place.width = 21001;
   EXPECT_EQ(Print(preview.cmdPrintPage),
             "DocumentName Durvela January 2011, Delhi|Orientation 2|Print 0 240 |page|EndDoc|");
+  EXPECT_EQ(preview.lblProduct.caption, "1 page printed");
   preview.AddPage(kCachePage, "Durvela again ..P1");  // goes back, but stops after four pages
   Print(preview.cmdPrint);
   EXPECT_EQ(printer.calls.size(), 4 + 4 * 2 + 1U);
@@ -166,6 +168,7 @@ TEST_F(Preview, ReportsPrintingErrors) {
   boxes.answer = foundation::MessageAnswer::Yes;
   EXPECT_EQ(Print(preview.cmdPrint),
             name + "AskUser|Orientation 1|Print 0 240 |NewPage|page|NewPage|page|NewPage|EndDoc|");
+  EXPECT_EQ(preview.lblProduct.caption, "A page for each month");  // not all are printed
   boxes.answer = foundation::MessageAnswer::No;
   printer.cancelled = true;
   EXPECT_EQ(Print(preview.cmdPrint), name + "AskUser|EndDoc|");
