@@ -97,10 +97,11 @@ TEST_F(Host, LaysAFormOutAgainWhenItIsRestored) {
 TEST_F(Host, MakesTheAskingWindowTheOwnerOfABox) {
   inner.Timer1.interval = 0;
   host.Show(inner);
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&host.WindowOf(inner)));
+  host.Show(form);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   const QWindow* owner = nullptr;
-  form.Timer1.onTimer = [&] {
-    form.Timer1.interval = 0;
+  inner.Timer1.onTimer = [&] {
+    inner.Timer1.interval = 0;
     QTimer::singleShot(0, [&] {
       QWidget* const box = QApplication::activeModalWidget();
       owner = box->windowHandle()->transientParent();
@@ -108,8 +109,10 @@ TEST_F(Host, MakesTheAskingWindowTheOwnerOfABox) {
     });
     QtMessageBoxes().Show("", foundation::MessageIcon::None, foundation::MessageButtons::Ok, {});
   };
+  inner.Timer1.interval = 5;
+  host.MirrorAll();
   EXPECT_TRUE(QTest::qWaitFor([&] { return owner != nullptr; }));
-  EXPECT_EQ(owner, window.windowHandle());
+  EXPECT_EQ(owner, host.WindowOf(inner).windowHandle());
 }
 
 // Closes the message box, whose text it logs; the process then ends.
