@@ -36,15 +36,7 @@ std::string Read(foundation::Settings& settings, std::string_view key) {
   return settings.GetSetting(foundation::kProgramName, kClockSection, key, "");
 }
 
-// The system's folder of zones also has other files, among them the machine's own zone, which the
-// store of another machine must not mean. Names of zones begin with a capital.
-bool IsZoneName(std::string_view name) {
-  return !name.empty() && name.front() >= 'A' && name.front() <= 'Z' &&
-         name.find("..") == std::string_view::npos;
-}
-
 std::optional<PlaceClock> ClockOfZone(const std::string& zone, PlaceClock::Source source) {
-  if (!IsZoneName(zone)) return std::nullopt;
   const auto clock = ZoneClock::Named(zone);
   if (!clock) return std::nullopt;
   return PlaceClock{*clock, zone, source};

@@ -4,7 +4,6 @@
 #include <optional>
 
 #include "cli/failure.h"
-#include "clocks/zone_clock.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 
@@ -64,14 +63,6 @@ std::chrono::local_days ReadDate(const std::string& option, const std::string& t
     throw Failure(Status::InvalidArguments, option + " " + text + " does not exist");
   }
   return std::chrono::local_days(date);
-}
-
-// The system's folder of zones also has other files, among them the machine's own zone. Names of
-// zones begin with a capital.
-bool IsZone(const std::string& name) {
-  const bool isName = !name.empty() && name.front() >= 'A' && name.front() <= 'Z' &&
-                      name.find("..") == name.npos && name.find(':') == name.npos;
-  return isName && clocks::ZoneClock::Named(name).has_value();
 }
 
 }  // namespace cli

@@ -13,7 +13,4 @@ double ReadDegrees(const std::string& option, const std::string& text, double mo
 // A date "YYYY-MM-DD" of the years 100 to 9999. Failure for anything else.
 std::chrono::local_days ReadDate(const std::string& option, const std::string& text);
 
-// Whether it is the name of a zone that the system knows.
-bool IsZone(const std::string& name);
-
 }  // namespace cli

@@ -8,6 +8,7 @@
 
 #include "cli/argument_values.h"
 #include "cli/failure.h"
+#include "clocks/zone_clock.h"
 #include "foundation/version.h"
 
 namespace cli {
@@ -87,7 +88,8 @@ PlaceRequest ReadPlace(const CLI::App& command, const Texts& texts) {
     request.place =
         Coordinates{ReadDegrees("--latitude", texts.latitude, 90),
                     ReadDegrees("--longitude", texts.longitude, 180), texts.zone, texts.name};
-    Require(IsZone(texts.zone), "--zone " + texts.zone + " is no zone that this machine knows");
+    Require(clocks::ZoneClock::Named(texts.zone).has_value(),
+            "--zone " + texts.zone + " is no zone that this machine knows");
   }
   return request;
 }

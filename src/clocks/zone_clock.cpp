@@ -25,11 +25,18 @@ bool IsNumber(std::string_view abbreviation) {
   return abbreviation.find_first_of("0123456789") != std::string_view::npos;
 }
 
+// The system's folder of zones also has other files, among them the machine's own zone, and CCTZ
+// has names of its own, with a colon. Names of zones begin with a capital.
+bool IsZoneName(std::string_view name) {
+  return !name.empty() && name.front() >= 'A' && name.front() <= 'Z' &&
+         name.find("..") == name.npos && name.find(':') == name.npos;
+}
+
 }  // namespace
 
 std::optional<ZoneClock> ZoneClock::Named(const std::string& zone) {
   cctz::time_zone found;
-  if (zone.empty() || !cctz::load_time_zone(zone, &found)) return std::nullopt;
+  if (!IsZoneName(zone) || !cctz::load_time_zone(zone, &found)) return std::nullopt;
   return ZoneClock(found);
 }
 

@@ -35,8 +35,8 @@ struct Change {
 
 class ZoneClock {
  public:
-  // The zone by its IANA name, such as "Asia/Kolkata", from the system's zone files. Nothing if the
-  // system does not know it.
+  // The zone by its IANA name, such as "Asia/Kolkata", from the system's zone files. Nothing for
+  // any other name, and if the system does not know the zone.
   static std::optional<ZoneClock> Named(const std::string& zone);
 
   // A clock that never changes; offsets below 24 hours.
