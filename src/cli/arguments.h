@@ -4,15 +4,12 @@
 #include <chrono>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <variant>
 #include <vector>
 
 #include "atlas/find_place.h"
 
 namespace cli {
-
-inline constexpr std::string_view kProgram = "durvela-cli";
 
 struct Coordinates {
   double latitude, longitude;  // degrees, north and east positive

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "cli/arguments.h"
-
 namespace cli {
 
 std::string OneLine(std::string_view text) {

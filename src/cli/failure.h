@@ -7,6 +7,8 @@
 
 namespace cli {
 
+inline constexpr std::string_view kProgram = "durvela-cli";
+
 enum class Status { Done = 0, Impossible = 1, InvalidArguments = 2 };  // exit status
 
 class Failure : public std::runtime_error {

@@ -37,8 +37,7 @@ TEST(Arguments, ThatAreInvalid) {
   ExpectRefusals(2, "no number of degrees", "day --zone UTC --latitude 1 --longitude ",
                  {"180.5", "-181", "E"});
   ExpectRefusals(2, "no zone", "day --latitude 1 --longitude 1 --zone ",
-                 {"Mars/Base", "\"\"", "localtime", "/etc/localtime", "Asia/../Asia/Kolkata",
-                  "Fixed/UTC+05:30:00"});
+                 {"Mars/Base", "\"\"", "localtime"});
   ExpectRefusals(2, "--date", "day --date ",
                  {"", "2026-02-30", "2026-2-3", "26-02-03", "2026-02-03T00:00", "-2026-02-03",
                   "2026-00-10", "99999999999999999999-01-01", "\"\"", "tomorrow"});
@@ -86,16 +85,6 @@ TEST(Arguments, ModesThatDoNotMatterHereChangeNothing) {
   HeadlessProgram program;
   EXPECT_EQ(program.Run("day --ayanamsa 7 --node corrected --language en --clock own").output,
             program.Run("day").output);
-}
-
-TEST(Arguments, OutputThatCannotBeWrittenIsAnError) {
-  HeadlessProgram program;
-  for (const char* line : {"day", "--help", "days --from 0100-01-01 --to 9999-12-31"}) {
-    std::ostream full(nullptr);
-    std::ostringstream errors;
-    EXPECT_EQ(program.RunTo(full, errors, line), 1);
-    EXPECT_EQ(errors.str(), "durvela-cli: the output cannot be written\n");
-  }
 }
 
 }  // namespace

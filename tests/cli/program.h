@@ -25,12 +25,6 @@ class HeadlessProgram {
 
   // Blanks separate arguments, but not between quotation marks.
   Answer Run(std::string_view line) {
-    std::ostringstream output, errors;
-    const int status = RunTo(output, errors, line);
-    return {status, output.str(), errors.str()};
-  }
-
-  int RunTo(std::ostream& output, std::ostream& errors, std::string_view line) {
     std::vector<std::string> arguments;
     const auto quoted = foundation::Split(line, '"');
     for (std::size_t i = 0; i < quoted.size(); ++i) {
@@ -38,7 +32,9 @@ class HeadlessProgram {
         if (!word.empty() || i % 2 != 0) arguments.emplace_back(word);
       }
     }
-    return cli::Run(arguments, settings, now, output, errors);
+    std::ostringstream output, errors;
+    const int status = cli::Run(arguments, settings, now, output, errors);
+    return {status, output.str(), errors.str()};
   }
 
   ConfigFolderScope config;
