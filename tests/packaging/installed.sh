@@ -9,7 +9,7 @@ cd "$folder/Any दिल्ली Place"
 [ "$(bin/durvela --version)" = "Durvela $3" ]
 [ "$(bin/durvela-cli --version)" = "durvela-cli $3" ]
 export XDG_CONFIG_HOME=$folder
-bin/durvela-cli day --place Ujjain --date 2026-11-08 | grep -qF "Ujjain, Madhya Pradesh, India"
+[[ "$(bin/durvela-cli day --place Ujjain)" = "Ujjain, Madhya Pradesh, India"* ]]
 home=$(dirname "$(readlink -f bin/durvela)")
 count() { find "$1" -name "$2" | wc -l; }
 for kind in city index; do
