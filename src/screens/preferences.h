@@ -22,9 +22,9 @@ class Preferences : public ScaledForm {
   CONTROL(PictureBox, HeadPicture, preferences_layout::HeadPicture());
   CONTROL(Label, Title, preferences_layout::Title());
 
-  CONTROL(Label, ClockCaption, preferences_layout::Caption(100, "Clock"));
-  CONTROL(ComboBox, ClockChoices, preferences_layout::Choices(96, "Clock", 0));
-  CONTROL(Label, ClockMeaning, preferences_layout::Meaning(136));
+  CONTROL(Label, ClockCaption, preferences_layout::Caption(96, "Clock"));
+  CONTROL(ComboBox, ClockChoices, preferences_layout::Choices(92, "Clock", 0));
+  CONTROL(Label, ClockMeaning, preferences_layout::Meaning(138));
   CONTROL(Line, ClockRule, preferences_layout::Rule(188));
 
   CONTROL(Label, ZoneCaption, preferences_layout::Caption(208, "Zone"));
