@@ -4,6 +4,8 @@
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 #include <algorithm>
+#include <initializer_list>
+#include <memory>
 #include <utility>
 
 #include "cli/argument_values.h"
@@ -133,6 +135,7 @@ Request ReadArguments(std::vector<std::string> arguments) {
   Texts texts;
   app.set_help_flag("--help", "Print this and exit");
   app.set_version_flag("--version", VersionText(), "Print the version and exit");
+  app.require_subcommand(1);
   app.formatter(std::make_shared<HelpFormatter>());
   app.footer("The manual page durvela-cli(1) has examples.");
 

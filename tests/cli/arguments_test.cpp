@@ -25,6 +25,7 @@ void ExpectRefusals(int status, const std::string& reason, const std::string& be
 
 TEST(Arguments, ThatAreInvalid) {
   ExpectRefusals(2, "commands are day and days", "", {"", "chart", "\"\""});
+  ExpectRefusals(2, "", "", {"--", "-", "--json", "-- day", "day days --from 2026-01-01"});
   ExpectRefusals(2, "--place", "day ",
                  {"--place", "--place Delhi --place Agra", "--state Delhi", "--country India",
                   "--place Delhi --latitude 1 --longitude 1 --zone UTC"});
