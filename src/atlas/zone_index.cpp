@@ -26,19 +26,33 @@ double Farness(const Position& a, const Position& b) {
          std::cos(a.latitude * kMinute) * std::cos(b.latitude * kMinute) * east * east;
 }
 
+// Sources put the middle of a city a little apart.
+constexpr double kSamePlace = 5;  // minutes of arc
+
+// "Delhi(Delhi)", or "Delhi" as the default place has it.
+bool IsNamed(std::string_view city, std::string_view name, std::string_view state) {
+  if (!city.starts_with(name)) return false;
+  city.remove_prefix(name.size());
+  return city.empty() || (city.size() == state.size() + 2 && city.front() == '(' &&
+                          city.substr(1, state.size()) == state && city.back() == ')');
+}
+
 std::optional<PlaceZone> Search(IndexFile& index, std::string_view city, const Position& wanted) {
   const std::size_t place = index.Column("place"), state = index.Column("state");
   const std::size_t latitude = index.Column("latitude"), longitude = index.Column("longitude");
   const std::size_t zone = index.Column("zone");
+  const double around = Farness({0, 0}, {kSamePlace, 0});
   std::optional<PlaceZone> nearest;
-  double least = std::numeric_limits<double>::infinity();
+  double least = std::numeric_limits<double>::infinity(), leastNamed = around;
   while (index.Next()) {
     const Position here = {index.Number(latitude), index.Number(longitude)};
-    if (here == wanted &&
-        city == std::string(index.Text(place)) + "(" + std::string(index.Text(state)) + ")") {
-      return PlaceZone{std::string(index.Text(zone)), true};
-    }
-    if (const double farness = Farness(here, wanted); farness < least) {
+    const double farness = Farness(here, wanted);
+    if (farness <= leastNamed && IsNamed(city, index.Text(place), index.Text(state))) {
+      nearest = {std::string(index.Text(zone)), true};
+      if (here == wanted) return nearest;
+      leastNamed = farness;
+      least = -1;  // no neighbour counts any more
+    } else if (farness < least) {
       least = farness;
       nearest = {std::string(index.Text(zone)), false};
     }
