@@ -14,6 +14,7 @@
 #include "screens/day_sky.h"
 #include "screens/palette.h"
 #include "screens/qt/control_widget.h"
+#include "screens/qt/text_box_widget.h"
 #include "screens/qt/whole_program.h"
 #include "support/session_at.h"
 
@@ -128,7 +129,7 @@ void CheckInside(QWidget& widget) {
 
 // Shown only as long as the field is empty.
 void CheckHint(QWidget& widget) {
-  if (qobject_cast<QLineEdit*>(&widget) == nullptr) return;
+  if (qobject_cast<TextBoxWidget*>(&widget) == nullptr) return;
   const QColor colour = widget.palette().color(QPalette::PlaceholderText);
   EXPECT_EQ(colour.alpha(), 255) << widget.objectName().toStdString();
   EXPECT_GE(Contrast(colour.rgb(), ToQt(palette::kPaper).rgb()), 4.5)

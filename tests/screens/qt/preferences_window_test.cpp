@@ -19,41 +19,39 @@ using namespace Qt::StringLiterals;
 struct PreferencesWindow : testing::Test, WholeProgram {
   // Presses a key, during which a window may open, then runs `inside` in that window.
   static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& opens,
-                    const std::function<void()>& inside) {
+                    const std::function<void(const QWidget& window)>& inside) {
     bool opened = false;
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, [&] {
-      const QWidget* window = QApplication::activeWindow();
-      if (opened || window == nullptr || window->objectName() != opens) return;
+      const QWidget* focus = QApplication::focusWidget();
+      if (opened || focus == nullptr || focus->window()->objectName() != opens) return;
       opened = true;
-      inside();
+      inside(*focus->window());
     });
     poll.start(5);
     QTest::keyClick(QApplication::activeWindow(), key, modifiers);
-    EXPECT_TRUE(opened) << opens.toStdString();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return opened; })) << opens.toStdString();
   }
-
-  static QWidget* Focus() { return QApplication::focusWidget(); }
 };
 
 TEST_F(PreferencesWindow, NeedNoMouse) {
   program.Start();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&program.host.WindowOf(program.dashboard)));
-  Press(Qt::Key_P, Qt::AltModifier, u"Preferences"_s, [&] {
-    auto* choices = qobject_cast<QComboBox*>(Focus());
+  Press(Qt::Key_P, Qt::AltModifier, u"Preferences"_s, [&](const QWidget& window) {
+    auto* choices = qobject_cast<QComboBox*>(window.focusWidget());
     ASSERT_TRUE(choices);
     QTest::keyClick(choices, Qt::Key_Down);
     EXPECT_EQ(choices->currentText(), u"The country's one zone");
     EXPECT_FALSE(program.Preferences().ChooseZone.enabled);
     QTest::keyClick(choices, Qt::Key_Up);
-    Press(Qt::Key_Z, Qt::AltModifier, u"ZoneList"_s, [] {
-      QTest::keyClicks(Focus(), u"kathm"_s);
-      QTest::keyClick(Focus(), Qt::Key_Return);
+    Press(Qt::Key_Z, Qt::AltModifier, u"ZoneList"_s, [](const QWidget& list) {
+      QTest::keyClicks(list.focusWidget(), u"kathm"_s);
+      QTest::keyClick(list.focusWidget(), Qt::Key_Return);
     });
     EXPECT_EQ(program.Preferences().Zone.caption, "Asia/Kathmandu, UTC+5:45");
-    QTest::keyClick(Focus(), Qt::Key_Escape);
+    QTest::keyClick(window.focusWidget(), Qt::Key_Escape);
   });
-  EXPECT_EQ(QApplication::activeWindow(), &program.host.WindowOf(program.dashboard));
+  EXPECT_FALSE(program.host.IsShown(program.Preferences()));
 }
 
 TEST_F(PreferencesWindow, KeepTheZoneInUseInViewAsTheSearchNarrowsAndWidens) {
