@@ -35,18 +35,24 @@ Instant NearestMinute(const clocks::ZoneClock& clock, Instant instant) {
          (std::chrono::floor<std::chrono::minutes>(time + std::chrono::seconds(30)) - time);
 }
 
-// "16:53"
+// "16:53", without the seconds.
 std::string MinuteText(const clocks::ZoneClock& clock, Instant instant) {
-  return words::TimeText(clock, NearestMinute(clock, instant)).substr(0, 5);
+  return words::TimeText(clock, instant).substr(0, 5);
 }
 
-// The same, "00:43+1" past midnight.
+// A period in whole minutes, rounded outwards, so that nobody who follows it is inside unawares.
+std::string PeriodText(const clocks::ZoneClock& clock, const day::Period& period) {
+  return MinuteText(clock, period.begin) + "-" +
+         MinuteText(clock, period.end + std::chrono::seconds(59));
+}
+
+// To the nearest minute, "00:43+1" past midnight.
 std::string MinuteText(const clocks::ZoneClock& clock, std::chrono::local_days date,
                        std::optional<Instant> instant) {
   if (!instant) return std::string(kNone);
-  const auto time = clock.CivilAt(NearestMinute(clock, *instant));
-  const auto apart = std::chrono::floor<days>(time) - date;
-  return MinuteText(clock, *instant) + (apart > days(0) ? "+1" : apart < days(0) ? "-1" : "");
+  const Instant minute = NearestMinute(clock, *instant);
+  const auto apart = std::chrono::floor<days>(clock.CivilAt(minute)) - date;
+  return MinuteText(clock, minute) + (apart > days(0) ? "+1" : apart < days(0) ? "-1" : "");
 }
 
 }  // namespace
@@ -70,8 +76,7 @@ std::string DaysRow(const ChosenPlace& chosen, const day::Day& value) {
                      MinuteText(chosen.clock, value.date, value.sun.set)};
   columns.periods.fill(std::string(kNone));
   for (const day::Period& period : value.periods) {
-    columns.periods.at(static_cast<std::size_t>(period.kind)) =
-        MinuteText(chosen.clock, period.begin) + "-" + MinuteText(chosen.clock, period.end);
+    columns.periods.at(static_cast<std::size_t>(period.kind)) = PeriodText(chosen.clock, period);
   }
   columns.clock = words::UtcText(chosen.clock.OffsetAt(chosen.clock.NoonOf(value.date)).east);
   Append(columns.clock, ", ", ChangeText(chosen.clock, value.date));
