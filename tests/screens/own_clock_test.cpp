@@ -170,6 +170,18 @@ TEST(OwnClock, BeforeSunriseShowsTheSunOfTheDayBeforeByItsOwnHour) {
   EXPECT_EQ(d.RecordZone(), "60.00W +4");
 }
 
+// As by the country's clock, worked out by hand from the weekday.
+TEST(OwnClock, DurvelaGoesByTheWeekdayOfTheDateEvenBeforeSunrise) {
+  ByOwnClock d("Delhi");
+  const auto figures = [&](int month, int day, int hour, int minute, int second) {
+    d.TickAt(2011, month, day, hour, minute, second);
+    return d.Figures();
+  };
+  ExpectRows(figures, Row(3, 5, 6, 42, 59, "06:44:00 18:23:00 09:38:45-11:06:07"),
+             Row(3, 5, 6, 43, 0, "06:43:00 18:23:00 09:38:00-11:05:30"),
+             Row(3, 1, 0, 0, 0, "06:48:00 18:20:00 15:27:00-16:53:30"));
+}
+
 TEST(OwnClock, SaysWhyThereIsNoSunriseOrSunset) {
   ByOwnClock d("Tromso");
   d.TickAtUtc(2026y / 6 / 21, 10h);
