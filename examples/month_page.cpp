@@ -12,6 +12,7 @@
 #include "foundation/numbers.h"
 #include "pdf/PDFPrinter.h"
 #include "report/form_drawing.h"
+#include "report/own_clock_row.h"
 #include "report/page_row.h"
 #include "screens/qt/application.h"
 
@@ -50,11 +51,11 @@ void Fill(report::pk_Durvela& page, DateTime first) {
   const screens::qt::QtTextMeasure measure;
   forms::Control paper;
   forms::PicturePage scratch(paper, measure);
-  FillHead(page, first, session, scratch);
+  FillHead(page, first, session.Current(), scratch);
   const int month = foundation::FieldsOf(first).month;
   int row = 0;
   for (DateTime day = first; foundation::FieldsOf(day).month == month; day += 1) {
-    FillRow(page, row++, day + kNoon, session);
+    FillRow(page, row++, day + kNoon, report::RowByRecord(day + kNoon, session));
   }
 }
 

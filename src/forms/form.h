@@ -64,6 +64,7 @@ class Form {
   virtual void Form_MouseMove() {}  // outside any control that handles it
   virtual void Form_MouseLeave() {}
   virtual void Form_KeyDown([[maybe_unused]] KeyPress& press) {}  // before the control's own
+  virtual void Form_Activate() {}                                 // its window became active
   virtual void Form_Deactivate() {}                               // another window became active
 
  protected:

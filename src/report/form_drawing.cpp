@@ -16,7 +16,6 @@ using forms::LineStyle;
 using foundation::Resume;
 
 constexpr std::string_view kNotPrinted = "np";
-constexpr double kSmallestPrinted = 7;  // points, the minimum for texts
 constexpr auto kBlack = forms::Rgb(0);
 
 forms::PicturePtr Background(forms::Colour colour, double width, double height) {

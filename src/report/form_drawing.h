@@ -9,6 +9,8 @@
 
 namespace report {
 
+inline constexpr double kSmallestPrinted = 7;  // points; smaller texts are drawn at this size
+
 // What a form or picture box shows: its picture, or just its background colour.
 forms::PicturePtr ImageOf(const forms::Form& form);
 forms::PicturePtr ImageOf(const forms::Control& box);

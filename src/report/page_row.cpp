@@ -2,22 +2,21 @@
 
 #include <string>
 
-#include "dayperiods/clsUtilities.h"
-#include "dayperiods/sunrise_at.h"
-#include "engine/record_chart.h"
 #include "foundation/bounded_array.h"
 #include "foundation/letters.h"
 #include "foundation/locale_names.h"
 #include "foundation/numbers.h"
-#include "foundation/time_text.h"
+#include "foundation/text.h"
+#include "report/form_drawing.h"
 
 namespace report {
 namespace {
 
 using foundation::DateTimeFields;
-using foundation::DecimalToTimeText;
 using foundation::NumberText;
 using foundation::SessionRecord;
+
+constexpr double kPlaceLineRoom = page_layout::kPlaceLineRight - page_layout::kPlaceLineLeft;
 
 // In the legacy Hindi encoding.
 constexpr foundation::BoundedArray<std::string_view, 1, 12> kMonths{
@@ -32,55 +31,76 @@ void SetPlaceLine(forms::Control& line, const std::string& caption, forms::Drawi
   line.font.size = page_layout::kPlaceLineSize;
   target.SetFontSize(line.font.size);
   const double wanted = target.TextWidth(caption);
-  const double room = page_layout::kPlaceLineRight - page_layout::kPlaceLineLeft;
-  if (wanted > room) {
-    line.font.size *= static_cast<float>(room / wanted);
+  if (wanted > kPlaceLineRoom) {
+    line.font.size *= static_cast<float>(kPlaceLineRoom / wanted);
     target.SetFontSize(line.font.size);
   }
   line.place.width = static_cast<float>(target.TextWidth(caption));
   line.place.left = page_layout::kPlaceLineRight - line.place.width;
 }
 
-dayperiods::SunriseRows SunOf(const DateTimeFields& at, const SessionRecord& record) {
-  engine::clsPP chart;
-  engine::GenRecordHoro(chart, record, at);
-  return dayperiods::SunriseAt(chart, at);
+std::string PlaceText(const SessionRecord& record, std::string_view city, std::string_view zone) {
+  return "(" + std::string(city) + "  Long:" + record.LongitudeText +
+         "  Lat:" + record.LatitudeText + "  Zone:" + std::string(zone) + ")";
+}
+
+// The place, with a city cut short if the smallest letters still need more room.
+std::string FittingPlaceText(const SessionRecord& record, std::string_view zone,
+                             const forms::Font& font, forms::DrawingTarget& target) {
+  target.SetFont(font.name);
+  target.SetFontBold(font.bold);
+  target.SetFontItalic(font.italic);
+  target.SetFontSize(kSmallestPrinted);
+  std::string text = PlaceText(record, record.CityName, zone);
+  for (int left = static_cast<int>(foundation::Characters(record.CityName).size());
+       left > 0 && target.TextWidth(text) > kPlaceLineRoom; --left) {
+    const auto city = foundation::FirstCharacters(record.CityName, left - 1);
+    text = PlaceText(record, std::string(city) + "…", zone);
+  }
+  return text;
+}
+
+void SetTitle(forms::Control& title, foundation::DateTime moment) {
+  const DateTimeFields at = foundation::FieldsOf(moment);
+  title.caption = "nqosZyk ¼" + std::string(kMonths[at.month]) + " " + NumberText(at.year) + "½";
 }
 
 }  // namespace
 
-void FillHead(pk_Durvela& page, foundation::DateTime moment,
-              const foundation::SessionTable& session, forms::DrawingTarget& target) {
-  const DateTimeFields at = foundation::FieldsOf(moment);
-  page.lblHHH.caption =
-      "nqosZyk ¼" + std::string(kMonths[at.month]) + " " + NumberText(at.year) + "½";
-  const SessionRecord& record = session.Current();
-  SetPlaceLine(page.lblHead3,
-               "(" + record.CityName + "  Long:" + record.LongitudeText +
-                   "  Lat:" + record.LatitudeText + "  Zone:" + record.ZoneTimeText + ")",
-               target);
+void FillHead(pk_Durvela& page, foundation::DateTime moment, const SessionRecord& record,
+              forms::DrawingTarget& target) {
+  SetTitle(page.lblHHH, moment);
+  SetPlaceLine(page.lblHead3, PlaceText(record, record.CityName, record.ZoneTimeText), target);
 }
 
-void FillRow(pk_Durvela& page, int row, foundation::DateTime moment,
-             const foundation::SessionTable& session) {
-  const DateTimeFields at = foundation::FieldsOf(moment);
-  dayperiods::clsUtilities periods(session);
-  periods.CalcDurvela(at.day, at.month, at.year, at.hour, at.minute, at.second);
-  periods.CalcGulikYum(at.day, at.month, at.year, at.hour, at.minute, at.second);
+void FillHead(pk_Durvela& page, foundation::DateTime moment, const SessionRecord& record,
+              std::string_view zone, forms::DrawingTarget& target) {
+  SetTitle(page.lblHHH, moment);
+  const std::string place = FittingPlaceText(record, zone, page.lblHead3.font, target);
+  SetPlaceLine(page.lblHead3, place, target);
+}
 
+void FillRow(pk_Durvela& page, int row, foundation::DateTime moment, const words::DayRow& times) {
+  const DateTimeFields at = foundation::FieldsOf(moment);
   const std::string& weekday = foundation::WeekdayNameOfWeek(foundation::WeekdayOf(moment));
   page.lblDate[row].caption =
       NumberText(at.day) + "-" + std::string(foundation::FirstLetters(weekday, 3));
-  const dayperiods::SunriseRows sun = SunOf(at, session.Current());
-  page.lblSR[row].caption = DecimalToTimeText(sun.clockRise);
-  page.lblSS[row].caption = DecimalToTimeText(sun.clockSet);
-  page.lblDM[row].caption = DecimalToTimeText(sun.clockSet - sun.clockRise);
-  page.lblDurvelaIN[row].caption = periods.DurvelaStart;
-  page.lblDurvelaOut[row].caption = periods.DurvelaEnd;
-  page.lblGulikIN[row].caption = periods.GulikStart;
-  page.lblGulikOut[row].caption = periods.GulikEnd;
-  page.lblyumIN[row].caption = periods.YumStart;
-  page.lblyumOut[row].caption = periods.YumEnd;
+  page.lblSR[row].caption = times.sunrise;
+  page.lblSS[row].caption = times.sunset;
+  page.lblDM[row].caption = times.daylight;
+  page.lblDurvelaIN[row].caption = times.durvela.start;
+  page.lblDurvelaOut[row].caption = times.durvela.end;
+  page.lblGulikIN[row].caption = times.gulik.start;
+  page.lblGulikOut[row].caption = times.gulik.end;
+  page.lblyumIN[row].caption = times.yum.start;
+  page.lblyumOut[row].caption = times.yum.end;
+}
+
+void FillNote(pk_Durvela& page, int row, std::string_view change) {
+  const std::size_t blank = change.find(' ');
+  if (blank == std::string_view::npos) return;
+  page.lblNote[row].caption =
+      std::string(change.substr(0, blank)) + "\r\n" + std::string(change.substr(blank + 1));
 }
 
 }  // namespace report

@@ -41,6 +41,7 @@ class pk_Durvela : public forms::Form {
   CONTROL_ARRAY(Label, lblGulikOut, page_layout::Times(9120));
   CONTROL_ARRAY(Label, lblyumIN, page_layout::Times(10320));
   CONTROL_ARRAY(Label, lblyumOut, page_layout::Times(11460));
+  CONTROL_ARRAY(Label, lblNote, page_layout::Notes());
 
   // The ten columns from left to right.
   std::array<forms::ControlArray*, 10> Columns();

@@ -94,4 +94,16 @@ inline std::vector<Properties> Times(float left) {
   return Column(left, 750, "00:00:00");
 }
 
+// In the right margin, two lines each.
+inline std::vector<Properties> Notes() {
+  constexpr float kLeft = 12915, kAboveRow = 40, kSize = 7.5F;
+  std::vector<Properties> notes = Column(kLeft, kWidth - kLeft, "");
+  for (Properties& note : notes) {
+    note.place.left = kLeft;
+    note.place.top -= kAboveRow;
+    note.font.size = kSize;
+  }
+  return notes;
+}
+
 }  // namespace report::page_layout

@@ -13,23 +13,29 @@ void ShowRow(bool own, frmMain& labels) {
   labels.ClockCaption.visible = labels.lblClock.visible = own;
 }
 
-struct Note {
-  const char* caption;
-  const char* sentence;  // for the tool tip and assistive programs
-};
-
-Note NoteOf(Source source) {
+std::string_view CaptionOf(Source source) {
   switch (source) {
     case Source::Neighbour:
-      return {"Clock nearby", "The clock of the nearest place that is known"};
+      return "Clock nearby";
     case Source::Country:
-      return {"Country's clock", "The country's clock, without daylight saving"};
+      return "Country's clock";
     default:
-      return {"Clock", ""};
+      return "Clock";
   }
 }
 
 }  // namespace
+
+std::string_view ClockNote(Source source) {
+  switch (source) {
+    case Source::Neighbour:
+      return "The clock of the nearest place that is known";
+    case Source::Country:
+      return "The country's clock, without daylight saving";
+    default:
+      return "";
+  }
+}
 
 void ShowCountrysZone(frmMain& labels) {
   ShowRow(false, labels);
@@ -39,10 +45,9 @@ void ShowCountrysZone(frmMain& labels) {
 void ShowOwnClock(const atlas::PlaceClock& clock, clocks::Instant now,
                   std::chrono::seconds machineOffset, frmMain& labels) {
   const clocks::Offset offset = clock.clock.OffsetAt(now);
-  const auto [caption, sentence] = NoteOf(clock.source);
   ShowRow(true, labels);
-  labels.ClockCaption.caption = caption;
-  labels.ClockCaption.spokenName = labels.ClockCaption.toolTip = sentence;
+  labels.ClockCaption.caption = CaptionOf(clock.source);
+  labels.ClockCaption.spokenName = labels.ClockCaption.toolTip = ClockNote(clock.source);
   labels.lblClock.caption = words::ClockName(offset);
   labels.lblClock.toolTip = clock.zone;
   labels.ThereCaption.visible = offset.east != machineOffset;

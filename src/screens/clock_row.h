@@ -2,12 +2,17 @@
 #pragma once
 
 #include <chrono>
+#include <string_view>
 
 #include "atlas/place_clock.h"
 
 namespace screens {
 
 class frmMain;
+
+// Why a clock may not be the place's: that it is the nearest place's or the country's. Empty if it
+// is the place's or was chosen.
+std::string_view ClockNote(atlas::PlaceClock::Source source);
 
 // The country's two zone texts; nothing beside the time.
 void ShowCountrysZone(frmMain& labels);

@@ -41,7 +41,7 @@ frmDurvela::frmDurvela(Services services, forms::Form& dashboard, Navigation nav
        {std::pair(&DT1, &StartRemark), {&DT2, &EndRemark}, {&dtTime, &TimeRemark}}) {
     picker->onChange = [this, picker, remark] {
       remark->visible = !picker->refusal.empty();
-      MarkOldList();
+      InputsChanged();
     };
   }
   Label9.onClick = [this] { OpenWebsite(services_.browser); };
@@ -59,18 +59,19 @@ void frmDurvela::Form_Load() {
   moving_ = false;
 
   FillFromDefaults();
-  foundation::InitSessionRecord(services_.session, services_.clock.Now());
+  foundation::InitSessionRecord(services_.session, PlaceNow());
   FitPage();
   cmdShow_Click();
   StartSlide();
 }
 
 void frmDurvela::FillFromDefaults() {
-  const foundation::DateTimeFields today = foundation::FieldsOf(services_.clock.Now());
+  ShowDefaultPlace(services_.settings, PlaceLabelsOf(*this));
+  ReadClock();
+  const foundation::DateTimeFields today = foundation::FieldsOf(PlaceNow());
   forms::SetMoment(DT1, foundation::DateFromParts(today.year, today.month, today.day));
   forms::SetMoment(DT2, foundation::DateFromParts(today.year, today.month + 1, today.day));
   forms::SetMoment(dtTime, kNoon);
-  ShowDefaultPlace(services_.settings, PlaceLabelsOf(*this));
 }
 
 void frmDurvela::Form_Resize() {
@@ -86,7 +87,13 @@ void frmDurvela::Form_KeyDown(forms::KeyPress& press) {
   if (press.handled) cmdClose_Click();
 }
 
+// The clock may have been chosen anew in another window.
+void frmDurvela::Form_Activate() {
+  InputsChanged();
+}
+
 void frmDurvela::cmdPreview_Click() {
+  ReadClock();
   navigation_.report({.DT1 = DT1.moment,
                       .DT2 = DT2.moment,
                       .dtTime = dtTime.moment,
@@ -95,7 +102,8 @@ void frmDurvela::cmdPreview_Click() {
                       .zoneMeridian = lblZone.caption,
                       .zoneTime = lblZoneTime.caption,
                       .city = lblCity.caption,
-                      .country = lblCountry.caption},
+                      .country = lblCountry.caption,
+                      .ownClock = ownClock_ ? std::optional(place_) : std::nullopt},
                      lblStatus);
 }
 
@@ -119,7 +127,7 @@ void frmDurvela::cmdEditPlace_Click() {
   // The user may have closed the form while the places were being read.
   if (services_.host.IsShown(*this)) services_.host.ShowModal(picker, *this);
   picking_ = false;
-  MarkOldList();
+  InputsChanged();
 }
 
 void frmDurvela::cmdClose_Click() {

@@ -3,8 +3,10 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 
+#include "day/kept_place.h"
 #include "report/make_report.h"
 #include "screens/contact.h"
 #include "screens/frmDurvela_layout.h"
@@ -59,6 +61,9 @@ class frmDurvela : public ScaledForm {
   CONTROL(Label, lblZone, timetable_layout::Value(408));
   CONTROL(Label, ZoneTimeCaption, timetable_layout::Caption(436, "Zone time"));
   CONTROL(Label, lblZoneTime, timetable_layout::Value(436));
+  CONTROL(Label, ClockCaption, timetable_layout::Caption(408, "Clock"));
+  CONTROL(Label, lblClock, timetable_layout::Clock());
+  CONTROL(Label, ClockNote, timetable_layout::ClockNote());
   CONTROL(CommandButton, cmdEditPlace, timetable_layout::Button(44, 472, 136, "&Edit Place", 3));
   CONTROL(CommandButton, cmdSave, timetable_layout::Button(188, 472, 152, "&Save as Default", 4));
 
@@ -78,6 +83,7 @@ class frmDurvela : public ScaledForm {
   void Form_Load() override;
   void Form_Resize() override;
   void Form_KeyDown(forms::KeyPress& press) override;
+  void Form_Activate() override;
 
   void cmdShow_Click();  // Quick View
   void cmdPreview_Click();
@@ -97,19 +103,29 @@ class frmDurvela : public ScaledForm {
   struct Inputs {
     foundation::DateTime from = 0, to = 0, time = 0;
     std::array<std::string, foundation::kPlaceSettings.size()> place;
+    std::optional<std::string> zone = {};  // of the place's own clock
     friend bool operator==(const Inputs&, const Inputs&) = default;
   };
 
   void FillFromDefaults();
+  void DrawList();
+  void SetListWidth(float width);
   void FitPage();
   Inputs ReadInputs();
+  void InputsChanged();
   void MarkOldList();
+  void ReadClock();
+  foundation::DateTime PlaceNow() const;
+  void ShowClock();
   void StartSlide();
 
   Services services_;
   forms::Form& dashboard_;
   Navigation navigation_;
+  bool ownClock_ = true;  // the user's choice; otherwise the country's
+  day::KeptPlace place_;  // of the labels
   Inputs shown_;          // by the current list
+  float listWidth_ = timetable_layout::kPageWidth * layout::kTwipsPerPixel;
   float listEnd_ = 0;     // bottom of the last row, in twips
   bool picking_ = false;  // the picker is opening or open
   bool moving_ = false;

@@ -95,6 +95,18 @@ inline Properties LongValue(float top) {
   return value;
 }
 
+// Two lines, for a clock that changes.
+inline Properties Clock() {
+  Properties clock = LongValue(411);
+  clock.place.height = 36 * kTwipsPerPixel;
+  clock.wordWrap = true;
+  return clock;
+}
+
+inline Properties ClockNote() {
+  return {.place = At(44, 444, 296, 20), .font = {.size = 8.25F}, .foreColour = palette::kQuiet};
+}
+
 inline Properties CardTitle(float top, std::string_view caption) {
   return {.place = At(44, top, 296, 28),
           .caption = std::string(caption),

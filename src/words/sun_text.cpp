@@ -1,6 +1,15 @@
 #include "words/sun_text.h"
 
+#include "foundation/numbers.h"
+
 namespace words {
+namespace {
+
+std::string Days(int count) {
+  return foundation::NumberText(count) + (count == 1 ? " day" : " days");
+}
+
+}  // namespace
 
 std::string_view NoSunText(day::Sun::State state) {
   switch (state) {
@@ -11,6 +20,13 @@ std::string_view NoSunText(day::Sun::State state) {
     default:
       return "";
   }
+}
+
+std::string NoSunDaysText(int polarDays, int polarNights) {
+  std::string text;
+  if (polarDays > 0) text = "No sunset on " + Days(polarDays);
+  if (polarNights == 0) return text;
+  return (text.empty() ? "No" : text + ", no") + " sunrise on " + Days(polarNights);
 }
 
 }  // namespace words

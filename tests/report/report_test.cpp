@@ -2,11 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "report/make_report.h"
+#include "report/receiver.h"
 #include "support/errors.h"
 #include "support/locales.h"
-#include "support/machine_fakes.h"
-#include "support/screen_fakes.h"
 #include "support/table.h"
 
 namespace report {
@@ -19,23 +17,10 @@ using Texts = std::vector<std::string>;
 
 const DateTime k5March = DateFromParts(2011, 3, 5);
 
-// Receives a report for Delhi.
-struct Report : testing::Test, PageReceiver {
-  support::RecordingTarget target;
-  support::FakeYielder yielder;
-  foundation::SessionTable session;
-  std::string progress, titles;
-
-  void Begin(const pk_Durvela& page) override { EXPECT_EQ(page.scaleWidth, 13635); }
-  forms::DrawingTarget& Target() override { return target; }
-  void TakePage(std::int16_t number, const std::string& title) override {
-    titles += std::to_string(number) + ": " + title + "|";
-  }
-  void ShowProgress(const std::string& text) override { progress = text; }
-
+// For Delhi.
+struct Report : Receiver {
   void Make(DateTime from, DateTime to, DateTime time = 0.5) {
-    target.calls.clear();
-    titles.clear();
+    Clear();
     MakeReport({from, to, time, "28.40N", "77.13E", "82.30E", "-5.30", "Delhi", "India"}, session,
                yielder, *this);
   }
@@ -60,13 +45,7 @@ TEST_F(ReportPage, ShowsHeadingsPlaceAndRules) {
 TEST_F(ReportPage, HasOneRowPerDay) {
   const auto lastRow = [&](int month, int day) {
     Make(DateFromParts(2011, month, 1), DateFromParts(2011, month, day));
-    const std::string top = std::to_string(1320 + 270 * (day - 1));
-    std::string row;
-    for (int left : {1125, 2250, 3420, 4500, 5730, 6810, 8010, 9120, 10320, 11460}) {
-      if (day >= 28) left -= 15;
-      row += target.After("Print " + std::to_string(left) + " " + top).at(0);
-    }
-    return row;
+    return RowOf(day - 1);
   };
   ExpectRows(lastRow,
              Row(1, 10,

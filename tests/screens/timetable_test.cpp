@@ -1,11 +1,11 @@
-// The timetable, without a screen.
+// The timetable by the country's clock, without a screen.
+
+#include "screens/timetable.h"
 
 #include <gtest/gtest.h>
 
 #include "forms/moment_picker.h"
 #include "screens/find_in_list.h"
-#include "screens/frmDurvela.h"
-#include "screens/picker.h"
 #include "support/locales.h"
 #include "support/table.h"
 
@@ -14,30 +14,9 @@ namespace {
 
 using foundation::DateFromParts;
 using support::Row;
-using Calls = std::vector<std::string>;
 
-struct Timetable : testing::Test, Fakes {
-  Timetable() { form.Form_Load(); }
-
-  // What Quick View draws, without pen moves.
-  Calls QuickView() {
-    Calls& drawn = host.target.calls;
-    drawn.clear();
-    form.cmdShow.onClick();
-    std::erase_if(drawn, [](const std::string& call) { return call.starts_with("Current"); });
-    return drawn;
-  }
-
-  Picker picker;
-  std::string reported;  // the place of the last report
-  frmMain dashboard{services};
-  frmDurvela form{services,
-                  dashboard,
-                  {[this]() -> frmCity& { return picker.form; },
-                   [this](const report::ReportInput& of, forms::Control&) {
-                     reported = Words(of.city, of.latitude, of.longitude, of.zoneMeridian,
-                                      of.zoneTime, of.country);
-                   }}};
+struct Timetable : TimetableByClock {
+  Timetable() : TimetableByClock(atlas::ClockChoice::Country) {}
 };
 
 TEST_F(Timetable, StartsWithAMonthFromTodayAtNoonAtTheDefaultPlace) {
@@ -106,9 +85,10 @@ TEST_F(Timetable, EditsItsPlaceWithThePickerThenSavesAndReportsIt) {
   std::string saved;
   for (const auto& [key, value] : settings.values) saved += Words(std::get<2>(key), value);
   EXPECT_EQ(saved,
-            "city Nadi(Western) country Fiji lat 17.48S long 177.25E zone 180.0E zonetime -12 ");
+            "clock country city Nadi(Western) country Fiji lat 17.48S long 177.25E zone 180.0E "
+            "zonetime -12 ");
   form.cmdPreview.onClick();
-  EXPECT_EQ(reported, "Nadi(Western) 17.48S 177.25E 180.0E -12 Fiji ");
+  EXPECT_EQ(reported, "Nadi(Western) 17.48S 177.25E 180.0E -12 Fiji country's ");
 }
 
 TEST_F(Timetable, MarksAListForOtherDatesUntilQuickView) {

@@ -36,6 +36,9 @@ TEST(SunText, SaysWhyThereIsNoSunrise) {
   using State = day::Sun::State;
   ExpectRows(words::NoSunText, Row(State::PolarDay, "The sun does not set"),
              Row(State::PolarNight, "The sun does not rise"), Row(State::Rises, ""));
+  ExpectRows(words::NoSunDaysText, Row(0, 0, ""), Row(1, 0, "No sunset on 1 day"),
+             Row(0, 2, "No sunrise on 2 days"),
+             Row(70, 60, "No sunset on 70 days, no sunrise on 60 days"));
 }
 
 }  // namespace

@@ -165,7 +165,10 @@ void FormWindow::leaveEvent(QEvent*) {
 
 // Checks later, when Qt has settled: a drop-down of this window does not count as another window.
 void FormWindow::ActivationChanged() {
-  if (isActiveWindow()) active_ = true;
+  if (isActiveWindow() && !active_) {
+    active_ = true;
+    Dispatch("Form_Activate", [this] { form_.Form_Activate(); });
+  }
   if (isActiveWindow() || !active_) return;
   QMetaObject::invokeMethod(
       this,
