@@ -85,18 +85,18 @@ TEST_F(Atlas, LoadsRecordsAndFillsTheList) {
 }
 
 TEST_F(Atlas, StopsLoadingAtAnInvalidRecord) {
-  const std::string delhi = Scrambled(kDelhiLine), agra = Scrambled(kAgraLine);
   const auto records = [&](const std::string& bytes) {
     folder_.Write("atlas/India.city", bytes);
     atlas_.LoadCities("India", nullptr);
     return atlas_.getLength();
   };
-  const std::string quote = Scrambled("\xD3rissa,x,y,India,1.00,N,2.00,E");  // starts with a quote
+  const std::string delhi = Scrambled(kDelhiLine), agra = Scrambled(kAgraLine);
   const std::string seven = Scrambled("seven,fields,and,no,more,than,that");
-  const std::string comma = Scrambled("Q\xD5rto,x,y,India,1.00,N,2.00,E");
+  const std::string comma = Scrambled("Q\xD5rto,x,y,India,1.00,N,2.00,E");   // becomes one
+  const std::string quote = Scrambled("\xD3rissa,x,y,India,1.00,N,2.00,E");  // begins with one
   ExpectRows(records, Row(delhi + "\r\n" + agra, 2), Row(delhi + "\r" + agra + "\n", 2),
              Row("  " + delhi + "\n  " + agra + "\r\n", 2), Row(delhi + "," + agra + "\r\n", 2),
-             Row(delhi + "\r\n\r\n" + agra + "\r\n", 1), Row(quote + "\r\n" + agra, 2),
+             Row(quote + "\r\n" + agra, 2), Row(delhi + "\r\n\r\n" + agra + "\r\n", 1),
              Row(delhi + "\r\n" + seven + "\r\n" + agra, 1),
              Row(delhi + "\r\n" + comma + "\r\n" + agra, 1), Row("", 0));
 }
@@ -181,22 +181,16 @@ TEST(Scrambling, AddsTheKeyFromItsSecondCharacter) {
   // The key wraps around: its first character applies to the sixteenth byte.
   EXPECT_EQ(Scrambled("New Delhi,Delhi,"),
             "\x9D\xBC\xC5\x77\x93\xB7\xB8\xAC\xB6\x6D\x94\x9C\xA0\x99\x9E\x80");
-  EXPECT_EQ(EncodeText(foundation::ByteText("ab"), ""), foundation::ByteText("ab"));
-  EXPECT_EQ(Scrambled(std::string(32767, 'x')).size(), 32767U);
 }
 
 TEST(CountryZone, ComesFromTheFirstMatchingRow) {
   ExpectRows(getCountryZone, Row("", "-5.30"), Row("iNDia", "-5.30"), Row("Nepal", "-5.45"),
              Row("Kirkistan", "-4.5"), Row("Surinam", "3"), Row("Croatia", "+1"),
              Row("Western Samoa", "0"), Row("Saint Vincent - Gr", "+4"), Row("Atlantis", ""),
-             // Larger countries: standard times of the time zone database.
-             Row("Afghanistan", "-4.30"), Row("Argentina", "+3"), Row("Bangladesh", "-6"),
-             Row("Brazil", "+3"), Row("Chile", "+4"), Row("China", "-8"), Row("Egypt", "-2"),
-             Row("England", "0"), Row("Fiji", "-12"), Row("France", "-1"), Row("Germany", "-1"),
-             Row("Guyana", "+4"), Row("Iran", "-3.30"), Row("Italy", "-1"), Row("Japan", "-9"),
-             Row("Kenya", "-3"), Row("Mauritius", "-4"), Row("Nigeria", "-1"),
-             Row("Pakistan", "-5"), Row("Philippines", "-8"), Row("Singapore", "-8"),
-             Row("South Africa", "-2"), Row("Thailand", "-7"), Row("Trinidad - Tobago", "+4"));
+             // Standard times of the time zone database.
+             Row("Afghanistan", "-4.30"), Row("Argentina", "+3"), Row("China", "-8"),
+             Row("England", "0"), Row("Fiji", "-12"), Row("France", "-1"), Row("Iran", "-3.30"),
+             Row("South Africa", "-2"));
 }
 
 }  // namespace
