@@ -1,4 +1,4 @@
-// What the documents name must be there.
+// What the documents name must be there, and what they forbid must not.
 
 #include <gtest/gtest.h>
 
@@ -51,19 +51,11 @@ TEST(Documents, LeadToFilesThatAreThere) {
 }
 
 TEST(Documents, CountThePlacesThatAreThere) {
-  int files = 0, places = 0, polar = 0;
+  std::int64_t files = 0, places = 0;
   for (const fs::path& table : fs::directory_iterator(kProject / "data/atlas/places")) {
-    const std::string text = ReadFile(table);
-    std::string_view rows = text;
-    for (foundation::TakeLine(rows); !rows.empty(); ++places) {
-      const auto latitude = foundation::Split(foundation::TakeLine(rows), '\t')[2];
-      const double minutes = std::round(60 * std::abs(foundation::LeadingNumber(latitude)));
-      polar += minutes >= 66 * 60 + 34 ? 1 : 0;
-    }
+    places += std::ranges::count(ReadFile(table), '\n') - 1;  // below the names of the columns
     ++files;
   }
-  const std::string behaviour = ReadFile(kProject / "docs/behaviour.md");
-  EXPECT_NE(behaviour.find(std::to_string(polar) + " places of the atlas"), behaviour.npos);
   for (const char* document : {"README.md", "docs/atlas.md"}) {
     const std::string text = ReadFile(kProject / document);
     for (const auto& count : {foundation::GroupedText(places), "in " + std::to_string(files)}) {
@@ -104,6 +96,31 @@ TEST(Documents, NameTestsThatAreThere) {
   const auto named = Found(ReadFile(kProject / "docs/behaviour.md"), R"(`([A-Z]\w*\.[A-Z][^`]*)`)");
   EXPECT_GT(named.size(), 40U);
   for (const auto& test : named) EXPECT_TRUE(tests.contains(test)) << test;
+}
+
+// By the table of docs/architecture.md.
+TEST(Documents, SayWhatEachLibraryMayInclude) {
+  // "pdf, pdf, foundation, forms, bitmap,": a library, then all that it may include.
+  const auto rows = Found(ReadFile(kProject / "docs/architecture.md"),
+                          R"(\n\| \d+ \| `([^.`]+)[^`]*` \| ([^|]*) \|)", "$1, $1, $2,");
+  const auto libraryOf = [](const fs::path& file) {
+    return file.has_parent_path() ? file.parent_path().string() : "main";
+  };
+  int seen = 0;
+  for (const fs::path& path : fs::recursive_directory_iterator(kProject / "src")) {
+    if (path.extension() != ".h" && path.extension() != ".cpp") continue;
+    const std::string library = libraryOf(fs::relative(path, kProject / "src"));
+    const auto row = rows.lower_bound(library + ", ");
+    ASSERT_TRUE(row != rows.end() && row->starts_with(library + ", ")) << path;
+    const std::string text = ReadFile(path);
+    for (const std::string& included : Found(text, "#include \"(.*)\"")) {
+      EXPECT_NE(row->find(", " + libraryOf(included) + ","), row->npos) << path << included;
+      ++seen;
+    }
+    const bool usesQt = !Found(text, "#include <(Q.*)>").empty();
+    EXPECT_TRUE(!usesQt || library == "screens/qt" || library == "main") << path;
+  }
+  EXPECT_GT(seen, 100);
 }
 
 }  // namespace
