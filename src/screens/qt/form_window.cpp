@@ -163,17 +163,20 @@ void FormWindow::leaveEvent(QEvent*) {
   Dispatch("Form_MouseLeave", [this] { form_.Form_MouseLeave(); });
 }
 
-// Checks later, when Qt has settled: a drop-down of this window does not count as another window.
+// Both handlers run later, when Qt has settled: a window may still be opening, and a drop-down of
+// this window does not count as another window.
 void FormWindow::ActivationChanged() {
-  if (isActiveWindow() && !active_) {
-    active_ = true;
-    Dispatch("Form_Activate", [this] { form_.Form_Activate(); });
-  }
-  if (isActiveWindow() || !active_) return;
+  const bool activated = isActiveWindow();
+  if (activated ? std::exchange(active_, true) : !active_) return;
   QMetaObject::invokeMethod(
       this,
-      [this] {
-        if (isActiveWindow() || QApplication::activePopupWidget() != nullptr) return;
+      [this, activated] {
+        if (isActiveWindow() != activated) return;
+        if (activated) {
+          Dispatch("Form_Activate", [this] { form_.Form_Activate(); });
+          return;
+        }
+        if (QApplication::activePopupWidget() != nullptr) return;
         active_ = false;
         if (isVisible()) Dispatch("Form_Deactivate", [this] { form_.Form_Deactivate(); });
       },

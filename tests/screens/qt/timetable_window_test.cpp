@@ -71,6 +71,17 @@ TEST_F(TimetableWindow, KeepsTheClockRunningWhileAReportIsMade) {
   EXPECT_EQ(pages->itemText(1), u"2: Durvela April 2011 ..P2");
 }
 
+TEST_F(TimetableWindow, NoticesAnotherClockWhenItComesBack) {
+  FormWindow& dashboard = program.host.WindowOf(program.dashboard);
+  program.host.Show(program.dashboard);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dashboard));
+  foundation::SettingsFile store;
+  atlas::SaveClockChoice(store, atlas::ClockChoice::Country);
+  EXPECT_FALSE(form.picRes.faded);
+  program.host.Show(form);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return form.picRes.faded && form.lblZone.visible; }));
+}
+
 TEST_F(TimetableWindow, AcceptsTypedAndPastedText) {
   EXPECT_EQ(Typed(start, u"1/12/2026"_s), u"1/December/2026");
   EXPECT_EQ(Typed(start, u"05/March/2011"_s), u"5/March/2011");
