@@ -7,6 +7,7 @@
 #include "cli/table_text.h"
 #include "foundation/locale_names.h"
 #include "foundation/numbers.h"
+#include "words/clock_changes.h"
 #include "words/clock_text.h"
 #include "words/sun_text.h"
 
@@ -37,7 +38,7 @@ std::string LongDate(local_days date, int weekday) {
 std::string ClockText(const ChosenPlace& chosen, local_days date) {
   std::string text = words::ClockName(chosen.clock.OffsetAt(chosen.clock.NoonOf(date)));
   if (chosen.countryClock) text += ", the country's clock";
-  Append(text, "; ", ChangeText(chosen.clock, date));
+  Append(text, "; ", words::ChangeOn(chosen.clock, date));
   return text;
 }
 

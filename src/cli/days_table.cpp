@@ -6,6 +6,7 @@
 #include "cli/period_names.h"
 #include "cli/table_text.h"
 #include "foundation/locale_names.h"
+#include "words/clock_changes.h"
 #include "words/clock_text.h"
 #include "words/sun_text.h"
 
@@ -79,7 +80,7 @@ std::string DaysRow(const ChosenPlace& chosen, const day::Day& value) {
     columns.periods.at(static_cast<std::size_t>(period.kind)) = PeriodText(chosen.clock, period);
   }
   columns.clock = words::UtcText(chosen.clock.OffsetAt(chosen.clock.NoonOf(value.date)).east);
-  Append(columns.clock, ", ", ChangeText(chosen.clock, value.date));
+  Append(columns.clock, ", ", words::ChangeOn(chosen.clock, value.date));
   Append(columns.clock, ". ", words::NoSunText(value.sun.state));
   return RowOf(columns);
 }

@@ -20,10 +20,4 @@ void Append(std::string& text, std::string_view separator, std::string_view part
   text += part;
 }
 
-std::string_view ChangeText(const clocks::ZoneClock& clock, std::chrono::local_days date) {
-  const auto change = clock.NextChange(clock.BeginOf(date) - std::chrono::seconds(1));
-  if (!change || change->at >= clock.BeginOf(date + std::chrono::days(1))) return {};
-  return change->after < change->before ? "clocks go back" : "clocks go forward";
-}
-
 }  // namespace cli

@@ -1,11 +1,8 @@
 // Parts of tables for a terminal.
 #pragma once
 
-#include <chrono>
 #include <string>
 #include <string_view>
-
-#include "clocks/zone_clock.h"
 
 namespace cli {
 
@@ -19,8 +16,5 @@ std::string Line(std::string text);
 
 // Adds a part, if it is not empty, with a separator if the text is not.
 void Append(std::string& text, std::string_view separator, std::string_view part);
-
-// "clocks go back" or "clocks go forward" for a date with such a change, else empty.
-std::string_view ChangeText(const clocks::ZoneClock& clock, std::chrono::local_days date);
 
 }  // namespace cli
