@@ -70,7 +70,7 @@ TEST_F(TimetableByOwnClock, NamesTheClockInPlaceOfTheZone) {
     return form.lblClock.visible ? form.lblClock.caption + "|" + form.ClockNote.caption : "zone";
   };
   ExpectRows(shown, Row("40.31N", "EST, UTC-5|"),
-             Row("40.32N", "EST, UTC-5|The clock of the nearest place that is known"),
+             Row("41.31N", "EST, UTC-5|The clock of the nearest place that is known"),
              Row("x", "UTC-6|The country's clock, without daylight saving"));
   atlas::SaveClockChoice(settings, atlas::ClockChoice::Country);
   EXPECT_EQ(shown("40.31N"), "zone");
