@@ -66,7 +66,7 @@ class Search {
     });
   }
 
-  // Most names are told apart by their first letter, for less than a key costs.
+  // Most names differ in their first letter, which is cheaper to compare than a key.
   bool MayBeName(std::string_view name) const {
     for (const char c : name) {
       if (static_cast<unsigned char>(c) >= 0x80) return true;

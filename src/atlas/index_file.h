@@ -1,4 +1,4 @@
-// Index files: what the tables of places know of a country's places beyond its city file.
+// Index files: data on a country's places for which its city file has no field.
 #pragma once
 
 #include <cstddef>
@@ -15,7 +15,7 @@ inline constexpr std::string_view kIndexExtension = ".index";
 // file is malformed. Texts live as long as the reader.
 class IndexFile {
  public:
-  // Errors as of foundation::ReadFile; FileNotFound for a name that no file can have.
+  // Errors of foundation::ReadFile; FileNotFound for a name that no file can have.
   explicit IndexFile(std::string_view country);
   IndexFile(const IndexFile&) = delete;
   IndexFile& operator=(const IndexFile&) = delete;
@@ -23,9 +23,9 @@ class IndexFile {
   // The number of the column with this name.
   std::size_t Column(std::string_view name) const;
 
-  // Goes on to the next place, at first to the first one. False behind the last.
+  // Moves to the next place, initially to the first. Returns false after the last.
   bool Next();
-  // What the current place has in a column.
+  // The current place's value in a column.
   std::string_view Text(std::size_t column) const;
   double Number(std::size_t column) const;
 

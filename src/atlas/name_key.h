@@ -11,7 +11,7 @@ namespace atlas {
 enum class Umlauts { Plain, Spelled };
 
 // A name in small letters without marks: "São Paulo" becomes "sao paulo". Apostrophes are dropped,
-// and any other run of signs is one blank: "St. John's" becomes "st johns". Letters beyond the
+// and any other run of signs becomes one blank: "St. John's" becomes "st johns". Letters beyond the
 // Latin ones stay as they are.
 std::string NameKey(std::string_view name, Umlauts umlauts = Umlauts::Plain);
 

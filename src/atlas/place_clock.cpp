@@ -26,7 +26,7 @@ struct PlaceKey {
   std::string PlaceTexts::*text;
 };
 
-// What tells the place of a chosen zone from others. The country is left out: several of them have
+// What identifies the place of a chosen zone. The country is left out: several of them have
 // two spellings.
 constexpr std::array<PlaceKey, 3> kPlaceKeys = {{{"zonecity", &PlaceTexts::city},
                                                  {"zonelat", &PlaceTexts::latitude},

@@ -18,7 +18,7 @@ std::optional<std::int32_t> ArcMinutes(std::string_view text, char positive, cha
 // read, or is beyond 90 or 180 degrees.
 std::optional<Place> PlaceOfTexts(const PlaceTexts& texts);
 
-// To the minute of arc, and with its country's zone of the built-in table.
+// To the minute of arc, and with its country's zone from the built-in table.
 PlaceTexts TextsOfPlace(const Place& place);
 
 }  // namespace atlas

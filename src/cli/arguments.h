@@ -36,7 +36,7 @@ struct TextRequest {  // for help and version
 
 using Request = std::variant<DaysRequest, TextRequest>;
 
-// What the arguments behind the program's name ask for. Failure if they are invalid, or if a date
+// What the arguments after the program's name ask for. Failure if they are invalid, or if a date
 // lies outside the years 100 to 9999.
 Request ReadArguments(std::vector<std::string> arguments);
 

@@ -14,7 +14,7 @@ struct ChosenPlace {
   atlas::Place place;  // its zone is empty if none is known
   clocks::ZoneClock clock;
   bool countryClock = false;  // rather than the place's
-  std::string note;           // what the user should know of the choice; may be empty
+  std::string note;           // what the user should know about the choice; may be empty
 };
 
 // Failure if there is no such place, or the default place cannot be read.

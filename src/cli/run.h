@@ -10,7 +10,7 @@
 
 namespace cli {
 
-// Does what the arguments behind the program's name ask for, and returns the exit status. An error
+// Does what the arguments after the program's name ask for, and returns the exit status. An error
 // is one line in `errors`, and nothing in `output` unless the output itself failed. `now` decides
 // what today is.
 int Run(const std::vector<std::string>& arguments, foundation::Settings& settings,

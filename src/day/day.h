@@ -47,9 +47,9 @@ Day DayOf(const atlas::Place& place, const clocks::ZoneClock& clock, std::chrono
 
 int WeekdayOf(std::chrono::local_days date);  // 1 = Sunday
 
-// A period of the day's daylight by the rule of a weekday. Before sunrise that is another than the
-// day's: the sun is still the day before's, the weekday that of the date. Nothing without daylight;
-// Subscript for a weekday outside 1 to 7.
+// A period of the day's daylight by the rule of a weekday. Before sunrise that differs from the
+// day's own weekday: the sun is still the previous day's, the weekday that of the date. Nothing
+// without daylight; Subscript for a weekday outside 1 to 7.
 std::optional<Period> PeriodOn(const Day& day, PeriodKind kind, int weekday);
 
 }  // namespace day

@@ -36,11 +36,11 @@ using GhatRow = std::array<std::string_view, 18>;
 class clsBirthDetails {
  public:
   // Rows of the Hindu day, sunrise to sunrise, that holds the moment. Before sunrise that is the
-  // day before: nDay, alone of the arguments, is then lowered by 1 in place, to 0 on the first of a
+  // day before: nDay, and no other argument, is then lowered by 1 in place, to 0 on the first of a
   // month.
   // A date that does not exist rolls over: 30 February has the sun of 2 March, but keeps its own
   // name in row 5. A time carries as in DateTimeText, so that 24:00:00 ends the day.
-  // InvalidCall or DivisionByZero where the sun does not cross the horizon (|tan latitude * tan
+  // InvalidCall or DivisionByZero if the sun does not cross the horizon (|tan latitude * tan
   // declination| of 1 or more); TypeMismatch for a time that one carry does not mend; InvalidCall
   // for a month that does not exist and outside the years 100 to 9999.
   SunriseRows Sunrise(double& Latitude, double& Longitude, double& ZoneRelativeGMT,
@@ -57,7 +57,7 @@ class clsBirthDetails {
                                                bool blnDEC, bool blnDecConvdata);
 
   // "hh:mm" by the zone's clock; "" if the sun does not rise or set that day; "{invalid latitude}"
-  // beyond 63 degrees. Where sunrise is more than 90 degrees of hour angle from noon, both times
+  // beyond 63 degrees. If sunrise is more than 90 degrees of hour angle from noon, both times
   // are 12 hours off; Sunrise corrects that, except for the day before. Note that the date is
   // passed year first, unlike everywhere else.
   std::string SRS(double Latitude, double Longitude, double ZoneRelativeGMT,

@@ -121,7 +121,7 @@ class clsPP {
                std::int32_t nAyan, foundation::Boolean16 blnRahuKetu, double warTimeCorrection);
 
   // Computes the chart of a moment (see UniversalTime) at a place in decimal degrees, north and
-  // east positive. GenHoro ends with this, so its arguments and errors, but for those of texts and
+  // east positive. GenHoro ends with this, so its arguments and errors, except those of texts and
   // civil dates, are the same.
   void GenChart(const ChartMoment& at, double latitude, double longitude, std::int16_t ayanMode,
                 foundation::Boolean16 correctedNode);

@@ -3,8 +3,8 @@
 
 namespace engine {
 
-// The Sun's place on the sky at one instant, degrees, by the true equator and equinox of date but
-// for nutation, which is left out.
+// The Sun's place on the sky at one instant, degrees, by the mean equator and equinox of date:
+// nutation is left out.
 struct SunInSky {
   double rightAscension;  // -180 to 180
   double declination;

@@ -8,7 +8,7 @@
 namespace engine {
 
 // Longitudes are degrees from 0 to below 360; only RoundedSplit and ExactSplit wrap larger ones. An
-// index outside its list raises Subscript, as does 360 where the lord of its sign is looked up.
+// index outside its list raises Subscript, as does 360 when the lord of its sign is looked up.
 
 // Bodies in chart order: 1 "Asc", 2 "Sun", 3 "Moon", "Mars", "Mercury", "Jupiter", "Venus",
 // "Saturn", "Rahu", "Ketu", "Uranus", "Neptune", 13 "Pluto"; 0 is "".

@@ -1,4 +1,4 @@
-// What the escapes of INI keys and of INI values share.
+// Shared by the escapes of INI keys and of INI values.
 #pragma once
 
 #include <cstdint>

@@ -142,7 +142,7 @@ class PDFPrinter : public forms::DrawingTarget {
   // 1, which must be set again before each call (else TypeMismatch).
   void PDFCell(std::string_view text, double x, double y, double w, double h, const Argument& link);
 
-  // A text that leads to the link, or to itself where the link is empty.
+  // A text that leads to the link, or to itself if the link is empty.
   void PDFLink(double x, double y, std::string_view text, const Argument& link);
 
   // Colours: three numbers of 0 to 255, "#RRGGBB", or red + 256 green + 65536 blue. Subscript for

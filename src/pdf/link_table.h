@@ -10,10 +10,10 @@
 namespace pdf {
 
 // Points, the origin at the bottom left of the page; y is the upper edge. The size of a text, in
-// points already, has been multiplied by the unit all the same.
+// points already, has also been multiplied by the unit.
 struct LinkRecord {
   double x = 0, y = 0, width = 0, height = 0;
-  std::optional<foundation::ByteText> address;  // nothing where the target is no text
+  std::optional<foundation::ByteText> address;  // nothing if the target is no text
 };
 
 class LinkTable {

@@ -20,7 +20,7 @@ void Tick(foundation::DateTime now, foundation::Settings& settings,
 
 // By the place's own clock; the machine's, by its offset, only decides whether the time is one of
 // another place. The record gets the zone of that clock.
-// Where the record's sunrise or sunset differs from the day of `place`, the labels show the day's,
+// If the record's sunrise or sunset differs from the day of `place`, the labels show the day's,
 // with words in place of a time that is missing.
 void TickByOwnClock(clocks::Instant now, std::chrono::seconds machineOffset,
                     foundation::Settings& settings, foundation::SessionTable& session,
