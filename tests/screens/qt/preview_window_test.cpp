@@ -59,6 +59,24 @@ TEST(PreviewWindow, MovesTheFocusOutOfItsPanelWhenThatCloses) {
   EXPECT_EQ(list->focusPolicy(), Qt::NoFocus);
 }
 
+TEST(PreviewWindow, DragsItsPageByTheLeftButtonWithoutAModifier) {
+  Printing printing(DateFromParts(2011, 1, 1));
+  FormWindow& window = printing.host.WindowOf(printing.preview);
+  window.Mirror();
+  auto* const page = window.findChild<QWidget*>(u"PIC"_s);
+  const auto drags = [&](Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+    QTest::mousePress(page, button, modifiers, {50, 50});
+    const bool dragging = printing.preview.PIC.grabCursor;
+    QTest::mouseRelease(page, button, modifiers, {50, 50});
+    return dragging;
+  };
+  EXPECT_TRUE(drags(Qt::LeftButton, {}));
+  EXPECT_FALSE(drags(Qt::RightButton, {}));
+  for (const auto key : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
+    EXPECT_FALSE(drags(Qt::LeftButton, key)) << key;
+  }
+}
+
 // A page of 909 by 682 logical pixels at the screen's resolution.
 TEST(Printing, GivesAPageOfPixelsAndASheetForEachMonth) {
   const QTemporaryDir folder;
