@@ -93,7 +93,10 @@ TEST(RiseSet, ReadsDegreesAndMinutesWithHemisphere) {
   const std::string north = rise("28.666666666666668", "77.21666666666667", true);
   const std::string south = rise("-28.666666666666668", "-77.21666666666667", true);
   ExpectRows(rise, Row("28.40N", "77.13E", false, north), Row("28.40S", "77.13w", false, south),
-             Row("28.40s", "77.13W", false, south), Row("63.01", "0", true, "{invalid latitude}"));
+             Row("28.40s", "77.13W", false, south), Row("63.01", "0", true, "{invalid latitude}"),
+             Row("-63.01", "0", true, "{invalid latitude}"),
+             // 06:53 in Greenwich, by the formulas of NOAA's solar calculator.
+             Row("63", "0", true, "12:23"));
   EXPECT_EQ(std::get<double>(details.GetRISESET(5, 3, 2011, "R", "63.01", "0", 0, true, true)), 0);
 }
 
