@@ -26,7 +26,7 @@ bool IsNumber(std::string_view abbreviation) {
 }
 
 // The system's folder of zones also has other files, among them the machine's own zone, and CCTZ
-// has names of its own, with a colon. Names of zones begin with a capital.
+// adds names with a colon. Names of zones begin with a capital.
 bool IsZoneName(std::string_view name) {
   return !name.empty() && name.front() >= 'A' && name.front() <= 'Z' &&
          name.find("..") == name.npos && name.find(':') == name.npos;

@@ -1,4 +1,4 @@
-// Runs the headless program with the atlas of the build and settings of its own.
+// Runs the headless program with the atlas of the build and separate settings.
 #pragma once
 
 #include <sstream>

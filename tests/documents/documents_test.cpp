@@ -59,12 +59,12 @@ TEST(Documents, CountThePlacesThatAreThere) {
   for (const char* document : {"README.md", "docs/atlas.md"}) {
     const std::string text = ReadFile(kProject / document);
     for (const auto& count : {foundation::GroupedText(places), "in " + std::to_string(files)}) {
-      EXPECT_NE(text.find(count), text.npos) << document << " does not tell of " << count;
+      EXPECT_NE(text.find(count), text.npos) << document << " does not mention " << count;
     }
   }
 }
 
-// README tells the worst of docs/accuracy.md, which is made by a command.
+// README quotes the worst figures of docs/accuracy.md, which scripts/accuracy makes.
 TEST(Documents, TellTheAccuracyThatWasMeasured) {
   std::string readme = ReadFile(kProject / "README.md");
   std::ranges::replace(readme, '\n', ' ');

@@ -35,7 +35,7 @@ std::chrono::seconds OffsetByDate(std::chrono::seconds moment) {
   return text.startsWith(QLatin1Char('-')) ? -seconds : seconds;
 }
 
-// `date` of the GNU tools, a program of its own, reads the same zone files.
+// GNU `date` is an independent program that reads the same zone files.
 TEST(QtClock, KnowsTheInstantAndTheMachinesOffset) {
   const std::chrono::seconds kMoments[] = {1767225600s,   // New Year 2026
                                            1782864000s,   // 1 July 2026
