@@ -105,13 +105,13 @@ const InformationPage& CalculatePage() {
       "frmCalculate",
       "Calculation of Durvela",
       3,
-      {"1. Sunrise and sunset of the day are worked out for the place, in whole minutes of its "
-       "zone.",
+      {"1. Sunrise and sunset of the day are worked out for the place, by its clock.",
        "2. The daylight from sunrise to sunset is cut into eight equal parts.",
        "3. The weekday chooses the part of each period, as the table shows.",
-       "Before sunrise the sun of the day before counts, with the weekday of the calendar. Beyond "
-       "63 degrees of latitude the day is not divided: its times read 00:00:00, or there are "
-       "none."},
+       "Before sunrise the sun of the day before counts, with the weekday of the calendar. A day "
+       "without a sunrise or a sunset is not divided; nor, by the country's clock, is any day "
+       "beyond "
+       "63 degrees of latitude."},
       {Period::Durvela, Period::Gulik, Period::Yum}};
   return kPage;
 }
