@@ -13,18 +13,19 @@ struct Receiver : testing::Test, PageReceiver {
   support::RecordingTarget target;
   support::FakeYielder yielder;
   foundation::SessionTable session;
-  std::string progress, titles;
+  std::string shown, titles;  // the texts of progress; numbers and titles of pages
 
   void Begin(const pk_Durvela& page) override { EXPECT_EQ(page.scaleWidth, 13635); }
   forms::DrawingTarget& Target() override { return target; }
   void TakePage(std::int16_t number, const std::string& title) override {
     titles += std::to_string(number) + ": " + title + "|";
   }
-  void ShowProgress(const std::string& text) override { progress = text; }
+  void ShowProgress(const std::string& text) override { shown += text + "|"; }
 
-  void Clear() {
+  void Make(const ReportInput& input) {
     target.calls.clear();
     titles.clear();
+    MakeReport(input, session, yielder, *this);
   }
 
   // The ten columns of a row, from 0, of the page last drawn, each after a blank.

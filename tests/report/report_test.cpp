@@ -19,10 +19,8 @@ const DateTime k5March = DateFromParts(2011, 3, 5);
 
 // For Delhi.
 struct Report : Receiver {
-  void Make(DateTime from, DateTime to, DateTime time = 0.5) {
-    Clear();
-    MakeReport({from, to, time, "28.40N", "77.13E", "82.30E", "-5.30", "Delhi", "India"}, session,
-               yielder, *this);
+  void MakeFor(DateTime from, DateTime to, DateTime time = 0.5) {
+    Make({from, to, time, "28.40N", "77.13E", "82.30E", "-5.30", "Delhi", "India"});
   }
 };
 using ReportPage = Report;
@@ -31,7 +29,7 @@ using ReportPage = Report;
 constexpr char kPlace[] = "Print 8065 360 (Delhi  Long:77.13E  Lat:28.40N  Zone:-5.30)";
 
 TEST_F(ReportPage, ShowsHeadingsPlaceAndRules) {
-  Make(k5March, k5March);
+  MakeFor(k5March, k5March);
   for (const char* call :
        {"Print 1110 240 nqosZyk ¼ekpZ 2011½", "Print 10770 720 ;e?kaVd dky", kPlace,
         "PaintPicture 720 270 12150 15", "PaintPicture 720 9750 12150 15",
@@ -44,7 +42,7 @@ TEST_F(ReportPage, ShowsHeadingsPlaceAndRules) {
 // The times were calculated independently.
 TEST_F(ReportPage, HasOneRowPerDay) {
   const auto lastRow = [&](int month, int day) {
-    Make(DateFromParts(2011, month, 1), DateFromParts(2011, month, day));
+    MakeFor(DateFromParts(2011, month, 1), DateFromParts(2011, month, day));
     return RowOf(day - 1);
   };
   ExpectRows(lastRow,
@@ -64,14 +62,14 @@ TEST_F(ReportPage, CountsWeekdaysFromTheUsersFirst) {
   names.firstWeekday = 2;
   const support::UserNamesScope scope(names);
   const DateTime thursday = DateFromParts(2026, 11, 26);
-  Make(thursday, thursday);
+  MakeFor(thursday, thursday);
   EXPECT_EQ(target.After("Print 1125 1320 "), Texts{"26-शुक्रवा"});  // Friday, in three letters
   EXPECT_EQ(foundation::ShortWeekdayName(5), "गुरुवा");
 }
 
 TEST_F(Report, MakesOnePagePerMonth) {
   const auto made = [&](DateTime from, DateTime to, DateTime time) {
-    Make(from, to, time);
+    MakeFor(from, to, time);
     return titles + std::to_string(target.After("Print ").size()) + ", " +
            std::to_string(target.After("Cls").size());
   };
@@ -90,22 +88,18 @@ TEST_F(Report, MakesOnePagePerMonth) {
 TEST_F(Report, FailsOnADayWithoutSunrise) {
   const DateTime day = DateFromParts(2011, 6, 21);
   EXPECT_ERROR(InvalidCall,
-               MakeReport({day, day, 0.5, "69.40N", "18.57E", "15.0E", "-1", "Tromso", "Norway"},
-                          session, yielder, *this));
+               Make({day, day, 0.5, "69.40N", "18.57E", "15.0E", "-1", "Tromso", "Norway"}));
 }
 
 // Another report may begin while one is being made.
 TEST_F(Report, KeepsItsPlaceIfTheRecordChanges) {
-  std::string shown;
   yielder.between = [&](int turn) {
-    shown += progress + "|";
-    if (turn == 1) Make(DateFromParts(2011, 5, 1), DateFromParts(2011, 5, 1));
+    if (turn == 1) MakeFor(DateFromParts(2011, 5, 1), DateFromParts(2011, 5, 1));
     session.Current().LatitudeText = "60.00N";
     session.Current().CityName = "Elsewhere";
   };
-  Make(k5March, k5March + 1);
-  EXPECT_EQ(shown + progress,
-            "Loading.. 6 March 2011|Loading.. 2 May 2011|Loading.. 7 March 2011|");
+  MakeFor(k5March, k5March + 1);
+  EXPECT_EQ(shown, "Loading.. 6 March 2011|Loading.. 2 May 2011||Loading.. 7 March 2011||");
   EXPECT_EQ(titles, "1: Durvela May 2011 ..P1|1: Durvela March 2011 ..P1|");
   EXPECT_EQ(target.After("Print 2250 1590 "), Texts{"06:42:00"});
   EXPECT_EQ(target.After(kPlace).size(), 2U);
