@@ -17,16 +17,10 @@ std::string Read(foundation::SettingsFile settings, std::string_view key) {
   return settings.GetSetting(kProgram, kSection, key, kNone);
 }
 
-std::size_t EqualBytes(auto a, auto endA, auto b, auto endB) {
-  return static_cast<std::size_t>(std::mismatch(a, endA, b, endB).first - a);
-}
-
 // Whether bytes were put into a file, none taken out.
 bool OnlyGrew(const std::string& before, const std::string& after) {
-  const std::size_t atStart = EqualBytes(before.begin(), before.end(), after.begin(), after.end());
-  const std::size_t atEnd =
-      EqualBytes(before.rbegin(), before.rend(), after.rbegin(), after.rend());
-  return after.size() >= before.size() && atStart + atEnd >= before.size();
+  const auto rest = std::ranges::mismatch(before, after).in1;
+  return after.size() >= before.size() && after.ends_with(std::string(rest, before.end()));
 }
 
 }  // namespace
