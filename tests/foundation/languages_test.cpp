@@ -38,11 +38,6 @@ TEST(LanguagePhrases, ComeFromTheFirstMatchingLine) {
             "The file " + (folder.path / "Language/emarathi.txt").string() + " does not exist");
 }
 
-TEST(Lines, EndWithCrLfCrOrLf) {
-  std::string_view text = "a\r\nb\rc\n\nd";
-  for (const std::string_view line : {"a", "b", "c", "", "d", ""}) EXPECT_EQ(TakeLine(text), line);
-}
-
 TEST(ByteTexts, UseCodePage1252) {
   // Without the five bytes that the code page leaves undefined.
   EXPECT_EQ(FromBytes(ByteText("\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8E"

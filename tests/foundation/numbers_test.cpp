@@ -88,18 +88,14 @@ TEST(Errors, PreventReadingMissingElements) {
 TEST(SessionTable, FillsOnlyAFreshRecordOf0To1000) {
   SessionTable session;
   session.CurrentRecord = 1000;
-  SessionRecord& record = session.Records[1000];
-  record.PersonName = "left over";
-  record.AyanamsaChoice = 4;
-  record.ReservedText = "kept";
+  SessionRecord& record = session.Current();
+  record = {.PersonName = "left over", .AyanamsaChoice = 4, .ReservedText = "kept"};
   InitSessionRecord(session, DateFromParts(2011, 3, 5) + TimeFromParts(6, 12, 9));
   InitSessionRecord(session, DateFromParts(2030, 1, 1));
-  EXPECT_EQ(std::tuple(record.PersonName, record.RecordFlag, record.AyanamsaChoice,
-                       record.RahuKetuFlag, record.ReservedText),
-            std::tuple("", -1, 0, -1, "kept"));
-  EXPECT_EQ(
-      std::tuple(record.Day, record.Month, record.Year, record.Hour, record.Minute, record.Second),
-      std::tuple(5, 3, 2011, 6, 12, 9));
+  EXPECT_EQ(record.PersonName + "|" + record.ReservedText, "|kept");
+  EXPECT_EQ(std::tuple(record.RecordFlag, record.AyanamsaChoice, record.RahuKetuFlag, record.Day,
+                       record.Month, record.Year, record.Hour, record.Minute, record.Second),
+            std::tuple(-1, 0, -1, 5, 3, 2011, 6, 12, 9));
   session.CurrentRecord = 1001;
   EXPECT_ERROR(Subscript, InitSessionRecord(session, 0));
 }

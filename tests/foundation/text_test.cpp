@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "foundation/angle_text.h"
+#include "foundation/files.h"
 #include "foundation/letters.h"
 #include "foundation/time_text.h"
 #include "support/errors.h"
@@ -43,6 +44,11 @@ TEST(Text, CountsALetterWithItsMarksAndConjunctsAsOne) {
              Row("\x93k", "\x93"), Row("क्।", "क्"));
   EXPECT_EQ(FirstLetters("क", 0), "");
   EXPECT_ERROR(InvalidCall, FirstLetters("क", -1));
+}
+
+TEST(Text, EndsItsLinesWithCrLfCrOrLf) {
+  std::string_view text = "a\r\nb\rc\n\nd";
+  for (const std::string_view line : {"a", "b", "c", "", "d", ""}) EXPECT_EQ(TakeLine(text), line);
 }
 
 TEST(Text, ChangesCase) {
@@ -99,16 +105,13 @@ TEST(PaddedDigits, AreCutToTheirWidth) {
   EXPECT_ERROR(InvalidCall, PadDigits(1, -1));
 }
 
-TEST(Angles, ConvertDegreesAndMinutes) {
-  double written = -28.4;
-  EXPECT_EQ(DegMinToDecimal(written), -27.999999999999996);
-  EXPECT_EQ(written, -27.999999999999996);
-}
-
 TEST(Angles, ConvertAZoneToItsMeridian) {
   ExpectRows(ZoneToMeridianText, Row("-5.30", "82.30E"), Row("-3.30", "52.30E"), Row("5", "75.0W"),
              Row("+0.20", "5.0W"), Row("+11", "165.0W"), Row("", "0.0W"));
   EXPECT_ERROR(Overflow, ZoneToMeridianText("999999999999"));
+  double written = -28.4;
+  EXPECT_EQ(DegMinToDecimal(written), -27.999999999999996);
+  EXPECT_EQ(written, -27.999999999999996);
 }
 
 TEST(Angles, ShowTheirPositionInASign) {
