@@ -7,9 +7,9 @@
 namespace pdf {
 namespace {
 
-using Colours = PaperTest;
+using Shapes = PaperTest;
 
-TEST_F(Colours, AreOperators) {
+TEST_F(Shapes, HaveColoursAsOperators) {
   const auto colour = [&](const Argument& argument) {
     printer.PDFSetTextColor(argument);
     return printer.PDFGetTextColor();
@@ -21,9 +21,7 @@ TEST_F(Colours, AreOperators) {
   EXPECT_ERROR(Subscript, printer.PDFSetTextColor({1, 2}));
 }
 
-using Lines = PaperTest;
-
-TEST_F(Lines, MoveToTheirEndAndSetTheFillColour) {
+TEST_F(Shapes, MoveToTheEndOfLinesAndSetTheFillColour) {
   printer.PDFDrawLineHor(60, 100, 50);
   EXPECT_EQ(Place(), std::pair(110, 100));
   printer.PDFSetLineColor(255);
@@ -36,7 +34,7 @@ TEST_F(Lines, MoveToTheirEndAndSetTheFillColour) {
   EXPECT_EQ(Content(), KnownContent("lines"));
 }
 
-TEST_F(Lines, UseDashesOfWholePoints) {
+TEST_F(Shapes, UseDashesOfWholePoints) {
   printer.PDFSetUnit(2);
   for (const int style : {0, 1, 2, 3}) {
     printer.PDFSetLineStyle(style);
@@ -45,8 +43,6 @@ TEST_F(Lines, UseDashesOfWholePoints) {
   EXPECT_EQ(Between(Content(), "%DEBUT_LN/%\n", "\n"),
             "[] 0 d[453 226 ] 0 d[226 198 56 198 ] 0 d[226 113 56 113 56 113 ] 0 d");
 }
-
-using Shapes = PaperTest;
 
 TEST_F(Shapes, AreOutlinedOrFilledOrBoth) {
   for (const int mode : {0, 1}) {
@@ -76,8 +72,7 @@ TEST_F(Shapes, TurnTextWhiteAndAffectTheNextLink) {
   printer.PDFDrawRectangle(10, 20, 30, 40, "");
   EXPECT_EQ(printer.PDFGetTextColor(), "1.000 1.000 1.000 rg");
   // The next link is taken to be the rectangle's: as wide, and without text.
-  printer.PDFLink(50, 60, "hidden", "u");
-  printer.PDFLink(50, 60, "shown", "u");
+  for (const char* text : {"hidden", "shown"}) printer.PDFLink(50, 60, text, "u");
   const std::string file = Finish();
   EXPECT_TRUE(Holds(file, "/Rect [50 781.89 80 781.89]"));
   EXPECT_EQ(Between(file, "\n(", ") Tj"), "shown");
@@ -128,13 +123,11 @@ TEST_F(Links, AreTextsAndTheirPlaces) {
 TEST_F(Links, AreBounded) {
   for (int i = 0; i < 1000; ++i) printer.PDFLink(1, 1, "a", "");
   EXPECT_ERROR(Subscript, printer.PDFLink(1, 1, "a", ""));
-  for (int page = 2; page <= 1000; ++page) NewPage();
-  printer.PDFLink(1, 1, "a", "");
-  NewPage();
+  for (int page = 2; page <= 1001; ++page) NewPage();
   EXPECT_ERROR(Subscript, printer.PDFLink(1, 1, "a", ""));
 }
 
-using CellLines = PaperTest;
+using Cells = PaperTest;
 
 // The content after the colours for a cell at 60, 100, a hundred wide and twenty high.
 std::string CellLine(int border, bool fill, int alignment) {
@@ -146,7 +139,7 @@ std::string CellLine(int border, bool fill, int alignment) {
   return paper.Content().substr(std::string_view("0 G\n0 g\n").size());
 }
 
-TEST_F(CellLines, PlaceBordersFillsAndTexts) {
+TEST_F(Cells, PlaceBordersFillsAndTexts) {
   const auto text = [](const std::string& x) {
     return "q 0 g \nBT\n/F1 10 Tf\n" + x + " 728.89 Td\n(\\(b\\) c) Tj\nET\nQ\n";
   };
@@ -163,7 +156,7 @@ TEST_F(CellLines, PlaceBordersFillsAndTexts) {
               text("63.00")));
 }
 
-TEST_F(CellLines, UnderlineTheirLinks) {
+TEST_F(Cells, UnderlineTheirLinks) {
   printer.PDFCellLine("ab", 60, 100, 100, 20, "u");
   EXPECT_EQ(Place(), std::pair(160, 120));
   const std::string file = Finish();
@@ -172,18 +165,17 @@ TEST_F(CellLines, UnderlineTheirLinks) {
   EXPECT_EQ(Between(file, "/Rect ", " /Border"), "[63 736.89 73 726.89][60 741.89 70 731.89]");
 }
 
-TEST_F(CellLines, KeepTheirMarginAndTellTheirAlignment) {
-  const auto aligned = [&](int alignment) {
+TEST_F(Cells, KeepTheirMarginAndTellTheirAlignment) {
+  std::string alignments;
+  for (const int alignment : {0, 2, 3, 1}) {
     printer.PDFSetAlignement(alignment);
-    return printer.PDFGetAlignement();
-  };
-  ExpectRows(aligned, Row(0, "Center"), Row(2, "Right"), Row(3, "Left"), Row(1, "Left"));
+    alignments += printer.PDFGetAlignement() + " ";
+  }
+  EXPECT_EQ(alignments, "Center Right Left Left ");
   printer.PDFSetCellMargin(7.5);
   printer.PDFCellLine("ab", 60, 100, 100, 20, "");
   EXPECT_EQ(Between(Content(), "Tf\n", " 728"), "68.00");
 }
-
-using Cells = PaperTest;
 
 TEST_F(Cells, WrapAtBlanks) {
   // The positions of a cell's lines, and the lines.

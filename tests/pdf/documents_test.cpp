@@ -119,10 +119,8 @@ TEST_F(Documents, AreWrittenOnceTheReaderCloses) {
   EXPECT_TRUE(foundation::ReadFile(folder.path / "held.pdf").starts_with("%PDF-1.3"));
 }
 
-using Outlines = PaperTest;
-
 // Objects from 10 are bookmarks, followed by the outline; calculated by hand.
-TEST_F(Outlines, LinkBookmarksByLevel) {
+TEST_F(Documents, LinkBookmarksByLevel) {
   const auto references = [](const std::vector<std::int16_t>& levels) {
     Paper paper;
     for (const std::int16_t level : levels) paper.printer.PDFSetBookmark("", level, 0);
