@@ -10,7 +10,7 @@
 #include "foundation/folders.h"
 #include "foundation/settings_file.h"
 #include "foundation/text.h"
-#include "support/config_folder.h"
+#include "support/temporary_folder.h"
 
 namespace support {
 

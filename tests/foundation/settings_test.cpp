@@ -9,7 +9,7 @@
 
 #include "foundation/files.h"
 #include "foundation/settings_file.h"
-#include "support/config_folder.h"
+#include "support/temporary_folder.h"
 #include "support/errors.h"
 #include "support/full_disk.h"
 

@@ -7,7 +7,7 @@
 
 #include "foundation/settings_file.h"
 #include "fuzz/fuzz.h"
-#include "support/config_folder.h"
+#include "support/temporary_folder.h"
 
 namespace {
 

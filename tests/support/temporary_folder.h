@@ -1,4 +1,4 @@
-// A temporary folder for a test.
+// Temporary folders for a test.
 #pragma once
 
 #include <cstdlib>
@@ -25,6 +25,12 @@ struct TemporaryFolder {
   }
 
   std::filesystem::path path;
+};
+
+// As the configuration folder. The variable is left as it is, so that no later test of the program
+// uses the user's folder.
+struct ConfigFolderScope : TemporaryFolder {
+  ConfigFolderScope() { setenv("XDG_CONFIG_HOME", path.c_str(), 1); }
 };
 
 }  // namespace support

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "screens/qt/application.h"
-#include "support/config_folder.h"
+#include "support/temporary_folder.h"
 #include "support/machine_fakes.h"
 
 namespace screens::qt {
