@@ -1,15 +1,12 @@
 // Elements of a day and attributes of a birth, at the limits of their tables.
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <map>
 #include <set>
 
 #include "dayperiods/clsBirthDetails.h"
 #include "engine/zodiac.h"
-#include "support/errors.h"
-#include "support/table.h"
+#include "support/test.h"
 #include "support/words.h"
 
 namespace dayperiods {
@@ -18,7 +15,6 @@ namespace {
 using Number = std::int16_t;
 using Text = std::string;
 using support::Beginnings;
-using support::Row;
 using support::Translated;
 
 clsBirthDetails details;  // stateless

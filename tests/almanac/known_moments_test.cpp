@@ -1,18 +1,15 @@
-#include <gtest/gtest.h>
 
 #include <array>
 
 #include "dayperiods/clsBirthDetails.h"
-#include "support/errors.h"
 #include "support/session_at.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace dayperiods {
 namespace {
 
 using Number = std::int16_t;
 using Text = std::string;
-using support::Row;
 
 struct KnownMoment {
   std::array<Number, 6> at;

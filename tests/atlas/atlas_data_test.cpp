@@ -1,5 +1,4 @@
 // The city files and indexes from the build, compared with the tables of places and published data.
-#include <gtest/gtest.h>
 
 #include <filesystem>
 
@@ -13,13 +12,12 @@
 #include "foundation/numbers.h"
 #include "foundation/text.h"
 #include "support/machine_fakes.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace atlas {
 namespace {
 
 namespace fs = std::filesystem;
-using support::Row;
 
 struct AtlasData : testing::Test {
   AtlasData() { foundation::SetAppFolder(fs::path(ATLAS_FOLDER).parent_path()); }

@@ -1,7 +1,5 @@
 // City files in the atlas: loading, rewriting, and loads that interrupt each other.
 
-#include <gtest/gtest.h>
-
 #include "atlas/clsAtlas.h"
 #include "atlas/getCountryZone.h"
 #include "atlas/scrambling.h"
@@ -10,12 +8,10 @@
 #include "support/app_folder.h"
 #include "support/full_disk.h"
 #include "support/machine_fakes.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace atlas {
 namespace {
-
-using support::Row;
 
 const PlaceRecord kBombay = {"Bombay", "Mumbai", "Maharashtra", "18.58", "N", "72.50", "E"};
 const PlaceRecord kAgra = {"Agra", "Agra", "Uttar Pradesh", "27.11", "N", "78.01", "E"};

@@ -1,19 +1,15 @@
 // Places by name, in small indexes, and by their texts.
 #include "atlas/find_place.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 
 #include "atlas/name_key.h"
 #include "atlas/place_texts.h"
 #include "support/app_folder.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace atlas {
 namespace {
-
-using support::Row;
 
 TEST(NameKey, LeavesCaseMarksAndSignsAside) {
   ExpectRows([](std::string_view name) { return NameKey(name); }, Row("São Paulo", "sao paulo"),

@@ -1,20 +1,17 @@
 // The clock of a place by the user's choice, a small index and the table of countries.
 #include "atlas/place_clock.h"
 
-#include <gtest/gtest.h>
-
 #include <string>
 
 #include "foundation/version.h"
 #include "support/app_folder.h"
 #include "support/machine_fakes.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace atlas {
 namespace {
 
 using namespace std::chrono;
-using support::Row;
 
 // With a column that the reader does not know, and a zone that no system knows.
 const std::string kHead =

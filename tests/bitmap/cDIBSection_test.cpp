@@ -1,12 +1,10 @@
 #include "bitmap/cDIBSection.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
-#include "support/errors.h"
 #include "support/machine_fakes.h"
 #include "support/screen_fakes.h"
+#include "support/test.h"
 
 namespace bitmap {
 namespace {

@@ -1,23 +1,19 @@
 // Files of pictures. The screen tests check the pixels of a JPEG file, since their toolkit decodes
 // it.
 
-#include <gtest/gtest.h>
-
 #include "bitmap/bmp_file.h"
 #include "bitmap/libjpeg_library.h"
 #include "bitmap/mIntelJPEGLibrary.h"
 #include "foundation/files.h"
 #include "support/app_folder.h"
-#include "support/errors.h"
 #include "support/machine_fakes.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace bitmap {
 namespace {
 
 namespace fs = std::filesystem;
 using namespace std::string_literals;
-using support::Row;
 
 struct FakeJpegLibrary : JpegLibrary {
   int begun = 0, freed = 0;

@@ -1,9 +1,9 @@
 // What the headless program refuses, and how.
-#include <gtest/gtest.h>
 
 #include <algorithm>
 
 #include "cli/program.h"
+#include "support/test.h"
 
 namespace {
 

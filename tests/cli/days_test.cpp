@@ -1,17 +1,14 @@
 // The figures of the headless program, as JSON and as tables. Those of docs/cli.md are run as they
 // stand there; that of Delhi in 2011 is from a table worked out independently.
-#include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
 
 #include "atlas/place_clock.h"
 #include "cli/program.h"
 #include "foundation/files.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace {
-
-using support::Row;
 
 struct Days : testing::Test {
   // Of a command line that must succeed.

@@ -2,15 +2,13 @@
 
 #include "clocks/zone_clock.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <string>
 #include <vector>
 
 #include "clocks/zone_names.h"
-#include "support/table.h"
 #include "support/temporary_folder.h"
+#include "support/test.h"
 
 namespace {
 
@@ -20,7 +18,6 @@ using clocks::Instant;
 using clocks::Reading;
 using clocks::ZoneClock;
 using clocks::ZoneNames;
-using support::Row;
 using Names = std::vector<std::string>;
 
 Instant Utc(year_month_day date, seconds time = {}) {

@@ -2,13 +2,11 @@
 // use_center).
 #include "day/day.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 
 #include "day/sun_times.h"
 #include "foundation/time_text.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace {
 
@@ -16,7 +14,6 @@ using namespace std::chrono;
 using atlas::Place;
 using clocks::ZoneClock;
 using day::Day;
-using support::Row;
 
 const Place kDelhi = {"Delhi", "Delhi", "India", 28 + 40 / 60.0, 77 + 13 / 60.0, "Asia/Kolkata"};
 const Place kNewYork = {"New York", "New York", "USA", 40 + 43 / 60.0, -74, "America/New_York"};

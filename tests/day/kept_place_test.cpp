@@ -1,17 +1,14 @@
 // A place by its texts and a small index, second by second around sunrise.
 #include "day/kept_place.h"
 
-#include <gtest/gtest.h>
-
 #include "support/app_folder.h"
 #include "support/machine_fakes.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace {
 
 using namespace std::chrono;
 using clocks::Instant;
-using support::Row;
 
 constexpr const char* kIndex =
     "state\tOne\n"

@@ -1,22 +1,18 @@
 // Sunrise, sunset and the three periods: days calculated independently of this code, and limits.
 
-#include <gtest/gtest.h>
-
 #include <array>
 
 #include "dayperiods/clsBirthDetails.h"
 #include "dayperiods/clsUtilities.h"
 #include "engine/record_chart.h"
 #include "foundation/resume.h"
-#include "support/errors.h"
 #include "support/session_at.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace dayperiods {
 namespace {
 
 using Number = std::int16_t;
-using support::Row;
 
 struct KnownDay {
   std::array<Number, 6> moment;  // day first

@@ -1,7 +1,5 @@
 // What the documents name must be there, and what they forbid must not.
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
@@ -12,13 +10,12 @@
 #include "foundation/files.h"
 #include "foundation/numbers.h"
 #include "foundation/text.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using foundation::ReadFile;
-using support::Row;
 
 const fs::path kProject = PROJECT_FOLDER;
 

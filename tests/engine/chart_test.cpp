@@ -1,7 +1,5 @@
 // Charts from place and moment: decoding, nodes, ayanamsa modes and their peculiarities.
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 
 #include "engine/ayanamsa.h"
@@ -9,14 +7,12 @@
 #include "engine/nodes.h"
 #include "engine/place_decoding.h"
 #include "engine/time_base.h"
-#include "support/errors.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace engine {
 namespace {
 
 using foundation::DateFromParts;
-using support::Row;
 
 // With the mean node.
 clsPP ChartOf(double day, double month, double year, double hour, std::int32_t mode = 0) {

@@ -1,13 +1,12 @@
 // Complete charts calculated independently of this code, in every ayanamsa mode that works, and
 // positions from an independent ephemeris, within the accuracy of low-precision theories.
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <cmath>
 #include <string>
 
 #include "engine/clsPP.h"
+#include "support/test.h"
 #include "support/words.h"
 
 namespace engine {

@@ -2,23 +2,18 @@
 
 #include "engine/planets_table.h"
 
-#include <gtest/gtest.h>
-
 #include <sstream>
 #include <string>
 
 #include "engine/clsPP.h"
 #include "engine/sub_lords.h"
 #include "support/app_folder.h"
-#include "support/errors.h"
 #include "support/machine_fakes.h"
-#include "support/table.h"
+#include "support/test.h"
 #include "support/words.h"
 
 namespace engine {
 namespace {
-
-using support::Row;
 
 struct PlanetsTables : testing::Test {
   PlanetsTables() { pp.GenHoro(5, 3, 2011, 6, 12, 9, "77.13E", "28.40N", "82.30E", 0, -1, 0); }

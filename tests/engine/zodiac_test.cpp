@@ -2,20 +2,16 @@
 
 #include "engine/zodiac.h"
 
-#include <gtest/gtest.h>
-
 #include "engine/divisions.h"
 #include "foundation/legacy_hindi.h"
 #include "foundation/text.h"
-#include "support/errors.h"
-#include "support/table.h"
+#include "support/test.h"
 #include "support/words.h"
 
 namespace engine {
 namespace {
 
 using support::Beginnings;
-using support::Row;
 using support::Translated;
 
 // Orders, rulers, limits and dignities are the tradition's.

@@ -1,7 +1,5 @@
 // Forms, lists, drawing targets, and resizing.
 
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <utility>
 #include <vector>
@@ -12,13 +10,10 @@
 #include "forms/moment_picker.h"
 #include "forms/picture.h"
 #include "foundation/legacy_hindi.h"
-#include "support/errors.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace forms {
 namespace {
-
-using support::Row;
 
 TEST(DrawingTarget, RejectsMissingMembers) {
   struct : DrawingTarget {

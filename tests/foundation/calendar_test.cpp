@@ -1,17 +1,12 @@
 #include "foundation/calendar.h"
 
-#include <gtest/gtest.h>
-
 #include "foundation/date_text.h"
 #include "foundation/text.h"
-#include "support/errors.h"
 #include "support/locales.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace foundation {
 namespace {
-
-using support::Row;
 
 DateTimeFields Fields(int year, int month, int day, int hour = 0, int minute = 0, int second = 0) {
   return {year, month, day, hour, minute, second};

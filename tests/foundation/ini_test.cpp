@@ -1,15 +1,12 @@
 // INI files. Expected values come from Qt 6.4.2.
 
-#include <gtest/gtest.h>
-
 #include "foundation/ini_document.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace foundation {
 namespace {
 
 using namespace std::literals;
-using support::Row;
 
 std::string With(std::string file, std::string_view section, std::string_view key,
                  std::string_view value) {

@@ -1,7 +1,5 @@
 // Language files and text encodings.
 
-#include <gtest/gtest.h>
-
 #include <fstream>
 #include <map>
 #include <set>
@@ -13,14 +11,11 @@
 #include "foundation/phrases.h"
 #include "foundation/text.h"
 #include "support/app_folder.h"
-#include "support/errors.h"
-#include "support/table.h"
+#include "support/test.h"
 #include "support/words.h"
 
 namespace foundation {
 namespace {
-
-using support::Row;
 
 TEST(LanguagePhrases, ComeFromTheFirstMatchingLine) {
   const support::AppFolderScope folder;

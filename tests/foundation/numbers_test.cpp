@@ -2,8 +2,6 @@
 
 #include "foundation/numbers.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 #include <stdexcept>
@@ -12,13 +10,10 @@
 #include "foundation/checked.h"
 #include "foundation/resume.h"
 #include "foundation/session.h"
-#include "support/errors.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace foundation {
 namespace {
-
-using support::Row;
 
 TEST(Rounding, RoundsToNearestWithTiesToEven) {
   ExpectRows(RoundToInt16, Row(0.5, 0), Row(1.5, 2), Row(-1.5, -2), Row(-2.5, -2),

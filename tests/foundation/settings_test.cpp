@@ -1,6 +1,5 @@
 // The settings file, also when several programs use it.
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <fstream>
@@ -9,9 +8,9 @@
 
 #include "foundation/files.h"
 #include "foundation/settings_file.h"
-#include "support/temporary_folder.h"
-#include "support/errors.h"
 #include "support/full_disk.h"
+#include "support/temporary_folder.h"
+#include "support/test.h"
 
 namespace foundation {
 namespace {

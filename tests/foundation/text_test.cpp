@@ -2,22 +2,17 @@
 
 #include "foundation/text.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 
 #include "foundation/angle_text.h"
 #include "foundation/files.h"
 #include "foundation/letters.h"
 #include "foundation/time_text.h"
-#include "support/errors.h"
 #include "support/locales.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace foundation {
 namespace {
-
-using support::Row;
 
 TEST(Text, CountsCharactersNotBytes) {
   // A stray byte is a character too.

@@ -1,12 +1,9 @@
 // Passes every day of the years 100 to 9999 through all date conversions.
 
-#include <gtest/gtest.h>
-
 #include "engine/time_base.h"
 #include "foundation/date_text.h"
 #include "foundation/time_text.h"
 #include "nightly/days.h"
-#include "support/errors.h"
 #include "support/locales.h"
 
 namespace foundation {

@@ -1,9 +1,9 @@
 // Days from the C library's calendar, which the program does not use.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <ctime>
+
+#include "support/test.h"
 
 namespace nightly {
 

@@ -1,8 +1,6 @@
 // Checks the periods of five places on every day of 1900 to 2100 against what must hold on any day:
 // equal parts of daylight, the weekday table, and the sun's course to within minutes.
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <numbers>
 

@@ -1,7 +1,5 @@
 // Colours, lines, shapes, texts, links and cells, as they appear in a page's content.
 
-#include <gtest/gtest.h>
-
 #include "paper.h"
 
 namespace pdf {

@@ -1,6 +1,5 @@
 // Complete documents, and the objects around the pages.
 
-#include <gtest/gtest.h>
 #include <unistd.h>
 
 #include "paper.h"

@@ -1,7 +1,5 @@
 // Hand-made JPEG files, and how a document embeds them.
 
-#include <gtest/gtest.h>
-
 #include "paper.h"
 
 namespace pdf {

@@ -2,8 +2,6 @@
 // wide as the font is high.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <map>
 #include <string>
 #include <string_view>
@@ -11,13 +9,10 @@
 #include "foundation/files.h"
 #include "pdf/PDFPrinter.h"
 #include "support/app_folder.h"
-#include "support/errors.h"
 #include "support/machine_fakes.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace pdf {
-
-using support::Row;
 
 // Shows CR LF as "\n", a lone CR as "~" and a lone LF as "^\n".
 inline std::string Readable(std::string_view bytes) {

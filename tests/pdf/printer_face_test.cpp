@@ -1,7 +1,5 @@
 // The document as a drawing target for forms.
 
-#include <gtest/gtest.h>
-
 #include "bitmap/libjpeg_library.h"
 #include "foundation/folders.h"
 #include "pdf/paper.h"

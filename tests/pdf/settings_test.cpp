@@ -1,7 +1,5 @@
 // Units, formats, margins and fonts, and messages for wrong codes.
 
-#include <gtest/gtest.h>
-
 #include "paper.h"
 #include "pdf/tokens.h"
 

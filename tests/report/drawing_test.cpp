@@ -1,7 +1,5 @@
 // The calls that draw a form, and its colours and languages.
 
-#include <gtest/gtest.h>
-
 #include "bitmap/libjpeg_library.h"
 #include "pdf/paper.h"
 #include "report/display_styles.h"

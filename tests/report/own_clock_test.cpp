@@ -1,18 +1,14 @@
 // Rows and pages by a place's own clock.
 
-#include <gtest/gtest.h>
-
 #include "report/own_clock_row.h"
 #include "report/receiver.h"
 #include "support/app_folder.h"
-#include "support/table.h"
 
 namespace report {
 namespace {
 
 using foundation::DateFromParts;
 using foundation::DateTime;
-using support::Row;
 using Texts = std::vector<std::string>;
 
 const atlas::PlaceTexts kEdison = {"World", "Edison(X)", "40.31N", "74.24W", "+6"};

@@ -1,11 +1,10 @@
 // Receives a report without a window.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include "report/make_report.h"
 #include "support/machine_fakes.h"
 #include "support/screen_fakes.h"
+#include "support/test.h"
 
 namespace report {
 

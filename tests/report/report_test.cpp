@@ -1,18 +1,13 @@
 // Reports without a window, from a range of days to drawn pages.
 
-#include <gtest/gtest.h>
-
 #include "report/receiver.h"
-#include "support/errors.h"
 #include "support/locales.h"
-#include "support/table.h"
 
 namespace report {
 namespace {
 
 using foundation::DateFromParts;
 using foundation::DateTime;
-using support::Row;
 using Texts = std::vector<std::string>;
 
 const DateTime k5March = DateFromParts(2011, 3, 5);

@@ -1,10 +1,9 @@
 // The timetable with fakes, by one of the two clocks.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include "screens/frmDurvela.h"
 #include "screens/picker.h"
+#include "support/test.h"
 
 namespace screens {
 

@@ -4,17 +4,13 @@
 // November.
 #include "words/clock_changes.h"
 
-#include <gtest/gtest.h>
-
 #include "support/locales.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace {
 
 using namespace std::chrono;
 using clocks::ZoneClock;
-using support::ExpectRows;
-using support::Row;
 
 TEST(ClockChanges, BelongToTheirDates) {
   const auto on = [](const char* zone, year_month_day date) {

@@ -1,10 +1,8 @@
 // Offsets by the rules as published: America changes on 8 March and 1 November 2026.
 #include "words/clock_text.h"
 
-#include <gtest/gtest.h>
-
 #include "engine/place_decoding.h"
-#include "support/table.h"
+#include "support/test.h"
 #include "words/record_zone.h"
 #include "words/sun_text.h"
 
@@ -12,8 +10,6 @@ namespace {
 
 using namespace std::chrono;
 using clocks::ZoneClock;
-using support::ExpectRows;
-using support::Row;
 
 TEST(ClockText, NamesOffsets) {
   ExpectRows([](auto... offset) { return words::ClockName({offset...}); },
