@@ -35,18 +35,18 @@ TEST(Calendar, RoundsAndCarriesFieldsButRejectsYearsOutside100To9999) {
 
 TEST(Calendar, CivilTimesAreTheSameMoments) {
   using namespace std::chrono;
+  const auto momentOf = [](local_seconds time) {
+    EXPECT_EQ(CivilTimeOf(DateTimeOf(time)), time);
+    return DateTimeOf(time);
+  };
   // Unix time 0, 13 o'clock on the day before number 0, the limits.
-  const std::pair<DateTime, local_seconds> kMoments[] = {
-      {25569, local_seconds(0s)},
-      {-1 + 13 / 24.0, local_days(1899y / 12 / 29) + 13h},
-      {DateFromParts(2026, 11, 1) + TimeFromParts(1, 30, 59),
-       local_days(2026y / 11 / 1) + 1h + 30min + 59s},
-      {DateFromParts(100, 1, 1), local_days(100y / 1 / 1)},
-      {DateFromParts(9999, 12, 31) + TimeFromParts(23, 59, 59), local_days(10000y / 1 / 1) - 1s}};
-  for (const auto& [moment, time] : kMoments) {
-    EXPECT_EQ(CivilTimeOf(moment), time);
-    EXPECT_EQ(DateTimeOf(time), moment);
-  }
+  ExpectRows(momentOf, Row(local_seconds(0s), 25569),
+             Row(local_days(1899y / 12 / 29) + 13h, -1 + 13 / 24.0),
+             Row(local_days(2026y / 11 / 1) + 1h + 30min + 59s,
+                 DateFromParts(2026, 11, 1) + TimeFromParts(1, 30, 59)),
+             Row(local_days(100y / 1 / 1), DateFromParts(100, 1, 1)),
+             Row(local_days(10000y / 1 / 1) - 1s,
+                 DateFromParts(9999, 12, 31) + TimeFromParts(23, 59, 59)));
   EXPECT_ERROR(InvalidCall, DateTimeOf(local_days(100y / 1 / 1) - 1s));
   EXPECT_ERROR(InvalidCall, DateTimeOf(local_days(10000y / 1 / 1)));
 }
