@@ -137,7 +137,7 @@ struct PrintDialog : testing::Test {
   PrintDialog() {
     QTimer::singleShot(0, &waiting, [this] {
       auto* const dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
-      for (const char* choice : {"gbPrintRange", "reverse"}) {
+      for (const char* choice : {"gbPrintRange", "pageSetCombo", "reverse"}) {
         offersOtherPages |= dialog->findChild<QWidget*>(QLatin1String(choice))->isEnabled();
       }
       owner = dialog->windowHandle()->transientParent();
