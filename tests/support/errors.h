@@ -23,11 +23,11 @@ std::string FailureOf(Operation operation) {
 }  // namespace support
 
 // Expects an error of this kind.
-#define EXPECT_ERROR(kind, ...)                                             \
-  try {                                                                     \
-    static_cast<void>(__VA_ARGS__);                                         \
-    ADD_FAILURE() << #__VA_ARGS__ << " does not fail";                      \
-  } catch (const ::foundation::Error& error) {                              \
-    EXPECT_EQ(error.Kind(), ::foundation::ErrorKind::kind) << error.what(); \
-  }                                                                         \
+#define EXPECT_ERROR(kind, ...)                                               \
+  try {                                                                       \
+    static_cast<void>(__VA_ARGS__);                                           \
+    ADD_FAILURE() << #__VA_ARGS__ << " does not fail";                        \
+  } catch (const ::foundation::Error& raised) {                               \
+    EXPECT_EQ(raised.Kind(), ::foundation::ErrorKind::kind) << raised.what(); \
+  }                                                                           \
   static_assert(true, "")
