@@ -25,9 +25,12 @@ ChosenPlace WithClock(atlas::Place place, const atlas::PlaceTexts& texts, bool o
   place.zone = own.zone;
   if (ofCountry) return {std::move(place), atlas::CountryClock(texts).clock, true, ""};
   ChosenPlace chosen = {std::move(place), own.clock, own.source == PlaceClock::Source::Country, ""};
-  if (chosen.countryClock) {
+  const bool isNeighbours = own.source == PlaceClock::Source::Neighbour;
+  if (chosen.countryClock || isNeighbours) {
     chosen.note =
-        "no zone is known for " + PlaceName(chosen.place) + "; its country's clock is used";
+        "no zone is known for " + PlaceName(chosen.place) + "; " +
+        (isNeighbours ? "the nearest place's, " + own.zone + "," : "its country's clock") +
+        " is used";
   }
   return chosen;
 }

@@ -100,6 +100,14 @@ TEST_F(Days, TheDefaultPlaceIsThatOfTheSettings) {
   EXPECT_EQ(Json("--place Edison --country US", "/place/zone"), R"("Asia/Tokyo")");
 }
 
+TEST_F(Days, APlaceThatTheAtlasLacksKeepsItsNeighboursClock) {
+  program.settings.SaveSetting("Durvela", foundation::kPlaceSection, "city", "Home");
+  EXPECT_EQ(Place("")["zone"], "Asia/Kolkata");
+  EXPECT_EQ(errors,
+            "durvela-cli: no zone is known for Home, India; the nearest place's, "
+            "Asia/Kolkata, is used\n");
+}
+
 TEST_F(Days, APlaceWithoutAnIndexKeepsItsCountrysClock) {
   program.settings.SaveSetting("Durvela", foundation::kPlaceSection, "country", "Atlantis");
   EXPECT_EQ(Json("--date 2011-01-01", "/sun/rise"), R"("2011-01-01T07:14:00+05:30")");
