@@ -107,6 +107,13 @@ TEST_F(PreferencesForm, UndoWhatCannotBeSavedAndSaySo) {
   EXPECT_EQ(boxes.shown[0].text, "The setting was not saved: The disk is full");
 }
 
+TEST_F(PreferencesForm, CloseByEscapeOrTheirButton) {
+  forms::KeyPress press = {forms::Key::Escape};
+  form.Form_KeyDown(press);
+  form.Close.onClick();
+  EXPECT_EQ(host.calls, std::vector<std::string>(2, "Unload Preferences"));
+}
+
 struct ZoneSearch : PreferencesForm {
   ZoneSearch() { zones.Load("Europe/London"); }
   std::string Found(const char* text) {
