@@ -8,8 +8,8 @@
 
 #include "foundation/files.h"
 #include "foundation/settings_file.h"
-#include "support/temporary_folder.h"
 #include "support/full_disk.h"
+#include "support/temporary_folder.h"
 #include "support/test.h"
 
 namespace foundation {

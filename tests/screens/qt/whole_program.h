@@ -2,8 +2,8 @@
 #pragma once
 
 #include "screens/qt/application.h"
-#include "support/temporary_folder.h"
 #include "support/machine_fakes.h"
+#include "support/temporary_folder.h"
 
 namespace screens::qt {
 
