@@ -22,6 +22,7 @@ TEST(EveryDay, RoundTripsThroughItsSerialNumber) {
     EXPECT_EQ(engine::CivilDate(day.day, day.month, day.year), day.serial);
     EXPECT_EQ(engine::DayNumber(day.day, day.month, day.year), day.serial + 694024);
     if (day.isLastOfMonth) {
+      EXPECT_EQ(DateFromParts(day.year, day.month + 1, 0), day.serial);
       EXPECT_ERROR(TypeMismatch, engine::CivilDate(day.day + 1, day.month, day.year));
     }
     const DateTimeFields at = MomentOf(day);
