@@ -35,9 +35,11 @@ TEST_F(Arguments, ThatAreInvalid) {
                  {"--name Home", "--zone UTC", "--longitude 1", "--latitude 1 --longitude 1",
                   "--latitude 1 --longitude 1 --zone UTC --clock country"});
   ExpectRefusals(2, "no number of degrees", "day --zone UTC --longitude 1 --latitude ",
-                 {"-90.001", "nan", "1e1", "1.5N", "\" 1\"", "--1", ".", std::string(400, '9')});
+                 {"91", "-90.001", "nan", "inf", "1e1", "0x1", "1,5", "1.5N", "\" 1\"", "--1", ".",
+                  std::string(400, '9')});
   ExpectRefusals(2, "no number of degrees", "day --zone UTC --latitude 1 --longitude ", {"180.5"});
-  ExpectRefusals(2, "no zone", "day --latitude 1 --longitude 1 --zone ", {"Mars/Base", "\"\""});
+  ExpectRefusals(2, "no zone", "day --latitude 1 --longitude 1 --zone ",
+                 {"Mars/Base", "\"\"", "localtime"});
   ExpectRefusals(2, "--date", "day --date ",
                  {"", "2026-02-30", "2026-2-3", "26-02-03", "2026-02-03T00:00", "-2026-02-03",
                   "99999999999999999999-01-01", "tomorrow"});
