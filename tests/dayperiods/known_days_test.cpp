@@ -26,8 +26,8 @@ struct KnownDay {
 };
 
 // Summer days whose rise and set come out swapped, moments before sunrise where that remains, first
-// days of months and years, times at exact half seconds, "18:0", "24:0", and latitudes beyond 63
-// degrees.
+// days of months and years, times at exact half seconds, "18:0", "24:0", and latitudes of 63
+// degrees and beyond.
 const KnownDay kDays[] = {
 #include "dayperiods/known_days.inc"
 };
