@@ -91,8 +91,8 @@ TEST(DateText, ReadsTypedDates) {
              Row(" 30-SEPT-11 ", Fields(2011, 9, 30)), Row("31/de/9999", Fields(9999, 12, 31)),
              Row("1 ja 100", Fields(100, 1, 1)));
   constexpr std::string_view kTexts =
-      "|5/3|5/ma/2011|1/j/2011|5/marchs/2011|mar 5 2011|5 6 mar|5 mar 6 2011|29/feb/2011|1/1/10000|"
-      "6:12|5/3/2011 6:12|2011-3-5|12.30";
+      "|5/3|5/ma/2011|1/j/2011|31/d/2011|5/marchs/2011|mar 5 2011|5 6 mar|5 mar 6 2011|29/feb/2011|"
+      "1/1/10000|6:12|5/3/2011 6:12|2011-3-5|12.30";
   for (const auto text : Split(kTexts, '|')) EXPECT_FALSE(TryReadTypedDate(text)) << text;
 
   LocaleNames names = EnglishNames();  // Finnish, where "mar" is November; and a Hindi July

@@ -1,5 +1,6 @@
 // The settings file, also when several programs use it.
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <fstream>
@@ -64,6 +65,19 @@ TEST_F(Store, SeesEveryChangeToItsFile) {
   EXPECT_EQ(Held("city"), "400");
   fs::remove(file);
   EXPECT_EQ(Held("city"), "none");
+}
+
+// No file can be opened for a while, and none changes.
+TEST_F(Store, ReadsAgainAfterAFailure) {
+  Write("[settings]\ncity=Agra\n");
+  std::this_thread::sleep_for(50ms);
+  rlimit before = {};
+  getrlimit(RLIMIT_NOFILE, &before);
+  const rlimit none = {0, before.rlim_max};
+  setrlimit(RLIMIT_NOFILE, &none);
+  EXPECT_EQ(Held("city"), "none");
+  setrlimit(RLIMIT_NOFILE, &before);
+  EXPECT_EQ(Held("city"), "Agra");
 }
 
 TEST_F(Store, KeepsPermissionsAndLinks) {
