@@ -135,11 +135,15 @@ TEST(OwnClock, PictureAndLabelsAgree) {
       ASSERT_EQ(d.Picture().find(d.form.lblSR.caption.substr(0, 5) + " " +
                                  d.form.lblSS.caption.substr(0, 5) + "\nDurvela\n" + durvela),
                 0U);
+      const std::string& times = scene.durvela.times;
+      const double later =
+          SecondsOf(times.substr(8) + ":00") - SecondsOf(d.form.lblDurvela.caption.substr(9));
+      ASSERT_TRUE(later >= 0 && later < 60) << times;
     }
   }
 }
 
-// A zone of the user's; a place that the index lacks; another country.
+// A place that the index lacks; another country.
 TEST(OwnClock, SaysIfTheClockIsNotThePlacesOwn) {
   const support::AppFolderScope folder;
   folder.Write("atlas/World.index",

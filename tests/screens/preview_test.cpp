@@ -94,6 +94,9 @@ TEST_F(Preview, ScrollsByKeysWheelAndDragging) {
   EXPECT_FALSE(preview.lblProduct.visible);  // it would cover the buttons
   EXPECT_GT(preview.minimumWidth, preview.cmdPrint.place.left + preview.cmdPrint.place.width);
   EXPECT_NEAR(preview.VScroll1.scroll.largeChange, 0.5 * distance, 0.5);
+  const forms::Place& frame = preview.picPage.place;  // which no bar covers
+  EXPECT_LE(frame.top + frame.height, preview.HScroll1.place.top);
+  EXPECT_LE(frame.left + frame.width, preview.VScroll1.place.left);
   const auto press = [&](forms::Key key, int times) {
     forms::KeyPress keyPress = {key};
     for (int i = 0; i < times; ++i) preview.Form_KeyDown(keyPress);
@@ -116,6 +119,10 @@ TEST_F(Preview, ScrollsByKeysWheelAndDragging) {
   preview.PIC.onMouseUp({400, 300});
   EXPECT_EQ(preview.VScroll1.scroll.value, 200);
   EXPECT_EQ(drag(true), std::tuple(-100, -200, false));
+  preview.PIC.onMouseDown({500, 500});
+  preview.PIC.onMouseMove({{300, 100}, true});
+  preview.PIC.onMouseUp({300, 100});
+  EXPECT_EQ(std::tuple(page.left, page.top), std::tuple(-100, -200));
   preview.cmdNext.onClick();  // begins at its top left
   EXPECT_EQ(std::tuple(page.left, page.top), std::tuple(0, 0));
 
@@ -128,10 +135,12 @@ TEST_F(Preview, SlidesItsPanelInAndOut) {
   const auto slide = [](const forms::Control& timer) {
     for (int i = 0; i < 100 && timer.enabled; ++i) timer.onTimer();
   };
-  preview.activeControl = &preview.cmdHide;
-  preview.cmdHide.onClick();
-  EXPECT_EQ(std::tuple(preview.cmdShow.visible, preview.activeControl, preview.lstPage.tabStop),
-            std::tuple(true, &preview.cmdShow, false));
+  for (forms::Control* gone : {&preview.lstPage, &preview.cmdHide}) {
+    preview.activeControl = gone;
+    preview.cmdHide.onClick();
+    EXPECT_EQ(std::tuple(preview.cmdShow.visible, preview.activeControl, preview.lstPage.tabStop),
+              std::tuple(true, &preview.cmdShow, false));
+  }
   slide(preview.Timer1);
   EXPECT_EQ(std::tuple(panel.width, preview.cmdShow.place.left, preview.lstPage.visible),
             std::tuple(button.width, 0, false));

@@ -102,6 +102,8 @@ TEST_F(Timetable, MarksAListForOtherDatesUntilQuickView) {
     forms::SetMoment(*field, moment);
     EXPECT_EQ(mark(), "");
   }
+  forms::SetMoment(form.DT1, form.DT1.moment + 1);
+  EXPECT_EQ(mark(), "Shown: Delhi, from 5 March 2011. Press Quick View.");
   forms::SetMoment(form.DT2, form.DT1.moment);
   form.cmdShow.onClick();
   EXPECT_EQ(mark(), "");
