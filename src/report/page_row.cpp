@@ -97,10 +97,12 @@ void FillRow(pk_Durvela& page, int row, foundation::DateTime moment, const words
 }
 
 void FillNote(pk_Durvela& page, int row, std::string_view change) {
-  const std::size_t blank = change.find(' ');
-  if (blank == std::string_view::npos) return;
-  page.lblNote[row].caption =
-      std::string(change.substr(0, blank)) + "\r\n" + std::string(change.substr(blank + 1));
+  if (change.empty()) return;
+  std::string& note = page.lblNote[row].caption;
+  note.clear();
+  for (const std::string_view word : foundation::Split(change, ' ')) {
+    note += (note.empty() ? "" : "\r\n") + std::string(word);
+  }
 }
 
 }  // namespace report

@@ -94,7 +94,7 @@ inline std::vector<Properties> Times(float left) {
   return Column(left, 750, "00:00:00");
 }
 
-// In the right margin, two lines each.
+// In the right margin, a word a line.
 inline std::vector<Properties> Notes() {
   constexpr float kLeft = 12915, kAboveRow = 40, kSize = 7.5F;
   std::vector<Properties> notes = Column(kLeft, kWidth - kLeft, "");

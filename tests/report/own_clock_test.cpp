@@ -77,7 +77,7 @@ TEST_F(ReportByOwnClock, APageNamesTheClockAndNotesItsChange) {
   const std::string place = "(Edison(X)  Long:74.24W  Lat:40.31N  Zone:UTC-4";
   EXPECT_EQ(target.After("Print 7665 360 "), Texts{place + ")"});
   EXPECT_EQ(target.After("Print 5365 360 "), Texts{place + ", from 1 November UTC-5)"});
-  EXPECT_EQ(target.After("Print 12915 "), (Texts{"1280 clocks", "1520 go back"}));
+  EXPECT_EQ(target.After("Print 12915 "), (Texts{"1280 clocks", "1520 go", "1760 back"}));
 
   atlas::PlaceTexts wordy = kEdison;
   wordy.city = "Mosynopolis - Maximianopolis - Maximianoupolis(East Macedonia and Thrace)";
