@@ -9,6 +9,7 @@
 #include <QPaintEngine>
 #include <QPrintDialog>
 #include <QPrinterInfo>
+#include <QRegularExpression>
 #include <QStringEncoder>
 #include <QTemporaryDir>
 #include <QTest>
@@ -77,6 +78,24 @@ TEST(PreviewWindow, DragsItsPageByTheLeftButtonWithoutAModifier) {
   }
 }
 
+// What the sheets of a PDF file draw.
+QString Drawn(const QByteArray& pdf) {
+  const QByteArray before = ">>\nstream\n", unknownSize(4, '\0');
+  QByteArray drawn;
+  for (qsizetype at = 0; (at = pdf.indexOf(before, at)) >= 0;) {
+    at += before.size();
+    if (pdf[at] == 'x') drawn += qUncompress(unknownSize + pdf.mid(at));  // not a picture
+  }
+  return QString::fromLatin1(drawn);
+}
+
+// How much wider than high the first sheet is, in points.
+double WiderThanHigh(const QByteArray& pdf) {
+  const QRegularExpression box(u"/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]"_s);
+  const QRegularExpressionMatch size = box.match(QString::fromLatin1(pdf));
+  return size.captured(1).toDouble() - size.captured(2).toDouble();
+}
+
 // A page of 909 by 682 logical pixels at the screen's resolution.
 TEST(Printing, GivesAPageOfPixelsAndASheetForEachMonth) {
   const QTemporaryDir folder;
@@ -92,6 +111,24 @@ TEST(Printing, GivesAPageOfPixelsAndASheetForEachMonth) {
   const QByteArray pdf = BytesOf(file);
   EXPECT_EQ(pdf.count("/Type /Page\n"), 3);  // no blank sheet follows
   EXPECT_EQ(pdf.count("/Width " + QByteArray::number(909 * ratio)), 3);
+  EXPECT_LT(WiderThanHigh(pdf), 0);
+  // From the corner of the sheet, in units of 0.06 points, as wide as in the preview.
+  const QString drawn = Drawn(pdf);
+  EXPECT_EQ(drawn.count(u"\n0.060000000 0 0 -0.060000000 0 "_s), 3);
+  const QRegularExpression placed(u"\n([0-9.]+) 0 0 [0-9.]+ 0 0 cm\n([0-9.]+) 0 0 -"_s);
+  const QRegularExpressionMatch scales = placed.match(drawn);
+  EXPECT_NEAR(0.06 * scales.captured(1).toDouble() * scales.captured(2).toDouble(), 13635 / 20.0,
+              0.1);
+}
+
+TEST(Printing, TurnsTheSheetForAWidePage) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(u"wide.pdf"_s);
+  QtPrinter printer(file);
+  printer.SetOrientation(forms::Orientation::Landscape);
+  printer.Print("wide");
+  printer.EndDoc();
+  EXPECT_GT(WiderThanHigh(BytesOf(file)), 0);
 }
 
 TEST(Printing, NamesAFileThatItCannotWrite) {
