@@ -102,7 +102,7 @@ TEST_F(Days, TheDefaultPlaceIsThatOfTheSettings) {
 
 TEST_F(Days, APlaceThatTheAtlasLacksKeepsItsNeighboursClock) {
   program.settings.SaveSetting("Durvela", foundation::kPlaceSection, "city", "Home");
-  EXPECT_EQ(Place("")["zone"], "Asia/Kolkata");
+  EXPECT_EQ(Json("", "/place/zone"), R"("Asia/Kolkata")");
   EXPECT_EQ(errors,
             "durvela-cli: no zone is known for Home, India; the nearest place's, "
             "Asia/Kolkata, is used\n");
