@@ -1,6 +1,8 @@
 // Charts and what is derived from them, compared with the Swiss Ephemeris and libnova if installed.
 
 #include "bench/figure.h"
+#include "cli/day_json.h"
+#include "day/day.h"
 #include "dayperiods/clsBirthDetails.h"
 #include "dayperiods/clsUtilities.h"
 #include "engine/clsPP.h"
@@ -202,6 +204,33 @@ FIGURE(PeriodsBySwissEphemeris, PERIODS, "Swiss Ephemeris, analytic, no chart")
     ->Unit(benchmark::kMillisecond);
 
 #endif
+
+// What the windows and `durvela-cli` ask for.
+const atlas::Place kPlace = {"Delhi", "Delhi", "India", kLatitude, kLongitude, "Asia/Kolkata"};
+
+day::Day DayAt(const clocks::ZoneClock& clock, DateTime date) {
+  return day::DayOf(kPlace, clock,
+                    std::chrono::floor<std::chrono::days>(foundation::CivilTimeOf(date)));
+}
+
+void OneDay(benchmark::State& state) {
+  const auto clock = clocks::ZoneClock::Named(kPlace.zone).value();
+  Moments moments;
+  for (auto _ : state) {
+    day::Day value = DayAt(clock, moments.Next());
+    benchmark::DoNotOptimize(value);
+  }
+}
+FIGURE(OneDay, "a day by the place's own clock: sun and periods", "Durvela");
+
+void YearAsJson(benchmark::State& state) {
+  const auto clock = clocks::ZoneClock::Named(kPlace.zone).value();
+  EachDayOfAYear(state, [&](DateTime date) {
+    std::string line = cli::DayJson(kPlace, clock, DayAt(clock, date));
+    benchmark::DoNotOptimize(line);
+  });
+}
+FIGURE(YearAsJson, "a year of such days as JSON", "Durvela")->Unit(benchmark::kMillisecond);
 
 // Calculates 21 charts by hours, 60 by minutes and 59 by seconds, since this tithi ends at 19:24:19
 // on the next day: close to the worst case.
