@@ -62,7 +62,7 @@ InformationScreen::InformationScreen(const InformationPage& page, forms::FormHos
   backColour = palette::kPaper;
 }
 
-void InformationScreen::AddPictures(const std::vector<Period>& periods) {
+void InformationScreen::AddPictures(const std::vector<PeriodKind>& periods) {
   const auto add = [&](const char* box, const char* spokenName, float y,
                        const forms::PicturePtr& drawn) {
     forms::Properties properties;
@@ -96,7 +96,7 @@ const InformationPage& WhatIsPage() {
        "Each weekday has its own part, counted from sunrise. The table shows which.",
        "Sunrise and sunset are those of your own place, so each town has its own times. The night "
        "has no Durvela."},
-      {Period::Durvela}};
+      {PeriodKind::Durvela}};
   return kPage;
 }
 
@@ -112,7 +112,7 @@ const InformationPage& CalculatePage() {
        "without a sunrise or a sunset is not divided; nor, by the country's clock, is any day "
        "beyond "
        "63 degrees of latitude."},
-      {Period::Durvela, Period::Gulik, Period::Yum}};
+      {PeriodKind::Durvela, PeriodKind::Gulik, PeriodKind::Yum}};
   return kPage;
 }
 
@@ -128,7 +128,7 @@ const InformationPage& GulikPage() {
        "So Gulika Kaal comes a part earlier from one day to the next. On Saturday the first part "
        "and "
        "the last are both Saturn's, and the last one counts."},
-      {Period::Gulik}};
+      {PeriodKind::Gulik}};
   return kPage;
 }
 
@@ -143,7 +143,7 @@ const InformationPage& YumPage() {
        "the next by that of the following day, and so on; the eighth has the first ruler again.",
        "So Yama Ghantak comes a part earlier from one day to the next. On Thursday the first part "
        "and the last are both Jupiter's, and the last one counts."},
-      {Period::Yum}};
+      {PeriodKind::Yum}};
   return kPage;
 }
 

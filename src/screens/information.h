@@ -15,7 +15,7 @@ struct InformationPage {
   std::string_view title;  // of the window and the page
   int sign;                // index into MenuSigns
   std::vector<std::string_view> paragraphs;
-  std::vector<Period> periods;  // shown on the sample day and by weekday; empty for no pictures
+  std::vector<PeriodKind> periods;  // shown on the sample day and by weekday; empty for no pictures
 };
 
 // A page with its pictures and an OK button; Escape closes it too.
@@ -27,7 +27,7 @@ class InformationScreen : public ScaledForm {
   void cmdOK_Click();
 
  private:
-  void AddPictures(const std::vector<Period>& periods);
+  void AddPictures(const std::vector<PeriodKind>& periods);
 
   forms::FormHost& host_;
 };

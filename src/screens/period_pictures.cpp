@@ -39,7 +39,7 @@ struct PeriodLook {
   int (*segment)(int weekday);
 };
 
-const PeriodLook& LookOf(Period period) {
+const PeriodLook& LookOf(PeriodKind period) {
   static constexpr PeriodLook kLooks[] = {
       {"Durvela", palette::kDurvelaOnPaper, dayperiods::DurvelaSegment},
       {"Gulik", palette::kGulikOnPaper, dayperiods::GulikSegment},
@@ -64,10 +64,10 @@ DayScene SampleScene() {
   return SceneOf(SampleDate() + 0.5, session);
 }
 
-const DayScene::PeriodTimes& TimesOf(const DayScene& scene, Period period) {
-  return period == Period::Durvela ? scene.durvela
-         : period == Period::Gulik ? scene.gulik
-                                   : scene.yum;
+const DayScene::PeriodTimes& TimesOf(const DayScene& scene, PeriodKind period) {
+  return period == PeriodKind::Durvela ? scene.durvela
+         : period == PeriodKind::Gulik ? scene.gulik
+                                       : scene.yum;
 }
 
 void DrawPart(forms::Picture& picture, int segment, Colour fill, Colour ink) {
@@ -93,11 +93,11 @@ void Write(forms::Picture& picture, std::string_view text, Point at, Alignment a
 
 }  // namespace
 
-forms::PicturePtr SampleDay(const std::vector<Period>& periods) {
+forms::PicturePtr SampleDay(const std::vector<PeriodKind>& periods) {
   const DayScene scene = SampleScene();
   auto picture = forms::NewPicture(kWidth, 208);
   for (int segment = 1; segment <= dayperiods::kSegmentsOfDaylight; ++segment) {
-    const auto period = std::find_if(periods.begin(), periods.end(), [&](Period of) {
+    const auto period = std::find_if(periods.begin(), periods.end(), [&](PeriodKind of) {
       return TimesOf(scene, of).segment == segment;
     });
     const bool free = period == periods.end();
@@ -105,7 +105,7 @@ forms::PicturePtr SampleDay(const std::vector<Period>& periods) {
              free ? palette::kInk : palette::kWhite);
   }
   double line = kCentre.y - 10 - kLine * static_cast<double>(periods.size() - 1);
-  for (const Period period : periods) {
+  for (const PeriodKind period : periods) {
     const PeriodLook& look = LookOf(period);
     Write(*picture, std::string(look.name) + " " + TimesOf(scene, period).times, {kCentre.x, line},
           Alignment::Centre, 13, look.colour, true);
@@ -125,7 +125,7 @@ forms::PicturePtr SampleDay(const std::vector<Period>& periods) {
   return picture;
 }
 
-forms::PicturePtr WeekdayTable(const std::vector<Period>& periods) {
+forms::PicturePtr WeekdayTable(const std::vector<PeriodKind>& periods) {
   auto picture = forms::NewPicture(kWidth, kRowHeight * static_cast<double>(periods.size() + 1));
   const auto middle = [](int weekday) { return kNameWidth + kColumn * (weekday - 0.5); };
   for (int weekday = 1; weekday <= kDays; ++weekday) {
@@ -133,7 +133,7 @@ forms::PicturePtr WeekdayTable(const std::vector<Period>& periods) {
           12.5, palette::kQuiet);
   }
   double top = kRowHeight;
-  for (const Period period : periods) {
+  for (const PeriodKind period : periods) {
     const PeriodLook& look = LookOf(period);
     picture->items.emplace_back(forms::Outline{
         Path().MoveTo({0, top}).LineTo({kWidth, top}), forms::kTransparent, {palette::kRule, 1}});
