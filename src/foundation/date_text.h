@@ -29,8 +29,8 @@ DateTime ReadDateTime(std::string_view text);
 // A time without a date, as a fraction of a day.
 std::optional<DateTime> TryReadTime(std::string_view text);
 
-// Reads a date in the looser form that users type: dots also separate the fields ("5.3.2011"), and
-// MonthByBeginning resolves abbreviated months ("5 Mar 2011", "5. Mar. 2011").
+// Reads a date in the looser form that users type: full stops also separate the fields
+// ("5.3.2011"), and MonthByBeginning resolves abbreviated months ("5 Mar 2011", "5. Mar. 2011").
 std::optional<DateTime> TryReadTypedDate(std::string_view text);
 
 // Reads a time in the looser form that users type, which needs no colon: "0605 pm", "1805".

@@ -42,7 +42,7 @@ class PageReceiver {
 // Includes the last day, whatever the time of day. Makes a single empty page if DT1 is after DT2.
 // Writes the place to the current record, and yields after each row. By the country's clock, errors
 // of the calculations; by the place's own, a row that has no times has dashes, and the progress
-// tells on how many days the sun does not rise or set.
+// says on how many days the sun does not rise or set.
 void MakeReport(const ReportInput& input, foundation::SessionTable& session,
                 foundation::Yielder& yielder, PageReceiver& receiver);
 

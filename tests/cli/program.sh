@@ -7,8 +7,9 @@ folder=$(mktemp -d)
 trap 'rm -r "$folder"' EXIT
 export XDG_CONFIG_HOME=$folder HOME=$folder
 
-ldd "$program" | grep -qF libstdc++
-[ "$(ldd "$program" | grep -ciE 'qt|libX11|wayland')" -eq 0 ]
+ldd "$program" >"$folder/libraries"
+grep -qF libstdc++ "$folder/libraries"
+[ "$(grep -ciE 'qt|libX11|wayland' "$folder/libraries")" -eq 0 ]
 
 days=(days --place Edison --state "New Jersey" --from 2026-10-25 --to 2026-11-07)
 TZ=UTC LC_ALL=C "$program" "${days[@]}" >"$folder/here"
