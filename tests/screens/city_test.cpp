@@ -1,16 +1,11 @@
 // The city picker, without a screen.
 
-#include <gtest/gtest.h>
-
 #include "screens/find_in_list.h"
 #include "screens/picker.h"
-#include "support/errors.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace screens {
 namespace {
-
-using support::Row;
 
 struct CityPicker : testing::Test, Picker {
   CityPicker() { form.Load("India", "Delhi", caller); }

@@ -1,17 +1,13 @@
 #include "screens/day_scene.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 
 #include "screens/day_sky.h"
 #include "support/session_at.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace screens {
 namespace {
-
-using support::Row;
 
 DayScene SceneAt(int hour, int minute, const char* latitude = "28.40N") {
   return SceneOf(foundation::DateFromParts(2011, 3, 5) + foundation::TimeFromParts(hour, minute, 0),

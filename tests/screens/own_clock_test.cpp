@@ -1,18 +1,15 @@
 // The dashboard by the place's own clock. Sunrise and sunset are PyEphem's (horizon -0:50, pressure
 // 0, use_center), offsets and letters those of Python's zoneinfo.
 
-#include <gtest/gtest.h>
-
 #include "foundation/time_text.h"
 #include "support/app_folder.h"
 #include "support/dashboard.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace screens {
 namespace {
 
 using namespace std::chrono;
-using support::Row;
 
 struct Site {
   const char *latitude, *longitude, *zone;

@@ -2,17 +2,13 @@
 
 #include "screens/preferences.h"
 
-#include <gtest/gtest.h>
-
 #include "screens/zone_list.h"
 #include "support/app_folder.h"
 #include "support/dashboard.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace screens {
 namespace {
-
-using support::Row;
 
 struct Store : support::FakeSettings {
   bool full = false;

@@ -1,18 +1,14 @@
 // The print preview: pages, scrolling, side panel, printing.
 
-#include <gtest/gtest.h>
-
 #include "foundation/version.h"
 #include "report/page_files.h"
 #include "screens/previewing.h"
-#include "support/errors.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace screens {
 namespace {
 
 using foundation::DateFromParts;
-using support::Row;
 using Texts = std::vector<std::string>;
 
 struct PageFiles

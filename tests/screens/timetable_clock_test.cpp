@@ -2,14 +2,13 @@
 
 #include "forms/moment_picker.h"
 #include "screens/timetable.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace screens {
 namespace {
 
 using namespace std::chrono;
 using foundation::DateFromParts;
-using support::Row;
 
 struct TimetableByOwnClock : TimetableByClock {
   TimetableByOwnClock() : TimetableByClock(atlas::ClockChoice::Own) {

@@ -2,18 +2,15 @@
 
 #include "screens/timetable.h"
 
-#include <gtest/gtest.h>
-
 #include "forms/moment_picker.h"
 #include "screens/find_in_list.h"
 #include "support/locales.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace screens {
 namespace {
 
 using foundation::DateFromParts;
-using support::Row;
 
 struct Timetable : TimetableByClock {
   Timetable() : TimetableByClock(atlas::ClockChoice::Country) {}

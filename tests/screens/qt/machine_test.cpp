@@ -1,8 +1,6 @@
 // The machine as Qt reports it: its clock, names of the locale, pictures on the clipboard and in
 // files.
 
-#include <gtest/gtest.h>
-
 #include <QtWidgets>
 #include <chrono>
 #include <ctime>
@@ -14,13 +12,12 @@
 #include "screens/qt/qt_machine.h"
 #include "support/app_folder.h"
 #include "support/machine_fakes.h"
-#include "support/table.h"
+#include "support/test.h"
 
 namespace screens::qt {
 namespace {
 
 using namespace std::chrono_literals;
-using support::Row;
 
 // East of Greenwich, of "+05:30:00".
 std::chrono::seconds OffsetByDate(std::chrono::seconds moment) {

@@ -1,7 +1,5 @@
 // The print preview in its window: focus, pages as pixels, printing.
 
-#include <gtest/gtest.h>
-
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFile>
@@ -20,8 +18,8 @@
 #include "screens/previewing.h"
 #include "screens/qt/qt_host.h"
 #include "screens/qt/qt_printer.h"
-#include "support/errors.h"
 #include "support/full_disk.h"
+#include "support/test.h"
 
 namespace screens::qt {
 namespace {
