@@ -8,6 +8,7 @@
 #include "foundation/error.h"
 #include "foundation/numbers.h"
 #include "foundation/time_text.h"
+#include "foundation/version.h"
 
 namespace atlas {
 namespace {
@@ -42,6 +43,14 @@ std::optional<std::int32_t> ArcMinutes(std::string_view text, char positive, cha
   return text.ends_with(negative) ? -minutes : minutes;
 } catch (const foundation::Error&) {  // a number too large
   return std::nullopt;
+}
+
+PlaceTexts DefaultPlace(foundation::Settings& settings) {
+  const auto read = [&](std::size_t i) {
+    const auto& [key, fallback] = foundation::kPlaceSettings[i];
+    return settings.GetSetting(foundation::kProgramName, foundation::kPlaceSection, key, fallback);
+  };
+  return {read(0), read(1), read(2), read(3), read(5)};  // without the meridian
 }
 
 std::optional<Place> PlaceOfTexts(const PlaceTexts& texts) {

@@ -14,6 +14,9 @@ namespace atlas {
 // calculation, "77.00E" is 77 degrees. Nothing if the text is no such angle.
 std::optional<std::int32_t> ArcMinutes(std::string_view text, char positive, char negative);
 
+// The default place of the settings. Errors of the store.
+PlaceTexts DefaultPlace(foundation::Settings& settings);
+
 // "Delhi(Delhi)" is a name and a state. The zone is left empty. Nothing if a coordinate cannot be
 // read, or is beyond 90 or 180 degrees.
 std::optional<Place> PlaceOfTexts(const PlaceTexts& texts);

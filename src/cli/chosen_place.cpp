@@ -10,7 +10,6 @@
 #include "cli/failure.h"
 #include "foundation/folders.h"
 #include "foundation/numbers.h"
-#include "foundation/version.h"
 
 namespace cli {
 namespace {
@@ -36,11 +35,7 @@ ChosenPlace WithClock(atlas::Place place, const atlas::PlaceTexts& texts, bool o
 }
 
 ChosenPlace Default(bool ofCountry, foundation::Settings& settings) {
-  const auto read = [&](std::size_t i) {
-    const auto& [key, fallback] = foundation::kPlaceSettings[i];
-    return settings.GetSetting(foundation::kProgramName, foundation::kPlaceSection, key, fallback);
-  };
-  const atlas::PlaceTexts texts = {read(0), read(1), read(2), read(3), read(5)};
+  const atlas::PlaceTexts texts = atlas::DefaultPlace(settings);
   auto place = atlas::PlaceOfTexts(texts);
   if (!place) {
     throw Failure(Status::Impossible, "the default place has no position that can be read: " +

@@ -3,8 +3,8 @@
 #include <array>
 #include <string>
 
+#include "atlas/place_texts.h"
 #include "foundation/error.h"
-#include "foundation/version.h"
 #include "words/clock_text.h"
 
 namespace screens {
@@ -36,17 +36,6 @@ std::string_view SourceOf(const PlaceClock& clock) {
       break;
   }
   return "the country's; the zone of the place is not known";
-}
-
-atlas::PlaceTexts DefaultPlace(foundation::Settings& settings) {
-  std::array<std::string, foundation::kPlaceSettings.size()> texts;
-  for (std::size_t i = 0; i < texts.size(); ++i) {
-    const auto& [key, fallback] = foundation::kPlaceSettings[i];
-    texts[i] =
-        settings.GetSetting(foundation::kProgramName, foundation::kPlaceSection, key, fallback);
-  }
-  const auto& [country, city, latitude, longitude, meridian, zone] = texts;
-  return {country, city, latitude, longitude, zone};
 }
 
 }  // namespace
@@ -81,7 +70,7 @@ void Preferences::ClockChoices_Click() {
 }
 
 void Preferences::ChooseZone_Click() {
-  const atlas::PlaceTexts place = DefaultPlace(services_.settings);
+  const atlas::PlaceTexts place = atlas::DefaultPlace(services_.settings);
   zones_.Load(atlas::ClockOfPlace(services_.settings, place).zone);
   services_.host.ShowModal(zones_, *this);
   if (!zones_.Answer()) return;
@@ -91,7 +80,7 @@ void Preferences::ChooseZone_Click() {
 void Preferences::Defaults_Click() {
   Save([&] {
     atlas::SaveClockChoice(services_.settings, ClockChoice::Own);
-    atlas::SaveChosenZone(services_.settings, DefaultPlace(services_.settings), "");
+    atlas::SaveChosenZone(services_.settings, atlas::DefaultPlace(services_.settings), "");
   });
 }
 
@@ -117,7 +106,7 @@ void Preferences::ShowSettings() {
   ClockMeaning.caption = kClockChoices.at(static_cast<std::size_t>(choice)).meaning;
   ClockChoices.spokenText = ClockMeaning.caption;
 
-  const atlas::PlaceTexts place = DefaultPlace(services_.settings);
+  const atlas::PlaceTexts place = atlas::DefaultPlace(services_.settings);
   Place.caption = place.city + ", " + place.country;
   ChooseZone.enabled = choice == ClockChoice::Own;
   if (choice == ClockChoice::Country) {
